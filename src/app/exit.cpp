@@ -1,0 +1,32 @@
+// Leaving: red lamp, settings saved, marker gone, device stopped.
+#include "app/exit.h"
+
+#include "base/text.h"
+#include "platform/ports/cd_device.h"
+#include "platform/ports/core_gate.h"
+#include "platform/ports/files.h"
+#include "platform/ports/screen.h"
+#include "state/settings_files.h"
+
+namespace orvanta {
+
+void Exit::exitProgram() {
+  const Settings& settings = state_.settings;
+  form_.Label28.foreColor = colours::kDarkRed;
+  writeSettings(SettingsFile::SettingsDat, ports_.files, settings.appDir, settings);
+  ports_.files.remove(joinPath(settings.appDir, "audiocd.tmp"));
+  ports_.screen.setPointer(Pointer::Hourglass);
+  form_.SSPanel3.backColor = colours::kRed;
+  form_.SSPanel3.refresh();
+  if (state_.transport.playingFlag == kOn) {
+    state_.transport.playingFlag = kOff;
+    for (auto& mask : form_.icntlb) mask.visible = true;
+  }
+  if (settings.appOptions[5] != 1) {
+    ports_.device.command("Stop");
+    ports_.device.command("Close");
+  }
+  end();
+}
+
+}  // namespace orvanta

@@ -1,0 +1,98 @@
+// The one place that knows every adapter: it makes them, hands them to the core, and runs the loop.
+#include <QApplication>
+#include <QTimer>
+#include <cstdio>
+#include <filesystem>
+#include <memory>
+
+#include "app/licences.h"
+#include "app/options.h"
+#include "app/orvanta.h"
+#include "platform/linux/clocked_output.h"
+#include "platform/linux/cubeb_output.h"
+#include "platform/linux/host_files.h"
+#include "platform/linux/host_processes.h"
+#include "platform/linux/host_system.h"
+#include "platform/linux/image_drive.h"
+#include "platform/linux/mci_device.h"
+#include "platform/linux/player.h"
+#include "platform/linux/wav_file.h"
+#include "platform/qt/form_view.h"
+#include "platform/qt/qt_clock.h"
+#include "platform/qt/qt_dialogs.h"
+#include "platform/qt/qt_screen.h"
+
+namespace orvanta {
+namespace {
+
+/// Longer than the drive's lock is waited for; a disc image is known within a few milliseconds.
+constexpr int kDriveWait = 2500;
+
+struct Sound {
+  std::unique_ptr<WavFile> wav;
+  std::unique_ptr<SoundOutputs> outputs;
+};
+
+Sound makeSound(const std::string& audio) {
+  Sound sound;
+  if (audio == "default") {
+    sound.outputs = std::make_unique<CubebOutputs>();
+    return sound;
+  }
+  if (audio.rfind("file:", 0) == 0) sound.wav = std::make_unique<WavFile>(audio.substr(5));
+  sound.outputs = std::make_unique<ClockedOutputs>(sound.wav.get(), Pace::RealTime);
+  return sound;
+}
+
+/// X11 where both are there, unless the user chose: stored places and top-most windows need it.
+/// One transform does all scaling, so Qt's own stays out.
+void prepareQt() {
+  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") && !qEnvironmentVariableIsEmpty("DISPLAY")) qputenv("QT_QPA_PLATFORM", "xcb");
+  qputenv("QT_ENABLE_HIGHDPI_SCALING", "0");
+}
+
+int run(int argc, char** argv) {
+  const Options options = readOptions({argv + 1, argv + argc}, std::filesystem::current_path().string());
+  if (!options.error.empty()) {
+    std::fprintf(stderr, "orvanlx: not understood: %s\n%s", options.error.c_str(), helpText().c_str());
+    return 2;
+  }
+  if (options.help) return std::fputs(helpText().c_str(), stdout) < 0 ? 1 : 0;
+  if (options.version) return std::fputs("Orvanta LX " ORVANTA_VERSION "\n" ORVANTA_LICENCES, stdout) < 0 ? 1 : 0;
+
+  HostFiles files;
+  HostSystem system(options.handedOn());
+  // The drive's thread reads the disc while Qt starts.
+  ImageDrive drive(drivePath(options.host, files, system.systemDir()), options.disc);
+  const Sound sound = makeSound(options.audio);
+  Player player(drive, *sound.outputs);
+
+  prepareQt();
+  QApplication application(argc, argv);
+  QApplication::setApplicationName(QStringLiteral("Orvanta LX"));
+  QApplication::setQuitOnLastWindowClosed(false);
+
+  CoreGate gate;
+  gate.setOnEnd([] { QApplication::exit(0); });
+  const Scale scale{options.scale > 0 ? options.scale : QtScreen::desktopFactor(), kTwipsPerPixel};
+  QtClock clock(gate);
+  QtScreen screen(scale);
+  QtDialogs dialogs(gate, screen);
+  QtDesktop desktop(gate, scale);
+  HostProcesses processes([&clock] { clock.yield(); });
+  MciDevice device(player, clock);
+  Ports ports{device, clock, dialogs, files, processes, screen, system, desktop};
+  auto orvanta = std::make_unique<Orvanta>(ports);
+
+  player.waitUntilKnown(kDriveWait);
+  gate.enter([&] { orvanta->start(options.host); });
+  if (!gate.ended() && !drive.refusal().empty()) {
+    QTimer::singleShot(0, &application, [&] { gate.enter([&] { dialogs.message(BoxStyle::Warning, "Orvanta", drive.refusal()); }); });
+  }
+  return gate.ended() ? 0 : QApplication::exec();
+}
+
+}  // namespace
+}  // namespace orvanta
+
+int main(int argc, char** argv) { return orvanta::run(argc, argv); }

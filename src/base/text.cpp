@@ -1,0 +1,75 @@
+// Text helpers: trimming, case, leading numbers, paths.
+#include "base/text.h"
+
+#include <algorithm>
+#include <charconv>
+
+namespace orvanta {
+
+namespace {
+
+char upperChar(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
+
+}  // namespace
+
+std::string_view trim(std::string_view text) {
+  const auto first = text.find_first_not_of(' ');
+  if (first == std::string_view::npos) return {};
+  return text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+std::string upper(std::string_view text) {
+  std::string result(text);
+  std::transform(result.begin(), result.end(), result.begin(), upperChar);
+  return result;
+}
+
+bool equalsNoCase(std::string_view a, std::string_view b) {
+  return a.size() == b.size() &&
+         std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) { return upperChar(x) == upperChar(y); });
+}
+
+bool startsWithNoCase(std::string_view text, std::string_view start) {
+  return text.size() >= start.size() && equalsNoCase(text.substr(0, start.size()), start);
+}
+
+bool endsWithNoCase(std::string_view text, std::string_view end) {
+  return text.size() >= end.size() && equalsNoCase(text.substr(text.size() - end.size()), end);
+}
+
+double leadingNumber(std::string_view text) {
+  text = trim(text);
+  if (!text.empty() && text.front() == '+') text.remove_prefix(1);
+  double value = 0;
+  const auto result = std::from_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed);
+  // from_chars also reads "inf" and "nan", which are words here, not numbers.
+  const bool digits = result.ptr != text.data() && text.find_first_of("0123456789") < static_cast<size_t>(result.ptr - text.data());
+  return result.ec == std::errc{} && digits ? value : 0;
+}
+
+std::string padded(long value, int digits) {
+  std::string text = std::to_string(value < 0 ? -value : value);
+  if (text.size() < static_cast<size_t>(digits)) text.insert(0, static_cast<size_t>(digits) - text.size(), '0');
+  return value < 0 ? "-" + text : text;
+}
+
+std::vector<std::string> splitLines(std::string_view text) {
+  std::vector<std::string> lines;
+  while (!text.empty()) {
+    const auto end = text.find_first_of("\r\n");
+    lines.emplace_back(text.substr(0, end));
+    if (end == std::string_view::npos) break;
+    const bool pair = text[end] == '\r' && end + 1 < text.size() && text[end + 1] == '\n';
+    text.remove_prefix(end + (pair ? 2 : 1));
+  }
+  return lines;
+}
+
+std::string joinPath(std::string_view folder, std::string_view name) {
+  if (folder.empty()) return std::string(name);
+  std::string path(folder);
+  if (path.back() != '/') path += '/';
+  return path.append(name);
+}
+
+}  // namespace orvanta

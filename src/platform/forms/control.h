@@ -1,0 +1,131 @@
+// A control as plain data: where it is, what it shows, how it looks. A view draws it; handlers
+// read and write it. Coordinates are twips within the parent.
+#pragma once
+
+#include <array>
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include "base/colour.h"
+#include "platform/forms/property.h"
+
+namespace orvanta::forms {
+
+class Form;
+
+enum class Kind { Label, Image, Panel, Line, Shape, Bar, TextBox, Button };
+std::string_view kindName(Kind kind);
+
+enum class Align { Left, Center, Right };
+
+struct Font {
+  std::string family;  ///< "LcdD" and "Small Fonts" are aliases that the screen answers for
+  double points = 8;
+  bool bold = false;
+  bool italic = false;
+  bool underline = false;
+  bool operator==(const Font&) const = default;
+};
+
+class Control : protected PropertyOwner {
+ public:
+  static constexpr int kNoIndex = -1;
+
+  Control(Form& form, std::string_view name, int index, Kind kind);
+  Control(const Control&) = delete;
+  Control& operator=(const Control&) = delete;
+  virtual ~Control() = default;
+
+  const std::string& name() const { return name_; }
+  int index() const { return index_; }  ///< place in its array, kNoIndex for a single control
+  Kind kind() const { return kind_; }
+  Form& form() const { return form_; }
+  /// "icntla(2)", "Label8".
+  std::string fullName() const;
+
+  Control* parent = nullptr;  ///< nullptr: the form itself
+  int z = 0;                  ///< among the children of one parent; higher lies above
+  std::string art;            ///< which drawing serves it, "" for the kind's plain one
+  std::string says;           ///< accessible name where there is no caption
+  bool passesMouse = false;   ///< a press goes to what lies below, as on a key's caption
+  bool tabStop = false;       ///< Tab halts here while it is visible and enabled
+
+  Property<int> left{*this, Change::Geometry};
+  Property<int> top{*this, Change::Geometry};
+  Property<int> width{*this, Change::Geometry};
+  Property<int> height{*this, Change::Geometry};
+  Property<bool> visible{*this, Change::Visibility, true};
+  Property<bool> enabled{*this, Change::Enabled, true};
+  Property<std::string> caption{*this, Change::Text};
+  Property<std::string> toolTip{*this, Change::Text};
+  Property<Colour> foreColor{*this, Change::Look, colours::kBlack};
+  Property<Colour> backColor{*this, Change::Look, colours::kBlack};
+  Property<Font> font{*this, Change::Look};
+  Property<Align> align{*this, Change::Look, Align::Left};
+  Property<bool> wordWrap{*this, Change::Look, false};
+
+  void move(int newLeft, int newTop);
+  /// Puts what changed on the screen before it returns.
+  void refresh();
+
+  /// Its rectangle lies at least partly in its parent, and that in its parent, up to the form.
+  bool insideForm() const;
+  /// Visible with all its parents.
+  bool shown() const;
+
+ private:
+  void propertyChanged(Change change) final;
+
+  Form& form_;
+  std::string name_;
+  int index_;
+  Kind kind_;
+};
+
+template <Kind K>
+class Simple : public Control {
+ public:
+  explicit Simple(Form& form, std::string_view name, int index = kNoIndex) : Control(form, name, index, K) {}
+};
+
+using Label = Simple<Kind::Label>;
+using Image = Simple<Kind::Image>;
+using Line = Simple<Kind::Line>;
+using Shape = Simple<Kind::Shape>;
+using TextBox = Simple<Kind::TextBox>;
+using Button = Simple<Kind::Button>;
+
+/// A panel with two bevels: 0 none, 1 inset, 2 raised.
+class Panel : public Simple<Kind::Panel> {
+ public:
+  using Simple::Simple;
+  int bevelInner = 2;
+  int bevelOuter = 2;
+};
+
+/// A bar that fills from the left; foreColor is the flood's colour, backColor lies behind it.
+class Bar : public Simple<Kind::Bar> {
+ public:
+  using Simple::Simple;
+  Property<int> floodPercent{*this, Change::Look};  ///< 0 to 100
+};
+
+/// Like controls under one name, by index from 0.
+template <class T, size_t N>
+class ControlArray {
+ public:
+  ControlArray(Form& form, std::string_view name) : ControlArray(form, name, std::make_index_sequence<N>{}) {}
+  T& operator[](size_t index) { return items_.at(index); }
+  const T& operator[](size_t index) const { return items_.at(index); }
+  auto begin() { return items_.begin(); }
+  auto end() { return items_.end(); }
+  static constexpr size_t size() { return N; }
+
+ private:
+  template <size_t... I>
+  ControlArray(Form& form, std::string_view name, std::index_sequence<I...>) : items_{T(form, name, static_cast<int>(I))...} {}
+  std::array<T, N> items_;
+};
+
+}  // namespace orvanta::forms

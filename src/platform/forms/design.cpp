@@ -1,0 +1,59 @@
+// Design tables into controls.
+#include "platform/forms/design.h"
+
+#include <cassert>
+
+namespace orvanta::forms {
+
+namespace {
+
+void applyRow(Control& control, const DesignRow& row, const Place& place, Form& form) {
+  control.parent = row.parent == form.name() ? nullptr : form.find(row.parent);
+  control.z = row.z;
+  control.art = row.art;
+  control.says = row.says;
+  control.tabStop = row.tabStop;
+  control.passesMouse = row.passesMouse;
+  control.left = place.left;
+  control.top = place.top;
+  control.width = place.width;
+  control.height = place.height;
+  control.visible = row.visible;
+  control.enabled = true;
+  control.caption = row.caption;
+  control.toolTip = row.toolTip;
+  control.foreColor = row.fore;
+  control.backColor = row.back;
+  control.font = Font{row.font, row.points, row.bold};
+  control.align = row.align;
+  control.wordWrap = row.wrap;
+}
+
+/// Rows stand much in the order of the controls, so each search starts where the last one ended.
+Control* findFrom(const std::vector<Control*>& controls, size_t& at, const DesignRow& row) {
+  for (size_t tries = 0; tries < controls.size(); ++tries, at = (at + 1) % controls.size()) {
+    if (controls[at]->index() == row.index && controls[at]->name() == row.name) return controls[at];
+  }
+  return nullptr;
+}
+
+}  // namespace
+
+void applyDesign(Form& form, std::span<const DesignRow> rows, bool smallFonts) {
+  size_t at = 0;
+  for (const DesignRow& row : rows) {
+    const Place& place = smallFonts ? row.coarse : row.fine;
+    if (row.name == form.name()) {
+      form.width = place.width;
+      form.height = place.height;
+      form.caption = row.caption;
+      form.backColor = row.back;
+      continue;
+    }
+    Control* control = findFrom(form.controls(), at, row);
+    assert(control != nullptr);
+    if (control != nullptr) applyRow(*control, row, place, form);
+  }
+}
+
+}  // namespace orvanta::forms

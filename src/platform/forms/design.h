@@ -1,0 +1,43 @@
+// Design values of a window: one row a control, both metric variants side by side.
+#pragma once
+
+#include <span>
+
+#include "platform/forms/form.h"
+
+namespace orvanta::forms {
+
+struct Place {
+  int left = 0;
+  int top = 0;
+  int width = 0;
+  int height = 0;
+};
+
+struct DesignRow {
+  const char* name;
+  int index;  ///< Control::kNoIndex for a single control; the row of the form itself bears its name
+  const char* parent;
+  int z;
+  Place fine;    ///< at 12 twips a pixel
+  Place coarse;  ///< at 15 twips a pixel (small fonts)
+  const char* caption;
+  Colour fore;
+  Colour back;
+  const char* font;
+  double points;
+  bool bold;
+  bool visible;
+  Align align;
+  bool wrap;
+  bool tabStop;
+  bool passesMouse;
+  const char* art;
+  const char* toolTip;
+  const char* says;  ///< accessible name of a control without a caption
+};
+
+/// Writes a table into a form's controls, as one batch before a view looks at them.
+void applyDesign(Form& form, std::span<const DesignRow> rows, bool smallFonts);
+
+}  // namespace orvanta::forms

@@ -1,0 +1,154 @@
+// Life of a window, its focus and the road of its input.
+#include "platform/forms/form.h"
+
+#include <algorithm>
+
+#include "platform/forms/design.h"
+
+namespace orvanta::forms {
+
+namespace {
+
+FormEvents noEvents;
+
+bool takesFocus(const Control& control) {
+  return control.tabStop && control.enabled && control.shown() && control.insideForm();
+}
+
+}  // namespace
+
+Form::Form(std::string_view name) : name_(name), events_(&noEvents) {}
+
+Form::~Form() = default;
+
+Control* Form::find(std::string_view controlName, int index) const {
+  const auto found = std::find_if(controls_.begin(), controls_.end(), [&](const Control* control) {
+    return control->index() == index && control->name() == controlName;
+  });
+  return found == controls_.end() ? nullptr : *found;
+}
+
+void Form::propertyChanged(Change change) {
+  if (view_) view_->formChanged(change);
+}
+
+void Form::load(Desktop& desktop) {
+  if (loaded()) return;
+  desktop_ = &desktop;
+  active_ = pressed_ = nullptr;
+  down_ = keyPress_ = focusShown_ = false;
+  applyDesign(*this, design(), smallFonts);
+  view_ = desktop.open(*this);
+  events_->load();
+}
+
+void Form::show(Desktop& desktop) {
+  load(desktop);
+  if (view_) {
+    view_->show();
+    view_->raise();
+  }
+  activated();
+}
+
+void Form::hide() {
+  if (view_) view_->hide();
+  if (desktop_ != nullptr && desktop_->lastShown == this) desktop_->lastShown = nullptr;
+}
+
+void Form::unload() {
+  if (!loaded()) return;
+  events_->unload();
+  hide();
+  view_.reset();
+  desktop_ = nullptr;
+}
+
+void Form::activated() {
+  if (desktop_ == nullptr || desktop_->lastShown == this) return;
+  desktop_->lastShown = this;
+  events_->activate();
+}
+
+bool Form::setFocus(Control& control, bool byKeyboard) {
+  if (!takesFocus(control)) return false;
+  if (active_ != &control) {
+    if (active_ != nullptr) events_->lostFocus(*active_);
+    active_ = &control;
+    events_->gotFocus(control);
+  }
+  focusShown_ = byKeyboard;
+  if (view_) view_->focusMoved(active_);
+  return true;
+}
+
+void Form::moveFocus(bool backwards) {
+  if (controls_.empty()) return;
+  const auto count = static_cast<int>(controls_.size());
+  const auto at = std::find(controls_.begin(), controls_.end(), active_);
+  int place = at == controls_.end() ? (backwards ? 0 : -1) : static_cast<int>(at - controls_.begin());
+  for (int i = 0; i < count; ++i) {
+    place = (place + (backwards ? count - 1 : 1)) % count;
+    if (setFocus(*controls_[static_cast<size_t>(place)], true)) return;
+  }
+}
+
+void Form::mouseDown(Control* control, const Mouse& mouse) {
+  if (down_ || (control != nullptr && !control->enabled)) return;
+  down_ = true;
+  pressed_ = control;
+  pressedButton_ = mouse.button;
+  if (control != nullptr) setFocus(*control);
+  events_->mouseDown(control, mouse);
+}
+
+void Form::mouseMove(Control* control, const Mouse& mouse) { events_->mouseMove(down_ ? pressed_ : control, mouse); }
+
+void Form::mouseUp(const Mouse& mouse) {
+  if (!down_ || mouse.button != pressedButton_) return;
+  Control* control = pressed_;
+  down_ = false;
+  pressed_ = nullptr;
+  events_->mouseUp(control, mouse);
+  const bool over = control != nullptr && mouse.x >= 0 && mouse.y >= 0 && mouse.x < control->width && mouse.y < control->height;
+  if (over && mouse.button == MouseButton::Left) events_->click(*control);
+}
+
+void Form::doubleClick(Control* control) { events_->doubleClick(control); }
+
+void Form::press(Control& control) {
+  const Mouse middle{MouseButton::Left, control.width / 2, control.height / 2};
+  mouseDown(&control, middle);
+  mouseUp(middle);
+}
+
+bool Form::keyDown(const KeyPress& pressed) {
+  if (events_->keyDown(pressed)) return true;
+  if (pressed.code == key::kTab && !pressed.control && !pressed.alt) {
+    moveFocus(pressed.shift);
+    return true;
+  }
+  const bool presses = pressed.code == key::kSpace || pressed.code == key::kEnter;
+  if (!presses || active_ == nullptr || active_->kind() == Kind::TextBox || keyPress_) return false;
+  keyPress_ = true;
+  mouseDown(active_, {MouseButton::Left, active_->width / 2, active_->height / 2});
+  return true;
+}
+
+void Form::keyUp(const KeyPress& released) {
+  if (!keyPress_ || (released.code != key::kSpace && released.code != key::kEnter)) return;
+  keyPress_ = false;
+  if (pressed_ != nullptr) mouseUp({MouseButton::Left, pressed_->width / 2, pressed_->height / 2});
+}
+
+void Form::dragged(int newLeft, int newTop) {
+  left = newLeft;
+  top = newTop;
+  events_->dragged();
+}
+
+void Form::fileDropped(const std::string& path) { events_->fileDropped(path); }
+
+void Form::closeAsked() { events_->closeAsked(); }
+
+}  // namespace orvanta::forms

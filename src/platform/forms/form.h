@@ -1,0 +1,147 @@
+// A window as data: its controls by name, its place, its focus, and the two sides it talks to:
+// the view that draws it and the handlers that give it behaviour.
+#pragma once
+
+#include <memory>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/forms/control.h"
+#include "platform/forms/input.h"
+
+namespace orvanta::forms {
+
+/// What draws a form. Changes are gathered and painted when the program is next idle.
+class FormView {
+ public:
+  virtual ~FormView() = default;
+  virtual void show() = 0;
+  virtual void hide() = 0;
+  virtual void raise() = 0;
+  virtual void changed(Control& control, Change change) = 0;
+  virtual void formChanged(Change change) = 0;
+  /// Paints what waits for this control before it returns.
+  virtual void refresh(Control& control) = 0;
+  virtual void focusMoved(Control* control) = 0;
+  /// Lets the system drag the window with the mouse button that is down; ends with Form::dragged().
+  virtual void drag() = 0;
+};
+
+/// Behaviour of a form. `control` is nullptr for the form's own background.
+class FormEvents {
+ public:
+  virtual ~FormEvents() = default;
+  virtual void load() {}
+  virtual void activate() {}
+  virtual void unload() {}
+  virtual void mouseDown(Control* /*control*/, const Mouse& /*mouse*/) {}
+  virtual void mouseMove(Control* /*control*/, const Mouse& /*mouse*/) {}
+  virtual void mouseUp(Control* /*control*/, const Mouse& /*mouse*/) {}
+  /// After the release of a left press that ends over the control.
+  virtual void click(Control& /*control*/) {}
+  virtual void doubleClick(Control* /*control*/) {}
+  /// True when the key is used; Tab, Space and ENTER are otherwise the form's.
+  virtual bool keyDown(const KeyPress& /*key*/) { return false; }
+  virtual void lostFocus(Control& /*control*/) {}
+  virtual void gotFocus(Control& /*control*/) {}
+  /// The window was dragged by the user; left and top are the new ones.
+  virtual void dragged() {}
+  virtual void fileDropped(const std::string& /*path*/) {}
+  /// The system asks to close the window.
+  virtual void closeAsked() {}
+};
+
+/// Gives a loaded form its view. Knows which form was shown last.
+class Desktop {
+ public:
+  virtual ~Desktop() = default;
+  virtual std::unique_ptr<FormView> open(Form& form) = 0;
+  Form* lastShown = nullptr;
+};
+
+struct DesignRow;
+
+class Form : private PropertyOwner {
+ public:
+  explicit Form(std::string_view name);
+  virtual ~Form();
+  Form(const Form&) = delete;
+  Form& operator=(const Form&) = delete;
+
+  const std::string& name() const { return name_; }
+  FormView* view() const { return view_.get(); }
+  const std::vector<Control*>& controls() const { return controls_; }
+  /// nullptr when there is none of that name and index.
+  Control* find(std::string_view controlName, int index = Control::kNoIndex) const;
+
+  void setEvents(FormEvents* events) { events_ = events; }
+
+  /// Which places of the design table load() takes: those for 15 twips a pixel, else for 12.
+  bool smallFonts = true;
+
+  Property<int> left{*this, Change::Geometry};
+  Property<int> top{*this, Change::Geometry};
+  Property<int> width{*this, Change::Geometry};
+  Property<int> height{*this, Change::Geometry};
+  Property<std::string> caption{*this, Change::Text};
+  Property<Colour> backColor{*this, Change::Look};
+  Property<bool> minimised{*this, Change::Visibility, false};
+
+  /// Puts the design values back, makes the view and runs the load handler. Nothing when loaded.
+  void load(Desktop& desktop);
+  bool loaded() const { return desktop_ != nullptr; }
+  /// Loads if need be, shows and raises; activates unless it was the last one shown.
+  void show(Desktop& desktop);
+  void hide();
+  /// Runs the unload handler and drops the view; the data stays.
+  void unload();
+
+  Control* activeControl() const { return active_; }
+  /// Lost before got. A control that cannot take the focus is refused: false.
+  bool setFocus(Control& control, bool byKeyboard = false);
+  bool focusShown() const { return focusShown_; }
+
+  // Input, called by the view (through the gate) and by tests.
+  void mouseDown(Control* control, const Mouse& mouse);
+  void mouseMove(Control* control, const Mouse& mouse);
+  /// The release of the last press, whichever control lies under the mouse now: one for each press.
+  void mouseUp(const Mouse& mouse);
+  void doubleClick(Control* control);
+  bool keyDown(const KeyPress& key);
+  void keyUp(const KeyPress& key);
+  /// Press and release in the middle of a control, as Space or a screen reader does.
+  void press(Control& control);
+  void activated();
+  void dragged(int newLeft, int newTop);
+  void fileDropped(const std::string& path);
+  void closeAsked();
+  Control* pressed() const { return pressed_; }
+
+ protected:
+  virtual std::span<const DesignRow> design() const = 0;
+
+ private:
+  friend class Control;
+  void add(Control& control) { controls_.push_back(&control); }
+  void propertyChanged(Change change) final;
+  void moveFocus(bool backwards);
+
+  std::string name_;
+  std::vector<Control*> controls_;
+  std::unique_ptr<FormView> view_;
+  FormEvents* events_;
+  Desktop* desktop_ = nullptr;
+  Control* active_ = nullptr;
+  Control* pressed_ = nullptr;
+  MouseButton pressedButton_ = MouseButton::Left;
+  bool down_ = false;
+  bool keyPress_ = false;
+  bool focusShown_ = false;
+};
+
+/// One line a control, in the order of their making: name, kind, place, what differs from plain.
+std::string formAsText(const Form& form);
+
+}  // namespace orvanta::forms

@@ -1,0 +1,111 @@
+// One cubeb stream for each start of sound; the context is opened with the first.
+#include "platform/linux/cubeb_output.h"
+
+#include <cubeb/cubeb.h>
+
+#include <algorithm>
+#include <atomic>
+#include <cstring>
+
+#include "platform/linux/clocked_output.h"
+#include "platform/linux/toc.h"
+
+namespace orvanta {
+
+namespace {
+
+constexpr uint32_t kLatencyPairs = kSampleRate / 10;
+
+class CubebOutput : public SoundOutput {
+ public:
+  CubebOutput(cubeb* context, SampleFeed& feed) : feed_(feed) {
+    cubeb_stream_params params{};
+    params.format = CUBEB_SAMPLE_S16NE;
+    params.rate = kSampleRate;
+    params.channels = 2;
+    params.layout = CUBEB_LAYOUT_STEREO;
+    params.prefs = CUBEB_STREAM_PREF_NONE;
+    if (cubeb_stream_init(context, &stream_, "Orvanta LX", nullptr, nullptr, nullptr, &params, kLatencyPairs, &CubebOutput::data,
+                          &CubebOutput::state, this) != CUBEB_OK) {
+      stream_ = nullptr;
+    }
+  }
+  CubebOutput(const CubebOutput&) = delete;
+  CubebOutput& operator=(const CubebOutput&) = delete;
+  ~CubebOutput() override {
+    if (stream_ == nullptr) return;
+    cubeb_stream_stop(stream_);
+    cubeb_stream_destroy(stream_);
+  }
+
+  bool start() { return stream_ != nullptr && cubeb_stream_start(stream_) == CUBEB_OK; }
+  void pause() override { cubeb_stream_stop(stream_); }
+  void resume() override { cubeb_stream_start(stream_); }
+  bool failed() const override { return failed_; }
+
+  uint64_t heard() const override {
+    uint64_t position = 0;
+    if (drained_ || cubeb_stream_get_position(stream_, &position) != CUBEB_OK) return given_;
+    const uint64_t silence = silence_;
+    return std::min<uint64_t>(position > silence ? position - silence : 0, given_);
+  }
+
+ private:
+  static long data(cubeb_stream* /*stream*/, void* self, const void* /*input*/, void* output, long frames) {
+    return static_cast<CubebOutput*>(self)->fill(static_cast<int16_t*>(output), static_cast<size_t>(frames));
+  }
+
+  static void state(cubeb_stream* /*stream*/, void* self, cubeb_state state) {
+    auto& output = *static_cast<CubebOutput*>(self);
+    if (state == CUBEB_STATE_ERROR) output.failed_ = true;
+    if (state == CUBEB_STATE_DRAINED) output.drained_ = true;
+  }
+
+  /// Fewer than asked for ends the stream; a drive that is late is bridged with silence.
+  long fill(int16_t* output, size_t frames) {
+    const bool last = feed_.finished();
+    const size_t got = feed_.pull(output, frames);
+    given_ += got;
+    if (got < frames && !last) {
+      std::memset(output + got * 2, 0, (frames - got) * 4);
+      silence_ += frames - got;
+      return static_cast<long>(frames);
+    }
+    return static_cast<long>(got);
+  }
+
+  SampleFeed& feed_;
+  cubeb_stream* stream_ = nullptr;
+  std::atomic<uint64_t> given_{0};
+  std::atomic<uint64_t> silence_{0};
+  std::atomic<bool> failed_{false};
+  std::atomic<bool> drained_{false};
+};
+
+}  // namespace
+
+struct CubebOutputs::Context {
+  cubeb* handle = nullptr;
+  ~Context() {
+    if (handle != nullptr) cubeb_destroy(handle);
+  }
+};
+
+CubebOutputs::CubebOutputs() = default;
+CubebOutputs::~CubebOutputs() = default;
+
+std::unique_ptr<SoundOutput> CubebOutputs::make(SampleFeed& feed, bool afterFailure) {
+  if (afterFailure) context_.reset();
+  if (!context_) {
+    context_ = std::make_unique<Context>();
+    if (cubeb_init(&context_->handle, "Orvanta LX", nullptr) != CUBEB_OK) context_->handle = nullptr;
+  }
+  if (context_->handle != nullptr) {
+    auto output = std::make_unique<CubebOutput>(context_->handle, feed);
+    if (output->start()) return output;
+  }
+  context_.reset();
+  return std::make_unique<ClockedOutput>(feed, nullptr, Pace::RealTime);
+}
+
+}  // namespace orvanta

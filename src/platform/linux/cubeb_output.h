@@ -1,0 +1,23 @@
+// Sound through libcubeb: PulseAudio, PipeWire or ALSA, whichever is there.
+#pragma once
+
+#include <memory>
+
+#include "platform/linux/sound_output.h"
+
+namespace orvanta {
+
+/// Streams of the desktop's sound. Where there is no sound card or server, and after one died that
+/// cannot be opened again, the clock plays on by itself.
+class CubebOutputs : public SoundOutputs {
+ public:
+  CubebOutputs();
+  ~CubebOutputs() override;
+  std::unique_ptr<SoundOutput> make(SampleFeed& feed, bool afterFailure) override;
+
+ private:
+  struct Context;
+  std::unique_ptr<Context> context_;
+};
+
+}  // namespace orvanta

@@ -1,0 +1,193 @@
+// A sheet is read line by line: FILE and TRACK open a context, the others fill it.
+#include "platform/linux/cue_sheet.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <optional>
+
+#include "base/code_page.h"
+#include "base/text.h"
+#include "platform/linux/toc.h"
+
+namespace orvanta {
+
+namespace {
+
+std::string_view withoutBlanks(std::string_view text) {
+  const auto first = text.find_first_not_of(" \t");
+  if (first == std::string_view::npos) return {};
+  return text.substr(first, text.find_last_not_of(" \t") - first + 1);
+}
+
+/// Takes one word, or one quoted text, off the front.
+std::string_view takeWord(std::string_view& line) {
+  line = withoutBlanks(line);
+  if (line.empty()) return {};
+  const bool quoted = line.front() == '"';
+  if (quoted) line.remove_prefix(1);
+  const auto end = quoted ? line.find('"') : line.find_first_of(" \t");
+  const std::string_view word = line.substr(0, end);
+  line.remove_prefix(end == std::string_view::npos ? line.size() : end + 1);
+  return word;
+}
+
+std::optional<int> number(std::string_view text, int most) {
+  int value = 0;
+  const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
+  if (result.ec != std::errc{} || result.ptr != text.data() + text.size() || value < 0 || value > most) return std::nullopt;
+  return value;
+}
+
+/// "mm:ss:ff" in frames.
+std::optional<int> frames(std::string_view text) {
+  const auto first = text.find(':');
+  const auto second = first == std::string_view::npos ? first : text.find(':', first + 1);
+  if (second == std::string_view::npos) return std::nullopt;
+  const auto m = number(text.substr(0, first), 999);
+  const auto s = number(text.substr(first + 1, second - first - 1), 59);
+  const auto f = number(text.substr(second + 1), kFramesPerSecond - 1);
+  if (!m || !s || !f) return std::nullopt;
+  return framesOf({*m, *s, *f});
+}
+
+struct TrackType {
+  std::string_view name;
+  int sectorBytes;
+  bool data;
+};
+constexpr std::array<TrackType, 8> kTrackTypes = {{{"AUDIO", 2352, false},
+                                                   {"CDG", 2448, false},
+                                                   {"MODE1/2048", 2048, true},
+                                                   {"MODE1/2352", 2352, true},
+                                                   {"MODE2/2336", 2336, true},
+                                                   {"MODE2/2352", 2352, true},
+                                                   {"CDI/2336", 2336, true},
+                                                   {"CDI/2352", 2352, true}}};
+
+class Parser {
+ public:
+  explicit Parser(CueSheet& sheet) : sheet_(sheet) {}
+
+  void line(std::string_view text) {
+    const std::string word = upper(takeWord(text));
+    if (word == "FILE") {
+      file(text);
+    } else if (word == "TRACK") {
+      track(text);
+    } else if (word == "INDEX") {
+      index(text);
+    } else if (word == "PREGAP" || word == "POSTGAP") {
+      gap(word == "PREGAP", text);
+    } else if (word == "CATALOG") {
+      sheet_.catalog = takeWord(text);
+    } else if (word == "TITLE" || word == "PERFORMER") {
+      texts(word == "TITLE", text);
+    } else if (word == "ISRC" && !sheet_.tracks.empty()) {
+      sheet_.tracks.back().isrc = takeWord(text);
+    }
+  }
+
+  void refuse(const std::string& why) {
+    if (sheet_.error.empty()) sheet_.error = why;
+  }
+
+ private:
+  static std::string trackName(int number) { return "track " + std::to_string(number); }
+
+  void file(std::string_view text) {
+    // A name without quotes may hold blanks: the type is the last word of the line.
+    text = withoutBlanks(text);
+    std::string name;
+    if (!text.empty() && text.front() == '"') {
+      name = takeWord(text);
+    } else {
+      const auto blank = text.find_last_of(" \t");
+      name = withoutBlanks(text.substr(0, blank));
+      text = blank == std::string_view::npos ? std::string_view{} : text.substr(blank);
+    }
+    const std::string type = upper(takeWord(text));
+    if (type == "BINARY") {
+      sheet_.files.push_back({name, CueFileType::Binary});
+    } else if (type == "MOTOROLA") {
+      sheet_.files.push_back({name, CueFileType::Motorola});
+    } else if (type == "WAVE" || type == "FLAC" || type == "AIFF") {
+      sheet_.files.push_back({name, CueFileType::Sound});
+    } else {
+      refuse("files of the type \"" + type + "\" cannot be played");
+    }
+  }
+
+  void track(std::string_view text) {
+    const auto place = number(takeWord(text), kMaxTracks);
+    const std::string type = upper(takeWord(text));
+    const auto* found = std::find_if(kTrackTypes.begin(), kTrackTypes.end(), [&](const TrackType& t) { return t.name == type; });
+    if (sheet_.files.empty()) return refuse("a track stands before the first file");
+    if (!place || *place != static_cast<int>(sheet_.tracks.size()) + 1) return refuse("the tracks are not numbered from 1 to 99 in order");
+    if (found == kTrackTypes.end()) return refuse(trackName(*place) + " is of the unknown type \"" + type + "\"");
+    CueTrack made;
+    made.number = *place;
+    made.sectorBytes = found->sectorBytes;
+    made.data = found->data;
+    made.file = sheet_.files.size() - 1;
+    sheet_.tracks.push_back(made);
+  }
+
+  void index(std::string_view text) {
+    if (sheet_.tracks.empty()) return refuse("an index stands before the first track");
+    CueTrack& track = sheet_.tracks.back();
+    const auto place = number(takeWord(text), 99);
+    const auto at = frames(takeWord(text));
+    if (!place || !at) return refuse(trackName(track.number) + " has an index that cannot be read");
+    if (track.indexes.empty()) track.file = sheet_.files.size() - 1;
+    if (track.file != sheet_.files.size() - 1) {
+      // The gap before a track may be the end of the file before: the track begins with index 1.
+      if (*place != 1 || track.indexes.size() != 1 || track.indexes.front().number != 0) {
+        return refuse(trackName(track.number) + " goes over more than one file");
+      }
+      track.indexes.clear();
+      track.file = sheet_.files.size() - 1;
+    }
+    const bool onwards = track.indexes.empty() || (*place > track.indexes.back().number && *at >= track.indexes.back().frame);
+    if (!onwards) return refuse(trackName(track.number) + " has indexes that go backwards");
+    track.indexes.push_back({*place, *at});
+  }
+
+  void gap(bool before, std::string_view text) {
+    const auto length = frames(takeWord(text));
+    if (sheet_.tracks.empty() || !length) return refuse("a gap cannot be read");
+    (before ? sheet_.tracks.back().pregap : sheet_.tracks.back().postgap) = *length;
+  }
+
+  void texts(bool title, std::string_view text) {
+    const std::string value(takeWord(text));
+    if (sheet_.tracks.empty()) {
+      (title ? sheet_.title : sheet_.performer) = value;
+    } else {
+      (title ? sheet_.tracks.back().title : sheet_.tracks.back().performer) = value;
+    }
+  }
+
+  CueSheet& sheet_;
+};
+
+bool hasStart(const CueTrack& track) {
+  return std::any_of(track.indexes.begin(), track.indexes.end(), [](const CueIndex& index) { return index.number == 1; });
+}
+
+}  // namespace
+
+CueSheet parseCue(std::string_view bytes) {
+  CueSheet sheet;
+  Parser parser(sheet);
+  if (bytes.substr(0, 3) == "\xEF\xBB\xBF") bytes.remove_prefix(3);
+  const std::string text = isUtf8(bytes) ? std::string(bytes) : fromWindows1252(bytes);
+  for (const std::string& line : splitLines(text)) parser.line(line);
+  if (sheet.tracks.empty()) parser.refuse("it holds no tracks");
+  for (const CueTrack& track : sheet.tracks) {
+    if (!hasStart(track)) parser.refuse("track " + std::to_string(track.number) + " has no INDEX 01");
+  }
+  return sheet;
+}
+
+}  // namespace orvanta

@@ -1,0 +1,31 @@
+// What a drive is to the player: a table of contents, sectors of sound, a tray. Called from the
+// player's own thread, which may wait for it.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "platform/linux/toc.h"
+
+namespace orvanta {
+
+enum class DriveStatus { NotReady, Disc, NoDisc, TrayOpen };
+
+class DiscSource {
+ public:
+  virtual ~DiscSource() = default;
+  /// One try to have the drive for this player alone.
+  virtual bool lock() = 0;
+  /// Looks at the drive, and reads the table of a disc that is new.
+  virtual DriveStatus poll() = 0;
+  /// Of the disc that poll() saw last.
+  virtual const Toc& toc() const = 0;
+  /// First name in the disc's root: "Track01.cda", or the first file of a data session.
+  virtual std::string firstEntry() const = 0;
+  /// Frames `frame` to `frame + count - 1` as interleaved samples; false when the drive fails.
+  virtual bool read(int frame, int count, int16_t* samples) = 0;
+  virtual void openTray() = 0;
+  virtual void closeTray() = 0;
+};
+
+}  // namespace orvanta

@@ -1,0 +1,32 @@
+// XDG folders, and the folder that this program was started from.
+#include "platform/linux/host_system.h"
+
+#include <cstdlib>
+#include <filesystem>
+
+#include "base/text.h"
+
+namespace orvanta {
+
+namespace {
+
+/// $`variable` when it is an absolute path, as its rules ask, else `rest` in the home folder.
+std::string xdgFolder(const char* variable, const char* rest) {
+  const char* set = std::getenv(variable);
+  if (set != nullptr && set[0] == '/') return set;
+  const char* home = std::getenv("HOME");
+  return joinPath(home != nullptr ? home : "/", rest);
+}
+
+}  // namespace
+
+std::string HostSystem::systemDir() const { return joinPath(xdgFolder("XDG_CONFIG_HOME", ".config"), "orvanta"); }
+
+std::string HostSystem::defaultDataDir() const { return joinPath(xdgFolder("XDG_DATA_HOME", ".local/share"), "orvanta"); }
+
+std::string HostSystem::windowsDir() const {
+  std::error_code error;
+  return std::filesystem::read_symlink("/proc/self/exe", error).parent_path().string();
+}
+
+}  // namespace orvanta

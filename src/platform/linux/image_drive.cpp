@@ -1,0 +1,153 @@
+// Images as discs: opening a sheet with its files, reading frames across segments, the tray.
+#include "platform/linux/image_drive.h"
+
+#include <fcntl.h>
+#include <sys/file.h>
+
+#include <algorithm>
+#include <filesystem>
+
+#include "base/text.h"
+#include "platform/linux/iso_root.h"
+
+namespace orvanta {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr int64_t kMaxSheet = int64_t{1} << 20;
+
+}  // namespace
+
+std::unique_ptr<DiscImage> DiscImage::open(const std::string& cuePath, std::string& error) {
+  auto disc = std::make_unique<DiscImage>();
+  error.clear();
+  const std::string bytes = readSmallFile(cuePath, kMaxSheet, error);
+  if (!error.empty()) return nullptr;
+  const CueSheet sheet = parseCue(bytes);
+  error = sheet.error;
+  std::vector<int64_t> lengths;
+  const std::string folder = fs::path(cuePath).has_parent_path() ? fs::path(cuePath).parent_path().string() : ".";
+  for (size_t i = 0; i < sheet.files.size() && error.empty(); ++i) {
+    OpenedImageFile opened = openImageFile(folder, sheet.files[i].name, sheet.files[i].type);
+    error = opened.error;
+    lengths.push_back(opened.file ? opened.file->length() : 0);
+    disc->files_.push_back(std::move(opened.file));
+  }
+  if (!error.empty()) return nullptr;
+  disc->layout_ = layOut(sheet, lengths);
+  error = disc->layout_.error;
+  if (!error.empty()) return nullptr;
+  disc->firstEntry_ = disc->entryOfDisc();
+  return disc;
+}
+
+std::string DiscImage::entryOfDisc() {
+  const auto data = std::find_if(layout_.toc.tracks.begin(), layout_.toc.tracks.end(), [](const TocTrack& track) { return track.data; });
+  if (data == layout_.toc.tracks.end()) return "Track01.cda";
+  const std::string file = firstRootFile(data->start - kFirstFrame, [this](int block, IsoBlock& out) { return readBlock(block, out.data()); });
+  return file.empty() && layout_.toc.hasAudio() ? "Track01.cda" : file;
+}
+
+const Segment* DiscImage::segmentAt(int frame) const {
+  const auto after = std::upper_bound(layout_.segments.begin(), layout_.segments.end(), frame,
+                                      [](int place, const Segment& segment) { return place < segment.start; });
+  if (after == layout_.segments.begin()) return nullptr;
+  const Segment& segment = *std::prev(after);
+  return frame < segment.start + segment.frames ? &segment : nullptr;
+}
+
+bool DiscImage::read(int frame, int count, int16_t* samples) {
+  while (count > 0) {
+    const Segment* segment = segmentAt(frame);
+    if (segment == nullptr) return false;
+    const int piece = std::min(count, segment->start + segment->frames - frame);
+    if (!readPiece(*segment, frame, piece, samples)) return false;
+    samples += ptrdiff_t{piece} * kShortsPerFrame;
+    frame += piece;
+    count -= piece;
+  }
+  return true;
+}
+
+bool DiscImage::readPiece(const Segment& segment, int frame, int count, int16_t* samples) {
+  if (segment.file == Segment::kSilence || segment.data) {
+    std::fill(samples, samples + ptrdiff_t{count} * kShortsPerFrame, int16_t{0});
+    return true;
+  }
+  ImageFile& file = *files_[static_cast<size_t>(segment.file)];
+  const int64_t unit = file.countsSamples() ? kSamplesPerFrame : segment.sectorBytes;
+  return file.readAudio(segment.offset + (frame - segment.start) * unit, segment.sectorBytes, count, samples);
+}
+
+/// The 2048 bytes of a data sector, which lie behind its header where the header is in the file.
+bool DiscImage::readBlock(int block, unsigned char* bytes) {
+  const Segment* segment = segmentAt(block + kFirstFrame);
+  if (segment == nullptr || !segment->data || segment->file == Segment::kSilence) return false;
+  ImageFile& file = *files_[static_cast<size_t>(segment->file)];
+  const int64_t offset = segment->offset + int64_t{block + kFirstFrame - segment->start} * segment->sectorBytes;
+  int64_t header = segment->sectorBytes == 2336 ? 8 : 0;
+  if (segment->sectorBytes == kBytesPerFrame) {
+    char mode = 0;
+    if (!file.readBytes(offset + 15, 1, &mode)) return false;
+    header = mode == 2 ? 24 : 16;
+  }
+  return file.readBytes(offset + header, kIsoBlock, reinterpret_cast<char*>(bytes));
+}
+
+ImageDrive::ImageDrive(std::string folder, const std::string& disc) : folder_(std::move(folder)) {
+  if (disc.empty()) return;
+  std::string why;
+  disc_ = DiscImage::open(disc, why);
+  if (!disc_) refusal_ = "The disc image " + disc + " cannot be played: " + why + ".";
+}
+
+bool ImageDrive::lock() {
+  if (lock_) return true;
+  UniqueFd fd(::open(folder_.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  // Without the folder there is nothing to be shared, and no disc either.
+  if (!fd) return true;
+  if (::flock(fd.get(), LOCK_EX | LOCK_NB) != 0) return false;
+  lock_ = std::move(fd);
+  return true;
+}
+
+std::string ImageDrive::firstSheet() const {
+  std::vector<std::string> sheets;
+  std::error_code error;
+  for (auto entry = fs::directory_iterator(folder_, error); !error && entry != fs::directory_iterator(); entry.increment(error)) {
+    if (endsWithNoCase(entry->path().string(), ".cue")) sheets.push_back(entry->path().string());
+  }
+  const auto first = std::min_element(sheets.begin(), sheets.end());
+  return first == sheets.end() ? "" : *first;
+}
+
+DriveStatus ImageDrive::poll() {
+  if (open_) return DriveStatus::TrayOpen;
+  if (!disc_) {
+    const std::string sheet = firstSheet();
+    if (!sheet.empty() && sheet != tried_) {
+      std::string why;
+      disc_ = DiscImage::open(sheet, why);
+      tried_ = sheet;
+      if (!disc_ && refusal_.empty()) refusal_ = "The disc image " + sheet + " cannot be played: " + why + ".";
+    }
+  }
+  return disc_ ? DriveStatus::Disc : DriveStatus::NoDisc;
+}
+
+const Toc& ImageDrive::toc() const {
+  static const Toc kNone;
+  return disc_ && !open_ ? disc_->toc() : kNone;
+}
+
+std::string ImageDrive::firstEntry() const { return disc_ && !open_ ? disc_->firstEntry() : ""; }
+
+bool ImageDrive::read(int frame, int count, int16_t* samples) { return disc_ && !open_ && disc_->read(frame, count, samples); }
+
+void ImageDrive::openTray() { open_ = true; }
+
+void ImageDrive::closeTray() { open_ = false; }
+
+}  // namespace orvanta

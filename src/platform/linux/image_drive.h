@@ -1,0 +1,63 @@
+// A drive whose discs are images: a folder, and a tray that takes any CUE sheet.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "platform/linux/disc_layout.h"
+#include "platform/linux/disc_source.h"
+#include "platform/linux/image_file.h"
+#include "platform/linux/unique_fd.h"
+
+namespace orvanta {
+
+/// A disc made of an image: its layout and its open files.
+class DiscImage {
+ public:
+  /// nullptr, and why in `error`, for a sheet that is refused.
+  static std::unique_ptr<DiscImage> open(const std::string& cuePath, std::string& error);
+
+  const Toc& toc() const { return layout_.toc; }
+  const std::string& firstEntry() const { return firstEntry_; }
+  bool read(int frame, int count, int16_t* samples);
+
+ private:
+  bool readPiece(const Segment& segment, int frame, int count, int16_t* samples);
+  bool readBlock(int block, unsigned char* bytes);
+  const Segment* segmentAt(int frame) const;
+  std::string entryOfDisc();
+
+  DiscLayout layout_;
+  std::vector<std::unique_ptr<ImageFile>> files_;
+  std::string firstEntry_;
+};
+
+class ImageDrive : public DiscSource {
+ public:
+  /// `folder`: its first CUE sheet, by name, is the disc. `disc`: a sheet to put in instead; one
+  /// that is refused leaves the folder's disc in the tray, and refusal() says why.
+  explicit ImageDrive(std::string folder, const std::string& disc = "");
+
+  const std::string& refusal() const { return refusal_; }
+
+  bool lock() override;
+  DriveStatus poll() override;
+  const Toc& toc() const override;
+  std::string firstEntry() const override;
+  bool read(int frame, int count, int16_t* samples) override;
+  void openTray() override;
+  void closeTray() override;
+
+ private:
+  std::string firstSheet() const;
+
+  std::string folder_;
+  std::string refusal_;
+  std::string tried_;  ///< sheet of the folder that was refused, not to be tried each second
+  std::unique_ptr<DiscImage> disc_;
+  UniqueFd lock_;
+  bool open_ = false;
+};
+
+}  // namespace orvanta

@@ -1,0 +1,54 @@
+// ISO 9660: the volume descriptor is the session's block 16; it holds the root's folder record.
+#include "platform/linux/iso_root.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace orvanta {
+
+namespace {
+
+constexpr int kDescriptor = 16;
+constexpr size_t kRootRecord = 156;
+constexpr size_t kMinRecord = 33;
+constexpr unsigned char kFolderFlag = 2;
+
+int little32(const unsigned char* bytes) {
+  return static_cast<int>(bytes[0] | bytes[1] << 8U | bytes[2] << 16U | (bytes[3] & 0x7FU) << 24U);
+}
+
+/// First file among the records of one block of a folder; "" for none.
+std::string firstFileIn(const IsoBlock& block) {
+  for (size_t at = 0; at + kMinRecord < block.size() && block[at] > kMinRecord;) {
+    const size_t length = block[at];
+    const size_t nameLength = block[at + 32];
+    if (at + length > block.size() || kMinRecord + nameLength > length) return {};
+    const bool folder = (block[at + 25] & kFolderFlag) != 0;
+    if (!folder && nameLength > 0) {
+      const std::string name(reinterpret_cast<const char*>(&block[at + kMinRecord]), nameLength);
+      return name.substr(0, name.find(';'));
+    }
+    at += length;
+  }
+  return {};
+}
+
+}  // namespace
+
+std::string firstRootFile(int start, const std::function<bool(int, IsoBlock&)>& read) {
+  IsoBlock block{};
+  if (!read(start + kDescriptor, block) || block[0] != 1 || std::memcmp(&block[1], "CD001", 5) != 0) return {};
+  // Blocks count from the start of the disc, or, mastered without regard to it, of the session.
+  int first = little32(&block[kRootRecord + 2]);
+  if (first < start) first += start;
+  const int bytes = little32(&block[kRootRecord + 10]);
+  const int blocks = std::clamp((bytes + kIsoBlock - 1) / kIsoBlock, 0, 64);
+  for (int i = 0; i < blocks; ++i) {
+    if (!read(first + i, block)) return {};
+    const std::string name = firstFileIn(block);
+    if (!name.empty()) return name;
+  }
+  return {};
+}
+
+}  // namespace orvanta

@@ -1,0 +1,319 @@
+// The player's two sides: orders and answers on the core's thread, reading and streams on its own.
+#include "platform/linux/player.h"
+
+#include <algorithm>
+#include <chrono>
+#include <utility>
+
+namespace orvanta {
+
+using std::chrono::milliseconds;
+
+namespace {
+
+constexpr size_t kRingPairs = 2 * kSampleRate;
+constexpr int kReadFrames = 25;  ///< a third of a second at a time
+constexpr int kFirstFrames = 8;
+constexpr size_t kFirstFill = size_t{kFirstFrames} * kSamplesPerFrame;
+constexpr milliseconds kLockTime{2000};
+constexpr milliseconds kIdleNap{1000};
+constexpr milliseconds kPlayNap{400};
+constexpr int kMaxSkip = kFramesPerSecond;
+constexpr int kGiveUp = 10 * kFramesPerSecond;  ///< frames that failed in a row: the drive is gone
+
+}  // namespace
+
+Player::Player(DiscSource& source, SoundOutputs& outputs)
+    : source_(source),
+      outputs_(outputs),
+      ring_(kRingPairs),
+      scratch_(size_t{kReadFrames} * kShortsPerFrame),
+      thread_([this] { run(); }) {}
+
+Player::~Player() {
+  {
+    const std::lock_guard lock(mutex_);
+    quit_ = true;
+  }
+  wake_.notify_all();
+  thread_.join();
+}
+
+void Player::waitUntilKnown(int wait) {
+  std::unique_lock lock(mutex_);
+  known_.wait_for(lock, milliseconds(wait), [this] { return holder_ != Holder::Unknown; });
+}
+
+Holder Player::holder() const {
+  const std::lock_guard lock(mutex_);
+  return holder_;
+}
+
+Toc Player::toc() const {
+  const std::lock_guard lock(mutex_);
+  return toc_;
+}
+
+std::string Player::firstEntry() const {
+  const std::lock_guard lock(mutex_);
+  return entry_;
+}
+
+PlayState Player::state() const {
+  const std::lock_guard lock(mutex_);
+  return shownState_;
+}
+
+int Player::frame() const {
+  const std::lock_guard lock(mutex_);
+  return busy_ || !orders_.empty() || !output_ ? shownFrame_ : heardFrame();
+}
+
+bool Player::takeFailure() {
+  const std::lock_guard lock(mutex_);
+  return std::exchange(failure_, false);
+}
+
+int Player::heardFrame() const {
+  const uint64_t heard = output_->heard();
+  auto span = std::find_if(spans_.rbegin(), spans_.rend(), [&](const Span& s) { return s.sample <= heard; });
+  if (span == spans_.rend()) return shownFrame_;
+  return span->frame + static_cast<int>((heard - span->sample) / kSamplesPerFrame);
+}
+
+void Player::give(const Order& order, PlayState state, int frame) {
+  {
+    const std::lock_guard lock(mutex_);
+    // Only the last of several orders that stop or start sound matters.
+    if (order.kind != Order::Pause && order.kind != Order::Resume && order.kind != Order::Eject) {
+      std::erase_if(orders_, [](const Order& waiting) { return waiting.kind != Order::Eject; });
+    }
+    orders_.push_back(order);
+    shownState_ = state;
+    shownFrame_ = frame;
+  }
+  wake_.notify_all();
+}
+
+void Player::play(int from, int to) { give({Order::Play, from, to}, PlayState::Playing, from); }
+void Player::pause() { give({Order::Pause}, PlayState::Paused, frame()); }
+void Player::resume() { give({Order::Resume}, PlayState::Playing, frame()); }
+void Player::stop() { give({Order::Stop}, PlayState::Stopped, frame()); }
+void Player::seek(int frame) { give({Order::Seek, frame}, PlayState::Stopped, frame); }
+
+void Player::eject() {
+  {
+    const std::lock_guard lock(mutex_);
+    toc_ = {};
+    entry_.clear();
+  }
+  give({Order::Eject}, PlayState::Stopped, kFirstFrame);
+}
+
+// ---- the owner thread
+
+void Player::run() {
+  const auto start = std::chrono::steady_clock::now();
+  std::unique_lock lock(mutex_);
+  while (!quit_) {
+    if (orders_.empty()) {
+      lock.unlock();
+      if (holder_ == Holder::Us) {
+        tend();
+      } else {
+        tryToHold(std::chrono::steady_clock::now() - start > kLockTime);
+      }
+      lock.lock();
+      wake_.wait_for(lock, nap(), [this] { return quit_ || !orders_.empty(); });
+      continue;
+    }
+    const Order order = orders_.front();
+    orders_.pop_front();
+    busy_ = true;
+    lock.unlock();
+    carryOut(order);
+    lock.lock();
+    busy_ = false;
+  }
+  lock.unlock();
+  dropStream();
+}
+
+void Player::tryToHold(bool tooLate) {
+  const bool ours = source_.lock();
+  if (ours) lookAtDrive();
+  if (!ours && !tooLate) return;
+  const std::lock_guard lock(mutex_);
+  holder_ = ours ? Holder::Us : Holder::Other;
+  known_.notify_all();
+}
+
+milliseconds Player::nap() const {
+  if (holder_ != Holder::Us) return holder_ == Holder::Unknown ? milliseconds(20) : kIdleNap;
+  if (!output_ || shownState_ != PlayState::Playing) return kIdleNap;
+  if (!output_->paced()) return milliseconds(1);
+  if (!readAll_) return kPlayNap;
+  const uint64_t heard = output_->heard();
+  const uint64_t left = produced_ > heard ? produced_ - heard : 0;
+  return std::clamp(milliseconds(left * 1000 / kSampleRate + 1), milliseconds(1), kPlayNap);
+}
+
+void Player::lookAtDrive() {
+  const DriveStatus status = source_.poll();
+  const std::lock_guard lock(mutex_);
+  // While a disc is being ejected it is gone already.
+  const bool ejecting = std::any_of(orders_.begin(), orders_.end(), [](const Order& order) { return order.kind == Order::Eject; });
+  if (ejecting || (status == status_ && status == DriveStatus::Disc && source_.toc() == toc_)) return;
+  status_ = status;
+  toc_ = status == DriveStatus::Disc ? source_.toc() : Toc{};
+  entry_ = status == DriveStatus::Disc ? source_.firstEntry() : "";
+  if (toc_.tracks.empty()) {
+    shownState_ = PlayState::Stopped;
+  } else if (!output_) {
+    shownFrame_ = std::clamp(shownFrame_, toc_.startOf(1), toc_.leadOut);
+  }
+}
+
+void Player::carryOut(const Order& order) {
+  switch (order.kind) {
+    case Order::Play:
+      playTo_ = order.to;
+      startStream(order.from, false);
+      break;
+    case Order::Pause:
+      if (output_) output_->pause();
+      break;
+    case Order::Resume:
+      if (output_) output_->resume();
+      break;
+    case Order::Stop:
+    case Order::Seek:
+      dropStream();
+      break;
+    case Order::Eject:
+      dropStream();
+      source_.openTray();
+      lookAtDrive();
+      break;
+  }
+}
+
+/// The place that was heard last stays in shownFrame_: who ends a stream has put it there.
+void Player::dropStream() {
+  std::unique_ptr<SoundOutput> old;
+  {
+    const std::lock_guard lock(mutex_);
+    old = std::move(output_);
+  }
+  old.reset();
+  ring_.clear();
+}
+
+void Player::startStream(int from, bool afterFailure) {
+  dropStream();
+  next_ = runEnd_ = from;
+  produced_ = 0;
+  readAll_ = false;
+  skipAhead_ = skipLeft_ = failedInARow_ = 0;
+  {
+    const std::lock_guard lock(mutex_);
+    spans_.clear();
+  }
+  readAhead(kFirstFill);
+  std::unique_ptr<SoundOutput> output = outputs_.make(*this, afterFailure);
+  const std::lock_guard lock(mutex_);
+  if (afterFailure && shownState_ == PlayState::Paused) output->pause();
+  output_ = std::move(output);
+}
+
+/// Goes to the next stretch of sound before playTo_, past data tracks. False: there is none.
+bool Player::nextRun() {
+  const Toc toc = this->toc();
+  int number = toc.trackAt(next_);
+  while (toc.has(number) && toc.isData(number)) {
+    ++number;
+    if (toc.has(number)) next_ = toc.startOf(number);
+  }
+  if (!toc.has(number) || next_ >= playTo_) return false;
+  while (toc.has(number) && !toc.isData(number)) ++number;
+  runEnd_ = std::min(playTo_, toc.has(number) ? toc.startOf(number) : toc.leadOut);
+  const std::lock_guard lock(mutex_);
+  spans_.push_back({produced_, next_});
+  return next_ < runEnd_;
+}
+
+/// Fills the ring up to `enough` pairs, or to the end of what is to be played.
+void Player::readAhead(size_t enough) {
+  while (!readAll_ && ring_.filled() < enough && ring_.space() >= size_t{kReadFrames} * kSamplesPerFrame) {
+    if (next_ >= runEnd_ && !nextRun()) {
+      readAll_ = true;
+      return;
+    }
+    // Little at first, so that sound begins at once.
+    const int count = std::min(produced_ == 0 ? kFirstFrames : kReadFrames, runEnd_ - next_);
+    readFrames(next_, count, scratch_.data());
+    next_ += count;
+    produced_ += ring_.write(scratch_.data(), static_cast<size_t>(count) * kSamplesPerFrame);
+  }
+}
+
+/// A read that fails is halved, down to one frame. What cannot be had is silence, and the next
+/// frames with it: twice as many each time, up to a second, so that a scratch is soon passed.
+void Player::readFrames(int frame, int count, int16_t* samples) {
+  const int silent = std::min(skipLeft_, count);
+  if (silent > 0) {
+    skipLeft_ -= silent;
+    silence(silent, samples);
+    if (silent < count) readFrames(frame + silent, count - silent, samples + ptrdiff_t{silent} * kShortsPerFrame);
+  } else if (source_.read(frame, count, samples)) {
+    skipAhead_ = failedInARow_ = 0;
+  } else if (count > 1) {
+    const int half = count / 2;
+    readFrames(frame, half, samples);
+    readFrames(frame + half, count - half, samples + ptrdiff_t{half} * kShortsPerFrame);
+  } else {
+    skipAhead_ = std::clamp(skipAhead_ * 2, 1, kMaxSkip);
+    skipLeft_ = skipAhead_ - 1;
+    silence(1, samples);
+  }
+}
+
+void Player::silence(int frames, int16_t* samples) {
+  std::fill_n(samples, ptrdiff_t{frames} * kShortsPerFrame, int16_t{0});
+  skipped_ += frames;
+  failedInARow_ += frames;
+}
+
+/// What there is to do between orders: read on, notice the end, a dead sound server or drive.
+void Player::tend() {
+  if (!output_) {
+    lookAtDrive();
+  } else if (output_->failed()) {
+    {
+      const std::lock_guard lock(mutex_);
+      shownFrame_ = heardFrame();
+      busy_ = true;
+    }
+    startStream(shownFrame_, true);
+    const std::lock_guard lock(mutex_);
+    busy_ = false;
+  } else {
+    readAhead(ring_.capacity());
+    endWhenHeard();
+  }
+}
+
+void Player::endWhenHeard() {
+  const bool broken = failedInARow_ > kGiveUp;
+  {
+    const std::lock_guard lock(mutex_);
+    const bool over = readAll_ && output_->heard() >= produced_;
+    if (!orders_.empty() || shownState_ != PlayState::Playing || !(over || broken)) return;
+    shownFrame_ = heardFrame();
+    shownState_ = PlayState::Stopped;
+    failure_ = broken;
+  }
+  dropStream();
+}
+
+}  // namespace orvanta

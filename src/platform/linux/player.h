@@ -1,0 +1,113 @@
+// Plays a disc: one thread owns the drive, reads ahead into a ring, and starts and ends streams.
+#pragma once
+
+#include <atomic>
+#include <condition_variable>
+#include <deque>
+#include <memory>
+#include <mutex>
+#include <thread>
+#include <vector>
+
+#include "platform/linux/disc_player.h"
+#include "platform/linux/disc_source.h"
+#include "platform/linux/sample_ring.h"
+#include "platform/linux/sound_output.h"
+
+namespace orvanta {
+
+class Player : public DiscPlayer, private SampleFeed {
+ public:
+  Player(DiscSource& source, SoundOutputs& outputs);
+  ~Player() override;
+
+  /// Returns when the drive was looked at once, or after `milliseconds`. For the start alone, so
+  /// that a disc that is there is not taken for none.
+  void waitUntilKnown(int milliseconds);
+
+  Holder holder() const override;
+  Toc toc() const override;
+  std::string firstEntry() const override;
+  PlayState state() const override;
+  int frame() const override;
+  bool takeFailure() override;
+  void play(int from, int to) override;
+  void pause() override;
+  void resume() override;
+  void stop() override;
+  void seek(int frame) override;
+  void eject() override;
+
+  /// Frames that could not be read and went out as silence.
+  int skippedFrames() const { return skipped_; }
+
+ private:
+  struct Order {
+    enum Kind { Play, Pause, Resume, Stop, Seek, Eject } kind;
+    int from = 0;
+    int to = 0;
+  };
+  /// Sound from `sample` of the stream on comes from `frame` of the disc on.
+  struct Span {
+    uint64_t sample;
+    int frame;
+  };
+
+  void give(const Order& order, PlayState state, int frame);
+
+  // The owner thread's.
+  void run();
+  void lookAtDrive();
+  void tryToHold(bool tooLate);
+  void carryOut(const Order& order);
+  void startStream(int from, bool afterFailure);
+  void dropStream();
+  void readAhead(size_t enough);
+  bool nextRun();
+  void readFrames(int frame, int count, int16_t* samples);
+  void silence(int frames, int16_t* samples);
+  void tend();
+  void endWhenHeard();
+  int heardFrame() const;  ///< with mutex_ held
+  std::chrono::milliseconds nap() const;
+
+  // SampleFeed, the output's thread.
+  size_t pull(int16_t* pairs, size_t count) override { return ring_.read(pairs, count); }
+  bool finished() const override { return readAll_; }
+
+  DiscSource& source_;
+  SoundOutputs& outputs_;
+  SampleRing ring_;
+  std::vector<int16_t> scratch_;
+  std::atomic<bool> readAll_{false};
+  std::atomic<int> skipped_{0};
+
+  // Owner thread alone.
+  int next_ = 0;     ///< frame to be read next
+  int runEnd_ = 0;   ///< of the audio run that next_ lies in
+  int playTo_ = 0;
+  uint64_t produced_ = 0;  ///< pairs put in the ring
+  int skipAhead_ = 0;      ///< frames given up at the last failed read
+  int skipLeft_ = 0;       ///< of them still to come
+  int failedInARow_ = 0;
+
+  mutable std::mutex mutex_;  ///< over everything below; held for moments only
+  std::condition_variable wake_;
+  std::condition_variable known_;
+  std::deque<Order> orders_;
+  bool quit_ = false;
+  bool busy_ = false;  ///< an order is being carried out: shown_ holds what it will come to
+  PlayState shownState_ = PlayState::Stopped;
+  int shownFrame_ = kFirstFrame;
+  std::unique_ptr<SoundOutput> output_;
+  std::vector<Span> spans_;
+  Holder holder_ = Holder::Unknown;
+  DriveStatus status_ = DriveStatus::NotReady;
+  Toc toc_;
+  std::string entry_;
+  bool failure_ = false;
+
+  std::thread thread_;  ///< last: it runs on all of the above
+};
+
+}  // namespace orvanta

@@ -1,0 +1,25 @@
+// The sound board's auxiliary lines; here one, "CD Audio": the level of our own stream.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace orvanta {
+
+struct AuxReading {
+  int error = 0;        ///< 0, else the number that the user is told
+  uint32_t volume = 0;  ///< left in the low word, right in the high word, 0 to 65535 each
+};
+
+class AuxVolume {
+ public:
+  virtual ~AuxVolume() = default;
+  virtual int devices() const = 0;
+  /// Product name; "" out of range.
+  virtual std::string name(int device) const = 0;
+  virtual AuxReading volume(int device) const = 0;
+  /// 0, else an error number and the level stays.
+  virtual int setVolume(int device, uint32_t volume) = 0;
+};
+
+}  // namespace orvanta

@@ -1,0 +1,30 @@
+// Boxes that ask or tell. While one is open, timers and the device's event go on.
+#pragma once
+
+#include <optional>
+#include <string>
+
+namespace orvanta {
+
+enum class BoxStyle { Information, Warning, Critical };
+
+struct FileQuestion {
+  std::string title;
+  std::string folder;
+  std::string name;    ///< proposed file name
+  std::string filter;  ///< "HTML File (*.htm)|*.htm", pairs of words and patterns
+};
+
+class Dialogs {
+ public:
+  virtual ~Dialogs() = default;
+  /// Plain text; returns when the user has closed it.
+  virtual void message(BoxStyle style, const std::string& title, const std::string& text) = 0;
+  virtual bool askYesNo(const std::string& title, const std::string& text) = 0;
+  /// nullopt when cancelled, as for the file questions.
+  virtual std::optional<std::string> askText(const std::string& title, const std::string& prompt, const std::string& proposed) = 0;
+  virtual std::optional<std::string> askOpenFile(const FileQuestion& question) = 0;
+  virtual std::optional<std::string> askSaveFile(const FileQuestion& question) = 0;
+};
+
+}  // namespace orvanta

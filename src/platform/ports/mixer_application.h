@@ -1,0 +1,20 @@
+// The mixer program, driven by key texts; a stand-in that moves the sound system's master volume.
+#pragma once
+
+#include <string>
+
+namespace orvanta {
+
+class MixerApplication {
+ public:
+  virtual ~MixerApplication() = default;
+  /// Starts it without showing a window; false when there is none.
+  virtual bool startHidden() = 0;
+  virtual bool activate(const std::string& title) = 0;
+  /// Key texts as "{TAB}", "{PGUP 2}", "{+}"; what is not understood is passed over.
+  virtual void sendKeys(const std::string& keys) = 0;
+  /// True when a window of that title was found and closed.
+  virtual bool close(const std::string& title) = 0;
+};
+
+}  // namespace orvanta

@@ -1,0 +1,25 @@
+// The host: its folders and family.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace orvanta {
+
+class System {
+ public:
+  virtual ~System() = default;
+  /// Holds ORVWIN.INI: $XDG_CONFIG_HOME/orvanta.
+  virtual std::string systemDir() const = 0;
+  /// The folder of the installed programs: this one and its companions.
+  virtual std::string windowsDir() const = 0;
+  /// Where data lies unless the settings say otherwise: $XDG_DATA_HOME/orvanta.
+  virtual std::string defaultDataDir() const = 0;
+  /// 1: interface sounds and centring in the free area are wanted.
+  virtual int16_t platformId() const = 0;
+  /// Arguments of the host (`--data`, `--drive`, `--audio`, `--scale`) to hand on at a restart.
+  virtual std::vector<std::string> handedOn() const = 0;
+};
+
+}  // namespace orvanta

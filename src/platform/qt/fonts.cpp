@@ -1,0 +1,51 @@
+// Embedded faces are read straight from the program, past the system's font search: that is what
+// keeps the start quick.
+#include "platform/qt/fonts.h"
+
+#include <QFont>
+#include <QFontInfo>
+#include <QResource>
+
+namespace orvanta {
+
+namespace {
+
+constexpr int kSteps = 64;  ///< faces are kept to a 64th of a pixel
+
+}  // namespace
+
+QString Fonts::embedded(const std::string& family, bool bold) {
+  if (family == "LcdD") return QStringLiteral(":/fonts/DSEG7Classic-Bold.ttf");
+  if (family == "Small Fonts" || family == "Roboto Condensed") {
+    return bold ? QStringLiteral(":/fonts/RobotoCondensed-Bold.ttf") : QStringLiteral(":/fonts/RobotoCondensed-Regular.ttf");
+  }
+  return {};
+}
+
+bool Fonts::has(const std::string& family) {
+  if (!embedded(family, false).isEmpty()) return true;
+  const QString name = QString::fromStdString(family);
+  return QFontInfo(QFont(name)).family().compare(name, Qt::CaseInsensitive) == 0;
+}
+
+const QRawFont& Fonts::face(const forms::Font& font, double pixels) {
+  const auto key = std::tuple(font.family, font.bold, font.italic, static_cast<int>(pixels * kSteps));
+  const auto known = faces_.find(key);
+  if (known != faces_.end()) return known->second;
+  QRawFont face;
+  const QString file = embedded(font.family, font.bold);
+  if (!file.isEmpty()) {
+    const QResource resource(file);
+    const auto bytes = QByteArray::fromRawData(reinterpret_cast<const char*>(resource.data()), static_cast<qsizetype>(resource.size()));
+    face.loadFromData(bytes, pixels, QFont::PreferNoHinting);
+  } else {
+    QFont system(QString::fromStdString(font.family));
+    system.setPixelSize(std::max(1, static_cast<int>(pixels + 0.5)));
+    system.setBold(font.bold);
+    system.setItalic(font.italic);
+    face = QRawFont::fromFont(system);
+  }
+  return faces_.emplace(key, face).first->second;
+}
+
+}  // namespace orvanta

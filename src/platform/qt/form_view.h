@@ -1,0 +1,110 @@
+// A form on the screen: a frameless window with a child widget for each control.
+#pragma once
+
+#include <QTimer>
+#include <QWidget>
+#include <map>
+#include <memory>
+
+#include "platform/forms/form.h"
+#include "platform/ports/core_gate.h"
+#include "platform/qt/fonts.h"
+#include "platform/qt/scale.h"
+
+namespace orvanta {
+
+class FormWindow;
+
+class ControlWidget : public QWidget {
+ public:
+  ControlWidget(FormWindow& window, QWidget* parent, forms::Control& control);
+  forms::Control& control() const { return control_; }
+  FormWindow& formWindow() const { return window_; }
+  /// Takes over place, visibility and name.
+  void follow(forms::Change change);
+  void describe();
+  /// The control's own rectangle, without the bleed.
+  QRect controlRect() const;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  void place();
+
+  FormWindow& window_;
+  forms::Control& control_;
+};
+
+class FormWindow : public QWidget, public forms::FormView {
+ public:
+  FormWindow(forms::Form& form, CoreGate& gate, Fonts& fonts, const Scale& scale);
+
+  void show() override;
+  void hide() override;
+  void raise() override;
+  void changed(forms::Control& control, forms::Change change) override;
+  void formChanged(forms::Change change) override;
+  void refresh(forms::Control& control) override;
+  void focusMoved(forms::Control* control) override;
+  void drag() override;
+
+  /// Space, ENTER and screen readers press a control by the same road as the mouse.
+  void press(forms::Control& control);
+
+  const Scale& scale() const { return scale_; }
+  Fonts& fonts() const { return fonts_; }
+  forms::Form& form() const { return form_; }
+  ControlWidget* widgetOf(const forms::Control& control) const;
+
+ protected:
+  bool event(QEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+  void changeEvent(QEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
+  void moveEvent(QMoveEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void keyReleaseEvent(QKeyEvent* event) override;
+  bool focusNextPrevChild(bool next) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
+
+ private:
+  void build();
+  void placeWindow();
+  bool onScreen() const;
+  forms::Control* hit(const QPoint& place) const;
+  forms::Mouse mouseAt(const QMouseEvent& event, const forms::Control* control) const;
+  void dragMayHaveEnded();
+
+  forms::Form& form_;
+  CoreGate& gate_;
+  Fonts& fonts_;
+  Scale scale_;
+  std::map<const forms::Control*, ControlWidget*> widgets_;
+  ControlWidget* focused_ = nullptr;
+  QTimer dragEnd_;
+  QPoint grip_;           ///< of a drag without a window manager
+  bool dragging_ = false;
+  bool moving_ = false;   ///< we move it ourselves
+  bool painted_ = false;
+  bool wanted_ = false;   ///< shown, as far as the form goes
+};
+
+/// Makes the views.
+class QtDesktop : public forms::Desktop {
+ public:
+  QtDesktop(CoreGate& gate, const Scale& scale) : gate_(gate), scale_(scale) {}
+  std::unique_ptr<forms::FormView> open(forms::Form& form) override;
+
+ private:
+  CoreGate& gate_;
+  Scale scale_;
+  Fonts fonts_;
+};
+
+}  // namespace orvanta

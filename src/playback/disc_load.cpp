@@ -1,0 +1,130 @@
+// Probe, load and deferred table of a disc. It happens once in a process: a new disc is a new
+// process.
+#include "playback/disc_load.h"
+
+#include <cmath>
+
+#include "base/text.h"
+#include "base/times.h"
+#include "platform/ports/cd_device.h"
+#include "platform/ports/files.h"
+#include "platform/ports/screen.h"
+#include "playback/upward.h"
+
+namespace orvanta {
+
+namespace {
+
+/// Eight digits: zero-padded, of a longer number the last eight.
+std::string keyOf(int32_t sum) {
+  const std::string text = "00000000" + std::to_string(sum);
+  return text.substr(text.size() - 8);
+}
+
+}  // namespace
+
+bool DiscLoad::entryIsAudio() const { return endsWithNoCase(device_.directoryEntry(), ".CDA"); }
+
+bool DiscLoad::probe() {
+  DiscState& disc = state_.disc;
+  device_.setWait(0);
+  device_.setUpdateInterval(0);
+  device_.setDeviceType("CDAudio");
+  device_.command("Open");
+  bool playable = device_.error() != device_error::kNoDisc;
+  if (playable) {
+    disc.trackCount = device_.tracks();
+    device_.command("Close");
+    // One track may be a disc of data alone.
+    playable = disc.trackCount > 1 || entryIsAudio();
+  }
+  if (!playable) {
+    if (layer_.openDevice()) loadDisc();
+    disc.noDiscState = 2;
+    return false;
+  }
+  disc.noDiscState = 0;
+  form_.Label8.caption = layer_.discLengthTextOf();
+  form_.Label10.caption = disc.discLengthText;
+  disc.trackCount = 1;
+  if (layer_.openDevice()) loadDisc();
+  if (device_.length() == 0) totalFromTracks();
+  return true;
+}
+
+void DiscLoad::loadDisc() {
+  DiscState& disc = state_.disc;
+  device_.setWait(0);
+  device_.setUpdateInterval(0);
+  device_.setDeviceType("CDAudio");
+  device_.sendString("set cdaudio time format milliseconds");
+  const double start = leadingNumber(device_.sendString("status cdaudio position"));
+  disc.trackFrames[0] = static_cast<int32_t>(std::floor(start * kFramesPerSecond / 1000));
+  device_.setTimeFormat(kTimeFormatTmsf);
+  disc.trackCount = device_.tracks();
+  form_.Label13.caption = "Reading CD Information...";
+  disc.discSum = layer_.sumOfTracks();
+  disc.discKey = keyOf(disc.discSum);
+  disc.discLengthText = layer_.discLengthTextOf();
+  disc.cdFilePath = joinPath(joinPath(state_.settings.appDir, "datacd"), disc.discKey + ".CD");
+  if (files_.exists(disc.cdFilePath)) {
+    readTexts();
+  } else {
+    clearTexts();
+  }
+  form_.Label10.caption = disc.discLengthText;
+  form_.Label9.caption = "TOTAL";
+  form_.Label8.caption = std::to_string(disc.trackCount);
+}
+
+void DiscLoad::readTexts() {
+  if (!upward_.readCdRecord(state_.disc.cdFilePath)) {
+    clearTexts();
+    return;
+  }
+  form_.Label12.caption = display_.header();
+  form_.Label13.caption = "";
+}
+
+void DiscLoad::clearTexts() {
+  form_.Label12.caption = "";
+  form_.Label13.caption = "";
+  state_.disc.trackTitles.fill("");
+}
+
+/// For a driver that gives no length: the tracks' sum, 3 seconds allowed for what their
+/// rounding down has dropped.
+void DiscLoad::totalFromTracks() {
+  int sum = 3;
+  for (int16_t track = 1; track <= state_.disc.trackCount; ++track) sum += secondsOf(layer_.trackLengthText(track));
+  form_.Label10.caption = longTime(sum);
+}
+
+void DiscLoad::deferredTable() {
+  DiscState& disc = state_.disc;
+  const bool unfilled = disc.discStarted == kOff && secondsOf(disc.trackLengths[1]) < 1 && disc.trackTableDone == kOff;
+  if (unfilled) {
+    screen_.setPointer(Pointer::Hourglass);
+    for (int16_t track = 1; track <= disc.trackCount; ++track) {
+      disc.trackLengths[static_cast<size_t>(track)] = layer_.trackLengthText(track);
+    }
+    disc.trackTableDone = kOn;
+    screen_.setPointer(Pointer::Normal);
+  }
+  if (!typeShown_) showDiscType();
+}
+
+void DiscLoad::showDiscType() {
+  typeShown_ = true;
+  if (entryIsAudio()) {
+    form_.Label14.caption = "DISC";
+    return;
+  }
+  form_.Label14.caption = "Enh-CD";
+  state_.disc.enhancedCd = kOn;
+  form_.Image4[3].visible = true;
+  form_.Image3[3].visible = false;
+  form_.Image12.visible = true;
+}
+
+}  // namespace orvanta

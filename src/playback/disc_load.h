@@ -1,0 +1,47 @@
+// From a drive to a disc on the display: the probe, the table of contents, the disc's key.
+#pragma once
+
+#include "playback/device.h"
+#include "playback/time_display.h"
+
+namespace orvanta {
+
+class CdDevice;
+class Files;
+class PlaybackUpward;
+class Screen;
+
+class DiscLoad {
+ public:
+  DiscLoad(CdDevice& device, DeviceLayer& layer, Files& files, Screen& screen, TimeDisplay& display, CDForm& form, SharedState& state,
+           PlaybackUpward& upward)
+      : device_(device), layer_(layer), files_(files), screen_(screen), display_(display), form_(form), state_(state), upward_(upward) {}
+
+  /// At the faceplate's load: true with a playable disc, which is loaded then. Without one
+  /// noDiscState is 2.
+  bool probe();
+
+  /// The track table, filled on the first tick so that the faceplate appears first; then the
+  /// disc's type.
+  void deferredTable();
+
+ private:
+  void loadDisc();
+  void readTexts();
+  void clearTexts();
+  void totalFromTracks();
+  void showDiscType();
+  bool entryIsAudio() const;
+
+  CdDevice& device_;
+  DeviceLayer& layer_;
+  Files& files_;
+  Screen& screen_;
+  TimeDisplay& display_;
+  CDForm& form_;
+  SharedState& state_;
+  PlaybackUpward& upward_;
+  bool typeShown_ = false;
+};
+
+}  // namespace orvanta

@@ -1,0 +1,132 @@
+// The transport's procedures. Masks (icntlb, scntlb) disable keys, lit faces (icntlc) show state.
+#include "playback/engine.h"
+
+#include "base/text.h"
+#include "base/times.h"
+#include "platform/ports/cd_device.h"
+#include "platform/ports/files.h"
+#include "platform/ports/screen.h"
+#include "playback/upward.h"
+
+namespace orvanta {
+
+void Engine::startOfTrack() {
+  state_.display.lastShownTrack = 0;
+  state_.display.lastShownSec = 0;
+  state_.transport.trackGo = 1;
+}
+
+void Engine::repeatLabel() {
+  form_.Label21.foreColor = state_.settings.lcdColor[state_.settings.repeatOn == kOn ? kLcdRepeatOn : kLcdRepeatOff];
+}
+
+void Engine::MMControl1_PlayClick() {
+  TransportState& transport = state_.transport;
+  transport.pausedFlag = kOff;
+  transport.playingFlag = kOn;
+  if (transport.pausePosition > 0) {
+    repeatLabel();
+    device_.command("Resume");
+    transport.pausePosition = 0;
+    form_.Label21.caption = "Repeat";
+    return;
+  }
+  if (transport.curTrack < 1 || transport.curTrack > state_.disc.trackCount) transport.curTrack = 1;
+  display_.showTrack(transport.curTrack);
+  transport.playEnded = kOff;
+  display_.showTimeModeLabel();
+  device_.setUpdateInterval(1000);
+  device_.setFrom(static_cast<uint32_t>(transport.curTrack));
+  startOfTrack();
+  // The small window's keys send nothing by themselves.
+  if (state_.display.popupOpen == kOn) device_.command("Play");
+}
+
+void Engine::MMControl1_PauseClick() {
+  TransportState& transport = state_.transport;
+  transport.pausedFlag = kOn;
+  transport.playingFlag = kOff;
+  transport.pausePosition = static_cast<int32_t>(device_.position());
+  form_.Label21.foreColor = state_.settings.lcdColor[kLcdLabelOn];
+  form_.Label21.caption = "PAUSE";
+  form_.Label21.visible = true;
+}
+
+void Engine::MMControl1_StopClick() {
+  state_.transport.playingFlag = kOff;
+  state_.transport.pausedFlag = kOff;
+  state_.transport.pausePosition = 0;
+  state_.display.lastShownSec = 0;
+  display_.clearTime("00:00");
+}
+
+void Engine::mmcontrol1_EjectClick() {
+  const auto& colour = state_.settings.lcdColor;
+  const bool custom = state_.settings.lcdCustom == 1;
+  state_.disc.discLoaded = kOn;
+  files_.remove(joinPath(state_.settings.appDir, "audiocd.tmp"));
+  clrab();
+  screen_.setPointer(Pointer::Hourglass);
+  form_.Label14.foreColor = colour[kLcdDrawer];
+  form_.Label30.foreColor = custom ? colour[kLcdDrawer] : 0x004040;
+  form_.Label22[20].foreColor = custom ? colour[kLcdDrawer] : 0x004000;
+  for (size_t lamp = 0; lamp < 20; ++lamp) form_.Label22[lamp].foreColor = colour[kLcdDim];
+  state_.disc.drawerOpen = kOn;
+  state_.transport.playingFlag = kOff;
+  state_.transport.pausedFlag = kOff;
+  display_.showTrack(0);
+  display_.clearTime("00:00");
+  state_.disc.trackCount = 0;
+  device_.command("stop");
+  form_.Label12.caption = "";
+  form_.Label13.caption = "";
+  upward_.openDrawer();
+  device_.command("Eject");
+  device_.command("Close");
+  form_.SSPanel3.backColor = colours::kYellow;
+  screen_.setPointer(Pointer::Normal);
+}
+
+void Engine::playCompleted(int16_t error) {
+  if (error == device_error::kHardware) device_.command("Close");
+}
+
+void Engine::clrab() {
+  state_.transport.abPointA = state_.transport.abPointB = 0;
+  state_.transport.abTrack = 0;
+  form_.Label16.foreColor = state_.settings.lcdColor[kLcdLabelOff];
+  form_.Label17.foreColor = colours::kBlack;
+}
+
+void Engine::playingLook() {
+  form_.icntlc[Play].visible = true;
+  for (const size_t key : {0U, 3U}) form_.scntlb[key].visible = false;
+  for (const size_t key : {Previous, Next, Pause, Stop, Record}) form_.icntlb[key].visible = false;
+  for (const size_t key : {Pause, Stop}) form_.icntlc[key].visible = false;
+  for (auto* label : {&form_.Label17, &form_.Label24, &form_.Label39}) label->foreColor = colours::kBlack;
+}
+
+void Engine::pausedLook() {
+  for (const size_t key : {Stop, Previous, Next}) form_.icntlb[key].visible = true;
+  for (const size_t key : {0U, 3U}) form_.scntlb[key].visible = true;
+  form_.icntlc[Pause].visible = true;
+  form_.icntlc[Play].visible = false;
+  for (auto* label : {&form_.Label17, &form_.Label24, &form_.Label39}) label->foreColor = colours::kGrey;
+}
+
+void Engine::stoppedLook() {
+  for (const size_t key : {0U, 3U}) form_.scntlb[key].visible = true;
+  for (const size_t key : {Previous, Next, Pause, Stop}) form_.icntlb[key].visible = true;
+  for (const size_t key : {Previous, Next, Play, Pause, Stop}) form_.icntlc[key].visible = false;
+  form_.icntlb[Play].visible = false;
+  form_.icntla[Play].visible = true;
+}
+
+void Engine::adoptRunningDisc() {
+  state_.transport.curTrack = static_cast<int16_t>(unpackTmsf(device_.position()).track);
+  state_.disc.discStarted = kOn;
+  MMControl1_PlayClick();
+  playingLook();
+}
+
+}  // namespace orvanta

@@ -1,0 +1,55 @@
+// Reading and writing single values of the record form.
+#include "state/field_file.h"
+
+#include "base/code_page.h"
+
+namespace orvanta {
+
+namespace {
+
+constexpr std::string_view kBlanks = " \t";
+constexpr std::string_view kEnds = ",\r\n";
+
+/// Drops the separator that follows a value: one comma or one line end.
+void dropSeparator(std::string_view& rest) {
+  const auto start = rest.find_first_not_of(kBlanks);
+  if (start == std::string_view::npos) {
+    rest = {};
+    return;
+  }
+  if (kEnds.find(rest[start]) == std::string_view::npos) return;
+  const bool pair = rest.substr(start, 2) == "\r\n";
+  rest.remove_prefix(start + (pair ? 2 : 1));
+}
+
+std::string_view withoutTrailingBlanks(std::string_view text) {
+  const auto last = text.find_last_not_of(kBlanks);
+  return last == std::string_view::npos ? std::string_view{} : text.substr(0, last + 1);
+}
+
+}  // namespace
+
+std::optional<std::string> FieldReader::next() {
+  const auto start = rest_.find_first_not_of(kBlanks);
+  if (start == std::string_view::npos) return std::nullopt;
+  rest_.remove_prefix(start);
+  std::string_view value;
+  if (rest_.front() == '"') {
+    rest_.remove_prefix(1);
+    const auto close = rest_.find('"');
+    value = rest_.substr(0, close);
+    rest_.remove_prefix(close == std::string_view::npos ? rest_.size() : close + 1);
+  } else {
+    const auto end = rest_.find_first_of(kEnds);
+    value = withoutTrailingBlanks(rest_.substr(0, end));
+    rest_.remove_prefix(end == std::string_view::npos ? rest_.size() : end);
+  }
+  dropSeparator(rest_);
+  return fromWindows1252(value);
+}
+
+void FieldWriter::text(std::string_view utf8) { bytes_ += "\"" + toWindows1252(utf8) + "\"\r\n"; }
+
+void FieldWriter::number(int64_t value) { bytes_ += std::to_string(value) + "\r\n"; }
+
+}  // namespace orvanta

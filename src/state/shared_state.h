@@ -1,0 +1,113 @@
+// The state that the whole core shares, in small structs by owner, made once and handed down as
+// references. Numbers are 16-bit signed where the files and texts they come from are.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+
+#include "base/colour.h"
+#include "state/settings.h"
+
+namespace orvanta {
+
+enum PlayMode : int16_t { Pgm = 0, One = 1, Cont = 2 };
+enum TimeMode : int16_t { Time = 0, Rem = 1, Total = 2, TotRem = 3 };
+
+/// Two-state values of the tables below.
+constexpr int16_t kOff = 0;
+constexpr int16_t kOn = 1;
+
+/// The disc in the drive and its texts. Tables are by track number, from 1.
+struct DiscState {
+  int16_t trackCount = 0;  ///< 0 with no disc or the drawer open
+  int16_t lampCount = 0;   ///< trackCount, at most 20: there are twenty lamps and number keys
+  std::array<std::string, 102> trackLengths;   ///< "m:ss"; filled on the first tick after the load
+  std::array<int32_t, 101> trackFrames{};      ///< [0]: start of the disc in frames; [t]: frames part of t's length
+  std::array<std::string, 101> trackTitles;
+  std::string discArtist;
+  std::string discTitle;
+  int32_t discSum = 0;         ///< what the key is made of
+  std::string discKey;         ///< eight digits, the name of the disc's files
+  std::string cdFilePath;      ///< of the ".CD" file
+  std::string discLengthText;  ///< "mm:ss" or "h:mm:ss"
+  int16_t discMinutes = 0;     ///< minutes of the disc's length, as the device reports them
+  int16_t noDiscState = 0;     ///< 0 a disc at start; 2 no usable disc at start
+  int16_t drawerOpen = kOff;   ///< the faceplate shows the open drawer
+  int16_t discLoaded = kOff;   ///< a disc with tracks was loaded, or eject was pressed
+  int16_t discStarted = kOff;  ///< a track was selected or played; titles show only then
+  int16_t timeCorrection = 0;  ///< seconds, -3 to 5, kept per disc
+  int16_t trackTableDone = kOff;
+  int16_t enhancedCd = kOff;
+  int16_t clearDiscRequest = kOff;  ///< the clock clears the disc's texts
+};
+
+struct TransportState {
+  int16_t curTrack = 0;      ///< 0 after the end of the disc; may pass trackCount by one for a tick
+  int16_t deviceTrack = 0;   ///< as the device last reported
+  int16_t selTrack = 0;      ///< zero-based target of a jump
+  int16_t playMode = Cont;   ///< PlayMode; shuffle runs as Pgm, Intro as Cont with introTrack above 0
+  int16_t playingFlag = kOff;
+  int16_t pausedFlag = kOff;  ///< never both; both off when stopped
+  int32_t pausePosition = 0;  ///< device position at pause; not 0: play must resume
+  int16_t playEnded = kOff;   ///< after the end of program or disc: next does nothing until play
+  int16_t trackGo = 0;        ///< 1 running; 0 track's end reached in Pgm or One; 99 on entering One
+  int16_t scanCount = 0;      ///< ticks of a scan, below 0 backwards
+  double lastAdvanceTime = 0;  ///< seconds since midnight of the last automatic advance in Cont
+  double abPointA = 0;        ///< bar position of the loop's start; 0 not set
+  double abPointB = 0;
+  int16_t abTrack = 0;
+  int16_t introTrack = 0;
+  double introStart = 0;
+};
+
+struct ProgramState {
+  std::array<int16_t, 102> pgmList{};  ///< track numbers in 1..100, 0 ends the list
+  int16_t pgmIndex = 0;                ///< entry that plays, 0 before the first
+  int16_t pgmCount = 0;
+  int16_t pgmStored = kOff;
+  int16_t skipStep = kOff;  ///< a step asked for by next is pending
+};
+
+struct DisplayState {
+  double elapsedSec = 0;
+  int16_t nearEndSec = 0;      ///< track length in seconds less 5; 4 more on the last lamp's track in Cont
+  int16_t lastShownSec = 0;    ///< with lastShownTrack 0: the next display is taken as it comes
+  int16_t lastShownTrack = 0;
+  int16_t holdTrackLabel = kOff;  ///< right after a jump: the clock leaves the track label alone once
+  int16_t popupOpen = kOff;
+  int16_t popupLayout = 0;
+};
+
+/// How this process was started, and where its files are.
+struct ProcessState {
+  std::string commandWord;  ///< upper case; "" when none
+  int16_t autoStartMode = kOff;
+  int16_t autoStartDone = kOff;
+  std::string systemDir;
+  std::string windowsDir;
+  int16_t osFamily = 1;
+  int16_t screenClass = 2;  ///< 1 below 800 pixels, 2 from 800, 3 from 1024, 4 from 1280
+  int16_t smallFonts = kOn;  ///< metric variant: above 14 twips to a pixel
+  int64_t colourCount = 0;
+};
+
+struct SharedState {
+  DiscState disc;
+  TransportState transport;
+  ProgramState program;
+  DisplayState display;
+  ProcessState process;
+  Settings settings;
+
+  /// At the load of the faceplate: disc, transport, program and display start afresh. Settings,
+  /// the start's word and auto-start stay, since they were just read.
+  void clearForLoad() {
+    disc = {};
+    transport = {};
+    program = {};
+    display = {};
+  }
+};
+
+}  // namespace orvanta

@@ -40,10 +40,12 @@ int16_t MciDevice::carryOut(std::string_view word) {
     if (player_.state() == PlayState::Playing) player_.pause();
   } else if (equalsNoCase(word, "Resume")) {
     if (player_.state() == PlayState::Paused) player_.resume();
-  } else if (equalsNoCase(word, "Stop") || equalsNoCase(word, "Close")) {
+  } else if (equalsNoCase(word, "Stop")) {
     playing_ = false;
     if (player_.state() != PlayState::Stopped) player_.stop();
-    if (equalsNoCase(word, "Close")) open_ = false;
+  } else if (equalsNoCase(word, "Close")) {
+    // What plays plays on: the next Open takes it over.
+    open_ = false;
   } else {
     return err::kUnknownCommand;
   }

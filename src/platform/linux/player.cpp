@@ -44,6 +44,11 @@ void Player::waitUntilKnown(int wait) {
   known_.wait_for(lock, milliseconds(wait), [this] { return holder_ != Holder::Unknown; });
 }
 
+bool Player::settled() const {
+  const std::lock_guard lock(mutex_);
+  return orders_.empty() && !busy_;
+}
+
 Holder Player::holder() const {
   const std::lock_guard lock(mutex_);
   return holder_;

@@ -38,6 +38,9 @@ class Player : public DiscPlayer, private SampleFeed {
   void seek(int frame) override;
   void eject() override;
 
+  /// Every order given was carried out.
+  bool settled() const;
+
   /// Frames that could not be read and went out as silence.
   int skippedFrames() const { return skipped_; }
 

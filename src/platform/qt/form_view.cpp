@@ -18,6 +18,7 @@
 #include "base/log.h"
 #include "platform/qt/accessible.h"
 #include "platform/qt/art.h"
+#include "platform/qt/to_qt.h"
 
 namespace orvanta {
 
@@ -26,8 +27,6 @@ using forms::Change;
 namespace {
 
 constexpr int kDragEnd = 300;  ///< milliseconds without a move
-
-QString qs(const std::string& text) { return QString::fromStdString(text); }
 
 bool testNames() {
   static const bool kOn = qEnvironmentVariableIntValue("ORVANTA_TEST_NAMES") == 1;
@@ -122,8 +121,8 @@ FormWindow::FormWindow(forms::Form& form, CoreGate& gate, Fonts& fonts, const Sc
   setMouseTracking(false);
   setAcceptDrops(true);
   setFocusPolicy(Qt::StrongFocus);
-  setWindowTitle(qs(form.caption));
-  setObjectName(qs(form.name()));
+  setWindowTitle(toQt(form.caption));
+  setObjectName(toQt(form.name()));
   dragEnd_.setSingleShot(true);
   QObject::connect(&dragEnd_, &QTimer::timeout, this, [this] { dragMayHaveEnded(); });
   useAccessibleControls();
@@ -187,7 +186,7 @@ void FormWindow::changed(forms::Control& control, Change change) {
 }
 
 void FormWindow::formChanged(Change change) {
-  if (change == Change::Text) setWindowTitle(qs(form_.caption));
+  if (change == Change::Text) setWindowTitle(toQt(form_.caption));
   if (change == Change::Geometry) {
     placeWindow();
     if (wanted_) setVisible(onScreen());
@@ -308,7 +307,7 @@ bool FormWindow::event(QEvent* event) {
     const auto* help = static_cast<QHelpEvent*>(event);
     const forms::Control* control = hit(help->pos());
     // Escaped: a tip is plain text, never taken for HTML.
-    QToolTip::showText(help->globalPos(), control == nullptr ? QString() : qs(control->toolTip).toHtmlEscaped(), this);
+    QToolTip::showText(help->globalPos(), control == nullptr ? QString() : toQt(control->toolTip).toHtmlEscaped(), this);
     return true;
   }
   return QWidget::event(event);
@@ -360,8 +359,8 @@ std::unique_ptr<forms::FormView> QtDesktop::open(forms::Form& form) { return std
 
 void ControlWidget::describe() {
   const std::string& shown = control_.caption;
-  setAccessibleName(qs(shown.empty() ? control_.says : shown));
-  setAccessibleDescription(qs(testNames() ? control_.fullName() : control_.toolTip.get()));
+  setAccessibleName(toQt(shown.empty() ? control_.says : shown));
+  setAccessibleDescription(toQt(testNames() ? control_.fullName() : control_.toolTip.get()));
 }
 
 }  // namespace orvanta

@@ -7,12 +7,11 @@
 #include <QMessageBox>
 
 #include "platform/ports/screen.h"
+#include "platform/qt/to_qt.h"
 
 namespace orvanta {
 
 namespace {
-
-QString qs(const std::string& text) { return QString::fromStdString(text); }
 
 QMessageBox::Icon iconOf(BoxStyle style) {
   switch (style) {
@@ -30,7 +29,7 @@ QWidget* owner() {
 
 /// "Words|*.a;*.b|More|*.c" as Qt's "Words (*.a *.b);;More (*.c)".
 QString filterOf(const std::string& filter) {
-  const QStringList parts = qs(filter).split(QLatin1Char('|'));
+  const QStringList parts = toQt(filter).split(QLatin1Char('|'));
   QStringList filters;
   for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
     QString words = parts[i];
@@ -45,7 +44,7 @@ QString filterOf(const std::string& filter) {
 
 void QtDialogs::message(BoxStyle style, const std::string& title, const std::string& text) {
   screen_.setPointer(Pointer::Normal);
-  QMessageBox box(iconOf(style), qs(title), qs(text), QMessageBox::Ok, owner());
+  QMessageBox box(iconOf(style), toQt(title), toQt(text), QMessageBox::Ok, owner());
   box.setTextFormat(Qt::PlainText);
   box.exec();
   gate_.leaveIfEnded();
@@ -53,7 +52,7 @@ void QtDialogs::message(BoxStyle style, const std::string& title, const std::str
 
 bool QtDialogs::askYesNo(const std::string& title, const std::string& text) {
   screen_.setPointer(Pointer::Normal);
-  QMessageBox box(QMessageBox::Question, qs(title), qs(text), QMessageBox::Yes | QMessageBox::No, owner());
+  QMessageBox box(QMessageBox::Question, toQt(title), toQt(text), QMessageBox::Yes | QMessageBox::No, owner());
   box.setTextFormat(Qt::PlainText);
   const bool yes = box.exec() == QMessageBox::Yes;
   gate_.leaveIfEnded();
@@ -63,17 +62,17 @@ bool QtDialogs::askYesNo(const std::string& title, const std::string& text) {
 std::optional<std::string> QtDialogs::askText(const std::string& title, const std::string& prompt, const std::string& proposed) {
   screen_.setPointer(Pointer::Normal);
   bool ok = false;
-  const QString text = QInputDialog::getText(owner(), qs(title), qs(prompt), QLineEdit::Normal, qs(proposed), &ok);
+  const QString text = QInputDialog::getText(owner(), toQt(title), toQt(prompt), QLineEdit::Normal, toQt(proposed), &ok);
   gate_.leaveIfEnded();
   return ok ? std::optional(text.toStdString()) : std::nullopt;
 }
 
 std::optional<std::string> QtDialogs::askFile(const FileQuestion& question, bool save) {
   screen_.setPointer(Pointer::Normal);
-  QFileDialog dialog(owner(), qs(question.title), qs(question.folder), filterOf(question.filter));
+  QFileDialog dialog(owner(), toQt(question.title), toQt(question.folder), filterOf(question.filter));
   dialog.setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
   dialog.setFileMode(save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
-  if (!question.name.empty()) dialog.selectFile(qs(question.name));
+  if (!question.name.empty()) dialog.selectFile(toQt(question.name));
   const bool chosen = dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty();
   gate_.leaveIfEnded();
   return chosen ? std::optional(dialog.selectedFiles().front().toStdString()) : std::nullopt;

@@ -1,0 +1,11 @@
+// The core's UTF-8 text as Qt's.
+#pragma once
+
+#include <QString>
+#include <string>
+
+namespace orvanta {
+
+inline QString toQt(const std::string& text) { return QString::fromStdString(text); }
+
+}  // namespace orvanta

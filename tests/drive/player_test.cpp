@@ -1,0 +1,234 @@
+// The player over real images: every sample, every frame, and what happens when things break.
+#include "platform/linux/player.h"
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <filesystem>
+#include <functional>
+
+#include "platform/linux/clocked_output.h"
+#include "platform/linux/image_drive.h"
+#include "platform/linux/wav_file.h"
+#include "tests/support/stepped_output.h"
+#include "tests/support/test_discs.h"
+
+namespace orvanta::test {
+namespace {
+
+constexpr size_t kSecond = kSampleRate;
+
+struct Deck {
+  explicit Deck(const std::string& folder) : drive(folder) { player.waitUntilKnown(5000); }
+  void playAll() { player.play(player.toc().startOf(1), player.toc().leadOut); }
+  ImageDrive drive;
+  SteppedOutputs outputs;
+  Player player{drive, outputs};
+};
+
+/// The frames heard, as runs "first-last".
+std::string runs(const std::vector<int16_t>& samples) {
+  std::string text;
+  int last = -2;
+  for (size_t at = 0; at + kShortsPerFrame <= samples.size(); at += kShortsPerFrame) {
+    const int frame = samples[at];
+    if (!isFrame(frame, &samples[at])) return text + " broken at frame " + std::to_string(at / kShortsPerFrame);
+    if (frame != last + 1) text += (text.empty() ? "" : "-" + std::to_string(last) + " ") + std::to_string(frame);
+    last = frame;
+  }
+  return text + "-" + std::to_string(last);
+}
+
+TEST(Player, PlaysAWholeDiscWithoutAGap) {
+  const TempFolder folder;
+  makeDisc(folder, std::vector<int>(99, 30), 50);
+  Deck deck(folder.path());
+  ASSERT_EQ(deck.player.toc().count(), 99);
+  EXPECT_EQ(deck.player.toc().startOf(1), 200);
+  deck.playAll();
+  ASSERT_TRUE(becomes([&] { return deck.outputs.open(); }));
+  deck.outputs.hear(100 * kSecond);
+  EXPECT_EQ(runs(deck.outputs.samples), "200-3169");
+  EXPECT_TRUE(becomes([&] { return deck.player.state() == PlayState::Stopped; }));
+  EXPECT_EQ(deck.player.frame(), deck.player.toc().leadOut);
+  EXPECT_EQ(deck.outputs.streams, 1);
+}
+
+TEST(Player, PauseAndResumeLoseNoSample) {
+  const TempFolder folder;
+  makeDisc(folder, {750});
+  Deck deck(folder.path());
+  deck.playAll();
+  ASSERT_TRUE(becomes([&] { return deck.outputs.open(); }));
+  for (int i = 0; i < 20; ++i) {
+    deck.outputs.hear(12345);
+    deck.player.pause();
+    EXPECT_EQ(deck.player.state(), PlayState::Paused);
+    ASSERT_TRUE(becomes([&] { return deck.outputs.hear(1) == 0 || deck.outputs.samples.size() > 12345 * 2 * 21; }));
+    const int place = deck.player.frame();
+    EXPECT_NEAR(place, 150 + static_cast<int>(deck.outputs.samples.size() / kShortsPerFrame), 1);
+    deck.player.resume();
+    ASSERT_TRUE(becomes([&] { return deck.outputs.hear(1) == 1; }));
+  }
+  deck.outputs.hear(20 * kSecond);
+  EXPECT_EQ(runs(deck.outputs.samples), "150-899");
+}
+
+TEST(Player, SeeksAndSkipsDataTracks) {
+  const TempFolder folder;
+  writeFile(folder / "disc.bin", frameBytes(150, 400));
+  writeFile(folder / "disc.cue",
+            "FILE disc.bin BINARY\nTRACK 01 AUDIO\nINDEX 01 00:00:00\nTRACK 02 MODE1/2352\nINDEX 01 00:01:25\nTRACK 03 AUDIO\nINDEX 01 00:02:50\n");
+  Deck deck(folder.path());
+  deck.player.play(200, 550);
+  ASSERT_TRUE(becomes([&] { return deck.outputs.open(); }));
+  deck.outputs.hear(60 * size_t{kSamplesPerFrame});
+  EXPECT_EQ(deck.player.frame(), 350 + 10) << "the place is told past the data";
+  deck.player.play(400, 420);
+  ASSERT_TRUE(becomes([&] { return deck.outputs.streams == 2 && deck.outputs.open(); }));
+  deck.outputs.hear(kSecond);
+  EXPECT_EQ(runs(deck.outputs.samples), "200-249 350-359 400-419");
+}
+
+TEST(Player, ADeadSoundServerCostsNothing) {
+  const TempFolder folder;
+  makeDisc(folder, {300});
+  Deck deck(folder.path());
+  deck.playAll();
+  ASSERT_TRUE(becomes([&] { return deck.outputs.open(); }));
+  deck.outputs.hear(100 * size_t{kSamplesPerFrame});
+  deck.outputs.failing = true;
+  ASSERT_TRUE(becomes([&] { return deck.outputs.afterFailures == 1 && deck.outputs.open(); }));
+  EXPECT_EQ(deck.player.state(), PlayState::Playing);
+  deck.outputs.hear(10 * kSecond);
+  EXPECT_EQ(runs(deck.outputs.samples), "150-449");
+}
+
+TEST(Player, OnePlayerHoldsADrive) {
+  const TempFolder folder;
+  makeDisc(folder, {300});
+  auto first = std::make_unique<Deck>(folder.path());
+  EXPECT_EQ(first->player.holder(), Holder::Us);
+  ImageDrive drive(folder.path());
+  SteppedOutputs outputs;
+  Player second(drive, outputs);
+  second.waitUntilKnown(100);
+  EXPECT_EQ(second.holder(), Holder::Unknown);
+  // The first one leaves within the time that the second waits for it.
+  first.reset();
+  second.waitUntilKnown(5000);
+  EXPECT_EQ(second.holder(), Holder::Us);
+  EXPECT_EQ(second.toc().count(), 1);
+}
+
+/// A drive that fails where it is told to.
+class BadDrive : public DiscSource {
+ public:
+  bool lock() override { return true; }
+  DriveStatus poll() override { return DriveStatus::Disc; }
+  const Toc& toc() const override { return toc_; }
+  std::string firstEntry() const override { return "Track01.cda"; }
+  bool read(int frame, int count, int16_t* samples) override {
+    ++reads;
+    for (int i = 0; i < count; ++i) {
+      if (bad(frame + i)) return false;
+      const auto one = frameSamples(frame + i);
+      std::copy(one.begin(), one.end(), samples + ptrdiff_t{i} * kShortsPerFrame);
+    }
+    return true;
+  }
+  void openTray() override {}
+  void closeTray() override {}
+
+  std::function<bool(int)> bad = [](int) { return false; };
+  std::atomic<int> reads{0};
+
+ private:
+  Toc toc_{{{1, 150, false}}, 150 + 2000};
+};
+
+TEST(Player, PassesAScratchAndGivesUpOnADeadDrive) {
+  BadDrive drive;
+  drive.bad = [](int frame) { return frame == 300 || (frame >= 400 && frame < 500) || frame >= 1000; };
+  SteppedOutputs outputs;
+  Player player(drive, outputs);
+  player.waitUntilKnown(5000);
+  player.play(150, 2150);
+  ASSERT_TRUE(becomes([&] { return outputs.open(); }));
+  outputs.hear(700 * size_t{kSamplesPerFrame});
+  const auto frameAt = [&](int frame) { return &outputs.samples[static_cast<size_t>(frame - 150) * kShortsPerFrame]; };
+  for (const int good : {150, 299, 301, 399, 600, 800}) EXPECT_TRUE(isFrame(good, frameAt(good))) << good;
+  for (const int silent : {300, 400, 499}) EXPECT_EQ(*frameAt(silent), 0) << silent;
+  EXPECT_LT(drive.reads, 250) << "a scratch is not read frame by frame";
+  outputs.hear(20 * kSecond);
+  EXPECT_TRUE(becomes([&] { return player.state() == PlayState::Stopped; }));
+  EXPECT_TRUE(player.takeFailure());
+  EXPECT_FALSE(player.takeFailure());
+}
+
+TEST(Player, SurvivesAnImageThatShrinksOrVanishesWhilePlaying) {
+  const TempFolder folder;
+  makeDisc(folder, {1500});
+  Deck deck(folder.path());
+  deck.playAll();
+  ASSERT_TRUE(becomes([&] { return deck.outputs.open(); }));
+  deck.outputs.hear(10 * size_t{kSamplesPerFrame});
+  std::filesystem::resize_file(folder / "disc.bin", 200 * kBytesPerFrame);
+  std::filesystem::remove(folder / "disc.bin");
+  std::filesystem::remove(folder / "disc.cue");
+  const size_t heard = deck.outputs.hear(30 * kSecond);
+  EXPECT_GT(heard, 100 * size_t{kSamplesPerFrame});
+  EXPECT_TRUE(becomes([&] { return deck.player.state() == PlayState::Stopped; }));
+}
+
+TEST(ClockedOutput, KeepsTimeAndStartsASeekAtOnce) {
+  const TempFolder folder;
+  makeDisc(folder, {3000});
+  ImageDrive drive(folder.path());
+  ClockedOutputs outputs(nullptr, Pace::RealTime);
+  Player player(drive, outputs);
+  player.waitUntilKnown(5000);
+  const auto milliseconds = [] {
+    return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now().time_since_epoch()).count();
+  };
+  for (const int from : {150, 1500, 700}) {
+    const double ordered = milliseconds();
+    player.play(from, 3150);
+    ASSERT_TRUE(becomes([&] { return player.frame() > from; }));
+    const double moved = milliseconds();
+    EXPECT_LT(moved - ordered, 14 + 50) << "one frame takes 13.3 ms";
+    ASSERT_TRUE(becomes([&] { return milliseconds() > moved + 300; }));
+    EXPECT_NEAR((player.frame() - from) * 1000.0 / 75, milliseconds() - moved + 13.3, 30);
+  }
+}
+
+TEST(ClockedOutput, UnpacedPlaysTheWholeDiscIntoAWavFile) {
+  const TempFolder folder;
+  makeDisc(folder, {500, 500, 321});
+  {
+    WavFile wav(folder / "heard.wav");
+    ImageDrive drive(folder.path());
+    ClockedOutputs outputs(&wav, Pace::Unpaced);
+    Player player(drive, outputs);
+    player.waitUntilKnown(5000);
+    // Twice, the second time into the file as a new process finds it.
+    player.play(150, 650);
+    ASSERT_TRUE(becomes([&] { return player.state() == PlayState::Stopped; }));
+  }
+  {
+    WavFile wav(folder / "heard.wav");
+    ImageDrive drive(folder.path());
+    ClockedOutputs outputs(&wav, Pace::Unpaced);
+    Player player(drive, outputs);
+    player.waitUntilKnown(5000);
+    player.play(650, player.toc().leadOut);
+    ASSERT_TRUE(becomes([&] { return player.state() == PlayState::Stopped; }));
+  }
+  const auto size = std::filesystem::file_size(folder / "heard.wav");
+  std::string error;
+  const std::string bytes = readSmallFile(folder / "heard.wav", 1 << 24, error);
+  EXPECT_EQ(bytes.substr(size - 1321 * kBytesPerFrame), frameBytes(150, 1321));
+}
+
+}  // namespace
+}  // namespace orvanta::test

@@ -1,0 +1,64 @@
+// The whole core over fakes, on the virtual clock.
+#pragma once
+
+#include "app/orvanta.h"
+#include "state/settings_files.h"
+#include "tests/support/fakes.h"
+#include "tests/support/sim_device.h"
+
+namespace orvanta::test {
+
+/// Two discs whose numbers were worked out by hand.
+inline Toc discA() { return tocOf({150, 18627, 41002}, 60900); }  // 4:06.27, 4:58.25, 4:25.22
+inline Toc discB() { return tocOf({150, 13650, 31650}, 49650); }  // 3:00, 4:00, 3:59
+
+struct CoreRig {
+  CoreGate gate;
+  VirtualClock clock{gate};
+  SimPlayer player{clock};
+  SimDevice device{player, clock};
+  FakeDialogs dialogs;
+  FakeFiles files;
+  FakeProcesses processes;
+  FakeScreen screen;
+  FakeSystem system;
+  FakeDesktop desktop;
+  Ports ports{device, clock, dialogs, files, processes, screen, system, desktop};
+  Orvanta orvanta{ports};
+  CDForm& form = orvanta.form;
+  SharedState& state = orvanta.state;
+  Settings settings = defaultSettings("/data", "/drive");
+
+  /// Settings files on the disk, as a set-up leaves them.
+  void install() {
+    writeMissingSettings(files, settings);
+    writeSettings(SettingsFile::Orvwin, files, "/system", settings);
+    files.tape.clear();
+  }
+
+  void start(const std::string& words = "") {
+    gate.enter([&] { orvanta.start({"", "", words}); });
+  }
+
+  /// Installed, with a disc, started, the first tick done.
+  void startWith(const Toc& toc) {
+    install();
+    player.insert(toc);
+    start();
+    clock.advance(100);
+  }
+
+  void press(forms::Control& control) {
+    gate.enter([&] { form.press(control); });
+  }
+  void key(int code) {
+    gate.enter([&] {
+      form.keyDown({code});
+      form.keyUp({code});
+    });
+  }
+  const std::string& time() const { return form.Label10.caption; }
+  const std::string& track() const { return form.Label8.caption; }
+};
+
+}  // namespace orvanta::test

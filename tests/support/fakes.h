@@ -1,0 +1,256 @@
+// Ports that remember what was asked of them.
+#pragma once
+
+#include <deque>
+#include <map>
+#include <set>
+
+#include "base/text.h"
+#include "platform/forms/form.h"
+#include "platform/ports/aux_volume.h"
+#include "platform/ports/core_gate.h"
+#include "platform/ports/dialogs.h"
+#include "platform/ports/files.h"
+#include "platform/ports/http.h"
+#include "platform/ports/mixer_application.h"
+#include "platform/ports/net.h"
+#include "platform/ports/printer.h"
+#include "platform/ports/processes.h"
+#include "platform/ports/screen.h"
+#include "platform/ports/shell.h"
+#include "platform/ports/sounds.h"
+#include "platform/ports/system.h"
+#include "platform/ports/tray.h"
+
+namespace orvanta::test {
+
+using Tape = std::vector<std::string>;
+
+class FakeFiles : public Files {
+ public:
+  std::optional<std::string> read(const std::string& path) const override {
+    const auto found = files.find(upper(path));
+    return found == files.end() ? std::nullopt : std::optional(found->second);
+  }
+  bool write(const std::string& path, std::string_view bytes) override {
+    tape.push_back("write " + path);
+    if (!full) files[upper(path)] = bytes;
+    return !full;
+  }
+  bool remove(const std::string& path) override {
+    tape.push_back("remove " + path);
+    files.erase(upper(path));
+    return true;
+  }
+  bool exists(const std::string& path) const override { return files.count(upper(path)) > 0; }
+  bool makeFolder(const std::string& /*path*/) override { return !full; }
+  std::vector<std::string> list(const std::string& folder) const override {
+    std::vector<std::string> names;
+    const std::string start = upper(joinPath(folder, ""));
+    for (const auto& [path, bytes] : files) {
+      if (path.rfind(start, 0) == 0) names.push_back(path.substr(start.size()));
+    }
+    return names;
+  }
+
+  std::map<std::string, std::string> files;  ///< by path in upper case
+  Tape tape;
+  bool full = false;  ///< a full disk, or a read-only folder
+};
+
+class FakeDialogs : public Dialogs {
+ public:
+  void message(BoxStyle /*style*/, const std::string& title, const std::string& text) override { tape.push_back(title + ": " + text); }
+  bool askYesNo(const std::string& title, const std::string& text) override {
+    tape.push_back(title + "? " + text);
+    return yes;
+  }
+  std::optional<std::string> askText(const std::string& title, const std::string& prompt, const std::string& /*proposed*/) override {
+    tape.push_back(title + "? " + prompt);
+    return next();
+  }
+  std::optional<std::string> askOpenFile(const FileQuestion& question) override {
+    tape.push_back("open " + question.title);
+    return next();
+  }
+  std::optional<std::string> askSaveFile(const FileQuestion& question) override {
+    tape.push_back("save " + question.title);
+    return next();
+  }
+
+  Tape tape;
+  bool yes = false;
+  std::deque<std::optional<std::string>> answers;  ///< none left: cancelled
+
+ private:
+  std::optional<std::string> next() {
+    if (answers.empty()) return std::nullopt;
+    const auto answer = answers.front();
+    answers.pop_front();
+    return answer;
+  }
+};
+
+class FakeProcesses : public Processes {
+ public:
+  Id start(const ProcessRequest& request) override {
+    std::string line;
+    for (const auto& argument : request.arguments) line += (line.empty() ? "" : " ") + argument;
+    tape.push_back(line);
+    return fail ? 0 : static_cast<Id>(tape.size());
+  }
+  bool running(Id id) const override { return alive.count(id) > 0; }
+  bool runAndWait(const ProcessRequest& request) override { return start(request) != 0; }
+  bool nameRuns(const std::string& program) const override { return names.count(program) > 0; }
+
+  Tape tape;
+  std::set<Id> alive;
+  std::set<std::string> names;
+  bool fail = false;
+};
+
+class FakeScreen : public Screen {
+ public:
+  int widthPixels() const override { return width; }
+  int heightPixels() const override { return height; }
+  int twipsPerPixel() const override { return twips; }
+  int bitsPerPixel() const override { return bits; }
+  int planes() const override { return 1; }
+  bool hasFont(const std::string& family) const override { return missing.count(family) == 0; }
+  Taskbar taskbar() const override { return bar; }
+  void setPointer(Pointer now) override { pointer = now; }
+
+  int width = 1600;
+  int height = 1000;
+  int twips = 15;
+  int bits = 24;
+  std::set<std::string> missing;
+  Taskbar bar;
+  Pointer pointer = Pointer::Normal;
+};
+
+class FakeSystem : public System {
+ public:
+  std::string systemDir() const override { return "/system"; }
+  std::string windowsDir() const override { return "/programs"; }
+  std::string defaultDataDir() const override { return "/usual"; }
+  int16_t platformId() const override { return 1; }
+  std::vector<std::string> handedOn() const override { return {}; }
+};
+
+class FakeView : public forms::FormView {
+ public:
+  explicit FakeView(Tape& tape) : tape_(tape) {}
+  void show() override { tape_.push_back("show"); }
+  void hide() override { tape_.push_back("hide"); }
+  void raise() override { tape_.push_back("raise"); }
+  void changed(forms::Control& control, forms::Change /*change*/) override { tape_.push_back(control.fullName()); }
+  void formChanged(forms::Change /*change*/) override { tape_.push_back("form"); }
+  void refresh(forms::Control& control) override { tape_.push_back("refresh " + control.fullName()); }
+  void focusMoved(forms::Control* control) override { tape_.push_back("focus " + (control ? control->fullName() : "")); }
+  void drag() override { tape_.push_back("drag"); }
+
+ private:
+  Tape& tape_;
+};
+
+class FakeDesktop : public forms::Desktop {
+ public:
+  std::unique_ptr<forms::FormView> open(forms::Form& /*form*/) override { return std::make_unique<FakeView>(tape); }
+  Tape tape;
+};
+
+// ---- ports whose users are still to come
+
+class FakeAuxVolume : public AuxVolume {
+ public:
+  int devices() const override { return 1; }
+  std::string name(int device) const override { return device == 0 ? "CD Audio" : ""; }
+  AuxReading volume(int /*device*/) const override { return reading; }
+  int setVolume(int /*device*/, uint32_t volume) override {
+    if (reading.error == 0) reading.volume = volume;
+    return reading.error;
+  }
+  AuxReading reading{0, 0xFFFFFFFF};
+};
+
+/// One tape for everything that is only told to do something.
+class FakeMixer : public MixerApplication {
+ public:
+  bool startHidden() override { return tape.emplace_back("start"), true; }
+  bool activate(const std::string& title) override { return tape.push_back("activate " + title), true; }
+  void sendKeys(const std::string& keys) override { tape.push_back(keys); }
+  bool close(const std::string& title) override { return tape.push_back("close " + title), true; }
+  Tape tape;
+};
+
+class FakeTray : public Tray {
+ public:
+  bool available() const override { return there; }
+  void setEvents(TrayEvents* to) override { events = to; }
+  void show(const std::string& toolTip) override { tape.push_back("show " + toolTip); }
+  void hide() override { tape.emplace_back("hide"); }
+  bool there = true;
+  TrayEvents* events = nullptr;
+  Tape tape;
+};
+
+class FakeShell : public Shell {
+ public:
+  std::optional<std::string> programFor(const std::string& mimeType) const override { return in(associations, mimeType); }
+  std::optional<std::string> findProgram(const std::string& name) const override { return in(programs, name); }
+  std::map<std::string, std::string> associations;
+  std::map<std::string, std::string> programs;
+
+ private:
+  static std::optional<std::string> in(const std::map<std::string, std::string>& all, const std::string& key) {
+    const auto found = all.find(key);
+    return found == all.end() ? std::nullopt : std::optional(found->second);
+  }
+};
+
+class FakeSocket : public Socket {
+ public:
+  void setEvents(SocketEvents* to) override { events = to; }
+  void connect(const std::string& host, uint16_t port) override { tape.push_back("connect " + host + " " + std::to_string(port)); }
+  void send(std::string_view bytes) override { tape.push_back("send " + std::string(bytes)); }
+  void close() override { tape.emplace_back("close"); }
+  SocketEvents* events = nullptr;
+  Tape tape;
+};
+
+class FakeListener : public Listener {
+ public:
+  void listen(uint16_t at) override { port = at; }
+  void close() override { port = 0; }
+  uint16_t port = 0;
+};
+
+class FakeHttp : public Http {
+ public:
+  void setEvents(HttpEvents* to) override { events = to; }
+  void execute(const HttpRequest& request) override { requests.push_back(request); }
+  void cancel() override { ++cancelled; }
+  HttpEvents* events = nullptr;
+  std::vector<HttpRequest> requests;
+  int cancelled = 0;
+};
+
+class FakePrinter : public Printer {
+ public:
+  bool ask() override { return accepted; }
+  void setFont(const std::string& family, double /*points*/, bool /*bold*/) override { tape.push_back("font " + family); }
+  void print(int column, const std::string& text) override { tape.push_back(std::to_string(column) + ": " + text); }
+  void newLine() override { tape.emplace_back(""); }
+  void endDocument() override { tape.emplace_back("end"); }
+  bool accepted = true;
+  Tape tape;
+};
+
+class FakeSounds : public Sounds {
+ public:
+  void play(const std::string& path) override { tape.push_back(path); }
+  Tape tape;
+};
+
+}  // namespace orvanta::test

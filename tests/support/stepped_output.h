@@ -1,0 +1,99 @@
+// A sound output whose time a test moves by hand, and that keeps all it was given.
+#pragma once
+
+#include <atomic>
+#include <chrono>
+#include <mutex>
+#include <thread>
+#include <vector>
+
+#include "platform/linux/sound_output.h"
+#include "platform/linux/toc.h"
+
+namespace orvanta::test {
+
+class SteppedOutputs : public SoundOutputs {
+ public:
+  std::unique_ptr<SoundOutput> make(SampleFeed& feed, bool afterFailure) override {
+    const std::lock_guard lock(mutex_);
+    ++streams;
+    if (afterFailure) ++afterFailures;
+    feed_ = &feed;
+    heard_ = 0;
+    paused_ = failing = false;
+    return std::make_unique<Stream>(*this);
+  }
+
+  /// Hears up to `pairs` more, waiting for the player's thread to bring them; returns how many. Less
+  /// only when there is no stream, it has ended or is paused, or nothing came for five seconds.
+  size_t hear(size_t pairs) {
+    size_t done = 0;
+    const auto patience = std::chrono::steady_clock::now() + std::chrono::seconds(5);
+    while (done < pairs && std::chrono::steady_clock::now() < patience) {
+      {
+        const std::lock_guard lock(mutex_);
+        if (feed_ == nullptr || paused_) return done;
+        const bool last = feed_->finished();
+        const size_t at = samples.size();
+        samples.resize(at + (pairs - done) * 2);
+        const size_t got = feed_->pull(samples.data() + at, pairs - done);
+        samples.resize(at + got * 2);
+        heard_ += got;
+        done += got;
+        if (got == 0 && last) return done;
+      }
+      if (done < pairs) std::this_thread::sleep_for(std::chrono::microseconds(200));
+    }
+    return done;
+  }
+
+  bool open() const {
+    const std::lock_guard lock(mutex_);
+    return feed_ != nullptr;
+  }
+
+  std::vector<int16_t> samples;
+  std::atomic<int> streams{0};
+  std::atomic<int> afterFailures{0};
+  std::atomic<bool> failing{false};
+
+ private:
+  class Stream : public SoundOutput {
+   public:
+    explicit Stream(SteppedOutputs& owner) : owner_(owner) {}
+    ~Stream() override {
+      const std::lock_guard lock(owner_.mutex_);
+      owner_.feed_ = nullptr;
+    }
+    void pause() override { set(true); }
+    void resume() override { set(false); }
+    uint64_t heard() const override { return owner_.heard_; }
+    bool failed() const override { return owner_.failing; }
+    bool paced() const override { return false; }
+
+   private:
+    void set(bool paused) {
+      const std::lock_guard lock(owner_.mutex_);
+      owner_.paused_ = paused;
+    }
+    SteppedOutputs& owner_;
+  };
+
+  mutable std::mutex mutex_;
+  SampleFeed* feed_ = nullptr;
+  std::atomic<uint64_t> heard_{0};
+  bool paused_ = false;
+};
+
+/// Waits for a condition that another thread brings about; false after five seconds.
+template <class Condition>
+bool becomes(const Condition& condition) {
+  const auto patience = std::chrono::steady_clock::now() + std::chrono::seconds(5);
+  while (!condition()) {
+    if (std::chrono::steady_clock::now() > patience) return false;
+    std::this_thread::sleep_for(std::chrono::microseconds(500));
+  }
+  return true;
+}
+
+}  // namespace orvanta::test

@@ -1,0 +1,205 @@
+// Start and end of the whole core over fakes.
+#include <gtest/gtest.h>
+
+#include "app/command_line.h"
+#include "app/options.h"
+#include "tests/support/core_rig.h"
+
+namespace orvanta::test {
+namespace {
+
+using Kind = CommandLine::Kind;
+
+TEST(CommandLineWords, AreSortedByTheirEnding) {
+  struct Case {
+    const char* line;
+    Kind kind;
+    const char* word;
+    int track;
+  };
+  for (const auto& [line, kind, word, track] : {Case{"", Kind::Plain, "", 0}, Case{"play", Kind::Plain, "", 0}, Case{"RunRipper ", Kind::Word, "RUNRIPPER", 0},
+                                                Case{"orvlite", Kind::Word, "ORVLITE", 0}, Case{"audiocd", Kind::Word, "AUDIOCD", 0},
+                                                Case{"D:\\Track05.cda", Kind::TrackFile, "AUDIOCD1", 5}, Case{"/media/cd/Track12.cda", Kind::TrackFile, "AUDIOCD1", 12},
+                                                Case{"D:\\FOLDER\\TRACK09.CDA", Kind::TrackFile, "AUDIOCD1", 9}, Case{"D:\\X.CDA", Kind::TrackFile, "AUDIOCD1", 0},
+                                                Case{"tool.exe", Kind::Program, "", 0}}) {
+    const CommandLine found = classify(line);
+    EXPECT_EQ(found.kind, kind) << line;
+    EXPECT_EQ(found.word, word) << line;
+    EXPECT_EQ(found.trackNumber, track) << line;
+  }
+}
+
+TEST(Options, StandBeforeTheWords) {
+  const Options options = readOptions({"--data", "here", "--audio=file:x.wav", "--scale", "1.5", "--disc", "/a/b.cue", "TRACK05.CDA", "--data"}, "/cur");
+  EXPECT_EQ(options.error, "");
+  EXPECT_EQ(options.host.dataDir, "/cur/here");
+  EXPECT_EQ(options.audio, "file:/cur/x.wav");
+  EXPECT_EQ(options.host.words, "TRACK05.CDA --data");
+  EXPECT_EQ(options.disc, "/a/b.cue");
+  EXPECT_EQ(options.handedOn(), (Tape{"--data", "/cur/here", "--audio", "file:/cur/x.wav", "--scale", "1.500000"}));
+  for (const char* bad : {"--what", "--scale=0", "--audio=loud", "--data"}) EXPECT_NE(readOptions({bad}, "/").error, "") << bad;
+}
+
+TEST(Start, ShowsTheDiscThatIsInTheDrive) {
+  CoreRig rig;
+  rig.startWith(discA());
+  EXPECT_EQ(rig.track(), "3");
+  EXPECT_EQ(rig.form.Label9.caption, "TOTAL");
+  EXPECT_EQ(rig.time(), "13:29");
+  EXPECT_EQ(rig.form.Label14.caption, "DISC");
+  EXPECT_TRUE(rig.files.exists("/data/audiocd.tmp"));
+  EXPECT_TRUE(rig.form.Label22[2].visible);
+  EXPECT_FALSE(rig.form.Label22[3].visible);
+  EXPECT_EQ(rig.form.Label34[3].foreColor, colours::kGrey);
+  EXPECT_EQ(rig.screen.pointer, Pointer::Normal);
+}
+
+TEST(Start, NumbersOfTheDisc) {
+  CoreRig a;
+  a.startWith(discA());
+  const DiscState& disc = a.state.disc;
+  EXPECT_EQ(disc.discSum, 19443766);
+  EXPECT_EQ(disc.discKey, "19443766");
+  EXPECT_EQ(disc.cdFilePath, "/data/datacd/19443766.CD");
+  EXPECT_EQ(disc.trackLengths[1] + " " + disc.trackLengths[2] + " " + disc.trackLengths[3], "4:06 4:58 4:25");
+  EXPECT_EQ(std::vector<int32_t>(disc.trackFrames.begin(), disc.trackFrames.begin() + 4), (std::vector<int32_t>{150, 27, 25, 22}));
+  EXPECT_EQ(disc.discMinutes, 13);
+  CoreRig b;
+  b.startWith(discB());
+  EXPECT_EQ(b.state.disc.discKey, "19459115");
+  EXPECT_EQ(b.time(), "10:59");
+  CoreRig single;
+  single.startWith(tocOf({150}, 150 + 50 * 75));
+  EXPECT_EQ(single.time(), "00:49") << "a short disc has a length all the same";
+  EXPECT_EQ(single.state.disc.discKey.size(), 8U);
+  CoreRig full;
+  std::vector<int> starts;
+  for (int i = 0; i < 99; ++i) starts.push_back(150 + i * 3600);
+  full.startWith(tocOf(starts, 150 + 99 * 3600));
+  EXPECT_EQ(full.track(), "99");
+  EXPECT_EQ(full.state.disc.lampCount, 20);
+  EXPECT_EQ(full.time(), "1:19:11");
+  EXPECT_EQ(full.form.Label22[20].foreColor, full.state.settings.lcdColor[kLcdLit]);
+}
+
+TEST(Start, EnhancedAndDataDiscs) {
+  CoreRig enhanced;
+  enhanced.install();
+  enhanced.player.insert(tocOf({150, 9000, -20000}, 30000), "START.EXE");
+  enhanced.start();
+  enhanced.clock.advance(100);
+  EXPECT_EQ(enhanced.form.Label14.caption, "Enh-CD");
+  EXPECT_TRUE(enhanced.form.Image12.visible);
+  CoreRig data;
+  data.install();
+  data.player.insert(tocOf({-150}, 30000), "README.TXT");
+  data.start();
+  EXPECT_EQ(data.state.disc.noDiscState, 2);
+  EXPECT_NE(data.form.Label12.caption.get().find("Please insert an Audio CD"), std::string::npos);
+}
+
+TEST(Start, WithoutADiscTheDeckAsksForOne) {
+  CoreRig rig;
+  rig.startWith({});
+  EXPECT_EQ(rig.state.disc.noDiscState, 2);
+  EXPECT_EQ(rig.track() + rig.time(), "000:00");
+  EXPECT_EQ(rig.form.Label12.caption, "Please insert an Audio CD or Enh-CD into the drive...");
+  rig.press(rig.form.icntla[Play]);
+  rig.key('D');
+  rig.clock.advance(5000);
+  EXPECT_EQ(rig.state.transport.playingFlag, kOff);
+  rig.key(forms::key::kEscape);
+  EXPECT_TRUE(rig.gate.ended());
+}
+
+TEST(Start, AdoptsADiscThatPlays) {
+  CoreRig rig;
+  rig.install();
+  rig.player.insert(discB());
+  rig.player.play(13650 + 75 * 10, discB().leadOut);
+  rig.start();
+  rig.clock.advance(1100);
+  EXPECT_EQ(rig.track(), "2");
+  EXPECT_EQ(rig.time(), "0:11");
+  EXPECT_TRUE(rig.form.icntlc[Play].visible);
+  for (const std::string& command : rig.device.tape) EXPECT_NE(command, "Play");
+}
+
+TEST(Start, EndsSilentlyWhenAnotherPlayerHasTheDrive) {
+  CoreRig rig;
+  rig.install();
+  rig.player.insert(discA());
+  rig.player.held = Holder::Other;
+  rig.start();
+  EXPECT_TRUE(rig.gate.ended());
+  EXPECT_EQ(rig.dialogs.tape, Tape{});
+}
+
+TEST(Start, WithoutSettingsAsksOrSetsUp) {
+  CoreRig helped;
+  helped.files.files["/PROGRAMS/LXINIT"] = "";
+  helped.start();
+  EXPECT_EQ(helped.processes.tape, Tape{"/programs/lxinit /usual"});
+  EXPECT_EQ(helped.dialogs.tape, Tape{"Orvanta LX Setup Wizard: Orvanta LX setup file successfully initialized; please restart Orvanta LX."});
+  EXPECT_TRUE(helped.gate.ended());
+
+  for (const auto& [answers, boxes] : {std::pair{std::deque<std::optional<std::string>>{}, 1U}, {{"C"}, 1U}, {{"/x", "/y"}, 2U}}) {
+    CoreRig asked;
+    asked.dialogs.answers = answers;
+    asked.start();
+    EXPECT_EQ(asked.dialogs.tape.size(), boxes);
+    EXPECT_TRUE(asked.gate.ended());
+    EXPECT_EQ(asked.processes.tape, Tape{});
+  }
+
+  CoreRig half;
+  half.settings.appDir = "/data";
+  writeSettings(SettingsFile::Orvwin, half.files, "/system", half.settings);
+  half.start();
+  EXPECT_EQ(half.processes.tape, Tape{"/programs/orvsetup INITSETUPLX"});
+  EXPECT_TRUE(half.gate.ended());
+}
+
+TEST(Exit, SavesStopsAndIsTheEnd) {
+  for (const bool playOn : {false, true}) {
+    CoreRig rig;
+    rig.settings.appOptions[5] = playOn ? 1 : 0;
+    rig.startWith(discA());
+    rig.state.settings.repeatOn = kOn;
+    rig.press(rig.form.icntla[Play]);
+    rig.clock.advance(2500);
+    rig.device.tape.clear();
+    rig.key(forms::key::kEscape);
+    EXPECT_TRUE(rig.gate.ended());
+    EXPECT_EQ(rig.device.tape, playOn ? Tape{} : (Tape{"Stop", "Close"}));
+    EXPECT_EQ(rig.files.read("/data/settings.dat"), "0\r\n\r\n0\r\n0\r\n1\r\n");
+    EXPECT_FALSE(rig.files.exists("/data/audiocd.tmp"));
+    EXPECT_EQ(rig.form.Label28.foreColor, colours::kDarkRed);
+    EXPECT_EQ(rig.form.SSPanel3.backColor, colours::kRed);
+    // Whatever comes now comes too late.
+    const Tape files = rig.files.tape;
+    const std::string form = forms::formAsText(rig.form);
+    rig.clock.advance(5000);
+    rig.press(rig.form.icntla[Stop]);
+    rig.key(forms::key::kEscape);
+    EXPECT_EQ(rig.files.tape, files);
+    EXPECT_EQ(forms::formAsText(rig.form), form);
+  }
+}
+
+TEST(Start, NothingIsLostOnAFullDisk) {
+  CoreRig rig;
+  rig.install();
+  rig.player.insert(discA());
+  rig.files.full = true;
+  rig.start();
+  rig.clock.advance(100);
+  EXPECT_EQ(rig.track(), "3");
+  rig.key('J');
+  rig.key(forms::key::kEscape);
+  EXPECT_TRUE(rig.gate.ended());
+  EXPECT_EQ(rig.dialogs.tape, Tape{});
+}
+
+}  // namespace
+}  // namespace orvanta::test

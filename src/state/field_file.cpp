@@ -1,6 +1,8 @@
 // Reading and writing single values of the record form.
 #include "state/field_file.h"
 
+#include <algorithm>
+
 #include "base/code_page.h"
 
 namespace orvanta {
@@ -48,7 +50,12 @@ std::optional<std::string> FieldReader::next() {
   return fromWindows1252(value);
 }
 
-void FieldWriter::text(std::string_view utf8) { bytes_ += "\"" + toWindows1252(utf8) + "\"\r\n"; }
+void FieldWriter::text(std::string_view utf8) {
+  std::string bytes = toWindows1252(utf8);
+  // The form has no way to hold a double quote, and one would cut the value short.
+  std::replace(bytes.begin(), bytes.end(), '"', '\'');
+  bytes_ += "\"" + bytes + "\"\r\n";
+}
 
 void FieldWriter::number(int64_t value) { bytes_ += std::to_string(value) + "\r\n"; }
 

@@ -23,6 +23,7 @@ class FieldReader {
 
 class FieldWriter {
  public:
+  /// In quotes; a double quote within becomes a single one.
   void text(std::string_view utf8);
   void number(int64_t value);
   void empty() { bytes_ += "\r\n"; }

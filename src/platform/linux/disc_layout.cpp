@@ -8,6 +8,9 @@ namespace orvanta {
 
 namespace {
 
+/// More than any disc has: what is longer counts as this.
+constexpr int64_t kMaxLength = int64_t{2} * kMaxFrames * 2448;
+
 class Layer {
  public:
   Layer(const CueSheet& sheet, std::span<const int64_t> lengths, DiscLayout& out) : sheet_(sheet), lengths_(lengths), out_(out) {}
@@ -52,7 +55,7 @@ class Layer {
   /// First frame behind the file, were this track its last one. A piece of a sector counts in a
   /// sound file, where silence fills it up, and not in a raw one.
   int64_t fileEnd(const CueTrack& track) const {
-    const int64_t length = lengths_[track.file];
+    const int64_t length = std::min(lengths_[track.file], kMaxLength);
     const int64_t rest = isSound(track) ? (length - offset_ + kSamplesPerFrame - 1) / kSamplesPerFrame : (length - offset_) / track.sectorBytes;
     return std::min<int64_t>(fileFrame_ + std::max<int64_t>(rest, 0), int64_t{2} * kMaxFrames);
   }

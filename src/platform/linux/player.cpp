@@ -5,6 +5,8 @@
 #include <chrono>
 #include <utility>
 
+#include "base/log.h"
+
 namespace orvanta {
 
 using std::chrono::milliseconds;
@@ -87,6 +89,8 @@ int Player::heardFrame() const {
 }
 
 void Player::give(const Order& order, PlayState state, int frame) {
+  static constexpr const char* kWords[] = {"play", "pause", "resume", "stop", "seek", "eject"};
+  if (logs("sound")) logLine("sound", std::string(kWords[order.kind]) + " at frame " + std::to_string(frame));
   {
     const std::lock_guard lock(mutex_);
     // Only the last of several orders that stop or start sound matters.
@@ -216,6 +220,7 @@ void Player::dropStream() {
 
 void Player::startStream(int from, bool afterFailure) {
   dropStream();
+  if (logs("sound")) logLine("sound", "stream from frame " + std::to_string(from) + (afterFailure ? " after a failure" : ""));
   next_ = runEnd_ = from;
   produced_ = 0;
   readAll_ = false;

@@ -1,0 +1,164 @@
+// The view on Qt's offscreen platform: geometry at every scale, hits, names for screen readers, what
+// is painted, and the form's input by real events.
+#include <gtest/gtest.h>
+
+#include <QAccessible>
+#include <QApplication>
+#include <QImage>
+#include <QTest>
+#include <memory>
+
+#include "platform/qt/form_view.h"
+#include "platform/qt/qt_clock.h"
+#include "platform/qt/qt_screen.h"
+#include "tests/support/core_rig.h"
+
+namespace orvanta::test {
+namespace {
+
+/// The core over fakes, with the real view.
+struct Deck : CoreRig {
+  explicit Deck(double factor = 1, int twips = 15) : scale{factor, twips}, qtDesktop(gate, scale) {
+    screen.twips = twips;
+    install();
+    player.insert(discA());
+    gate.enter([&] { core.start({}); });
+    clock.advance(100);
+    window = dynamic_cast<FormWindow*>(core.form.view());
+  }
+  QRect inWindow(const forms::Control& control) const {
+    const ControlWidget* widget = window->widgetOf(control);
+    return {widget->mapTo(window, widget->controlRect().topLeft()), widget->controlRect().size()};
+  }
+  QImage picture() const { return window->grab().toImage(); }
+  Scale scale;
+  QtDesktop qtDesktop;
+  Ports realPorts{device, clock, dialogs, files, processes, screen, system, qtDesktop};
+  Orvanta core{realPorts};
+  FormWindow* window = nullptr;
+};
+
+TEST(View, EdgesMeetAtEveryScale) {
+  for (const int twips : {15, 12}) {
+    for (const double factor : {1.0, 1.25, 1.5, 2.0}) {
+      const Deck deck(factor, twips);
+      const CDForm& form = deck.core.form;
+      EXPECT_EQ(deck.window->width(), static_cast<int>(std::lround(form.width * factor / twips)));
+      // The function row's keys stand wall to wall, inside panels and outside.
+      for (size_t key = 0; key + 1 < 4; ++key) {
+        EXPECT_EQ(deck.inWindow(form.Image10[key]).right() + 1, deck.inWindow(form.Image10[key + 1]).left()) << factor;
+      }
+      const QRect digits = deck.inWindow(form.Label10);
+      EXPECT_NEAR(digits.left(), (form.Panel3D1.left + form.Label10.left) * factor / twips, 1);
+      EXPECT_FALSE(deck.picture().isNull());
+    }
+  }
+}
+
+TEST(View, APressReachesTheKeyUnderItsCaption) {
+  Deck deck;
+  const CDForm& form = deck.core.form;
+  // Through the mask-free symbol over the play key.
+  QTest::mousePress(deck.window, Qt::LeftButton, {}, deck.inWindow(form.icntla[Play]).center());
+  EXPECT_TRUE(form.Shape2.visible);
+  QTest::mouseRelease(deck.window, Qt::LeftButton, {}, QPoint(1, 1));
+  EXPECT_EQ(deck.core.state.transport.playingFlag, kOn) << "one release, wherever the mouse is";
+  QTest::mouseClick(deck.window, Qt::LeftButton, {}, deck.inWindow(form.icntla[Pause]).center());
+  EXPECT_EQ(deck.core.state.transport.pausedFlag, kOn);
+  QTest::keyClick(deck.window, Qt::Key_D);
+  EXPECT_EQ(deck.core.state.transport.playingFlag, kOn);
+}
+
+TEST(View, TabShowsFocusAndSpacePresses) {
+  Deck deck;
+  const QImage before = deck.picture();
+  for (int i = 0; i < 60 && deck.core.form.activeControl() != &deck.core.form.icntla[Play]; ++i) QTest::keyClick(deck.window, Qt::Key_Tab);
+  ASSERT_EQ(deck.core.form.activeControl(), &deck.core.form.icntla[Play]);
+  EXPECT_NE(deck.picture(), before);
+  QTest::keyClick(deck.window, Qt::Key_Space);
+  EXPECT_EQ(deck.core.state.transport.playingFlag, kOn);
+}
+
+TEST(View, ScreenReadersFindEveryControl) {
+  qputenv("ORVANTA_TEST_NAMES", "1");
+  Deck deck;
+  const auto interfaceOf = [&](const forms::Control& control) { return QAccessible::queryAccessibleInterface(deck.window->widgetOf(control)); };
+  int named = 0;
+  for (const forms::Control* control : deck.core.form.controls()) {
+    QAccessibleInterface* found = interfaceOf(*control);
+    ASSERT_NE(found, nullptr) << control->fullName();
+    EXPECT_EQ(found->text(QAccessible::Description).toStdString(), control->fullName());
+    if (!control->tabStop) continue;
+    EXPECT_FALSE(found->text(QAccessible::Name).isEmpty()) << control->fullName();
+    ++named;
+  }
+  EXPECT_GT(named, 50);
+  const CDForm& form = deck.core.form;
+  EXPECT_EQ(interfaceOf(form.Label10)->text(QAccessible::Name), "13:29");
+  EXPECT_EQ(interfaceOf(form.icntla[Play])->role(), QAccessible::PushButton);
+  interfaceOf(form.icntla[Play])->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+  deck.clock.advance(3000);
+  EXPECT_EQ(interfaceOf(form.Label10)->text(QAccessible::Name), "0:03");
+  EXPECT_EQ(interfaceOf(form.CDStatusBar)->text(QAccessible::Value), "1%");
+  EXPECT_EQ(interfaceOf(form.Label10)->rect().size(), deck.inWindow(form.Label10).size());
+}
+
+TEST(View, PaintsWhatChanges) {
+  Deck deck;
+  const CDForm& form = deck.core.form;
+  const QRect digits = deck.inWindow(form.Label10);
+  const QImage before = deck.picture();
+  deck.core.form.Label10.caption = "1:23";
+  const QImage after = deck.picture();
+  EXPECT_NE(before.copy(digits), after.copy(digits));
+  const QRect keypad = deck.inWindow(form.Panel3D3);
+  EXPECT_EQ(before.copy(keypad), after.copy(keypad));
+  // Any script, any length: nothing to draw it with is no reason to fall over.
+  for (const char* title : {"\xE6\x97\xA5\xE6\x9C\xAC\xE8\xAA\x9E \xD0\x96 \xF0\x9F\x8E\xB5", "", " ", "&amp; <b>plain</b>"}) {
+    deck.core.form.Label12.caption = title;
+    EXPECT_FALSE(deck.picture().isNull());
+  }
+  deck.core.form.Label12.caption = std::string(5000, 'W');
+  EXPECT_FALSE(deck.picture().isNull());
+}
+
+TEST(View, AFormParkedPastTheScreenIsNotMapped) {
+  Deck deck;
+  EXPECT_TRUE(deck.window->isVisible());
+  deck.core.form.left = 10000000;
+  EXPECT_FALSE(deck.window->isVisible());
+  deck.core.form.left = 0;
+  EXPECT_TRUE(deck.window->isVisible());
+}
+
+TEST(QtClock, TimersDoNotReenterThemselves) {
+  CoreGate gate;
+  QtClock clock(gate);
+  int depth = 0;
+  int deepest = 0;
+  int fired = 0;
+  std::unique_ptr<Timer> timer = clock.makeTimer([&] {
+    deepest = std::max(deepest, ++depth);
+    if (++fired < 3) {
+      QTest::qWait(20);
+    } else {
+      end();
+    }
+    --depth;
+  });
+  timer->setInterval(2);
+  QTest::qWait(150);
+  EXPECT_EQ(deepest, 1);
+  EXPECT_EQ(fired, 3) << "nothing after the end";
+}
+
+}  // namespace
+}  // namespace orvanta::test
+
+int main(int argc, char** argv) {
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  qputenv("QT_ENABLE_HIGHDPI_SCALING", "0");
+  testing::InitGoogleTest(&argc, argv);
+  QApplication application(argc, argv);
+  return RUN_ALL_TESTS();
+}

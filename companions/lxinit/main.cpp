@@ -8,18 +8,16 @@
 #include "platform/linux/host_system.h"
 #include "state/settings_files.h"
 
+namespace orvanta {
 namespace {
 
 /// The demo disc of this installation; without it a folder of the user's own, to put images in.
-std::string usualDrive(const orvanta::HostSystem& system, const std::string& dataDir) {
+std::string usualDrive(const HostSystem& system, const std::string& dataDir) {
   const std::string demo = std::filesystem::path(system.windowsDir() + "/../share/orvanta/demo").lexically_normal().string();
-  return std::filesystem::is_directory(demo) ? demo : orvanta::joinPath(dataDir, "drive");
+  return std::filesystem::is_directory(demo) ? demo : joinPath(dataDir, "drive");
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
-  using namespace orvanta;
+int run(int argc, char** argv) {
   const HostSystem system({});
   if (argc < 2 || argv[1][0] != '/') {
     std::fprintf(stderr, "Usage: lxinit FOLDER [DRIVE]\nThe folder for settings and disc data, as a full path.\n");
@@ -34,3 +32,8 @@ int main(int argc, char** argv) {
   if (!done) std::fprintf(stderr, "lxinit: %s cannot be written\n", folder.c_str());
   return done ? 0 : 1;
 }
+
+}  // namespace
+}  // namespace orvanta
+
+int main(int argc, char** argv) { return orvanta::run(argc, argv); }

@@ -11,7 +11,7 @@ Orvanta::Orvanta(Ports& ports)
       discLoad_(ports.device, layer_, ports.files, ports.screen, display_, form, state, *this),
       engine_(ports.device, ports.files, ports.screen, display_, form, state, *this),
       clock_(ports.device, ports.clock, layer_, discLoad_, engine_, display_, form, state),
-      buttons_(ports.device, ports.clock, engine_, display_, form, state, *this),
+      buttons_(ports.device, ports.clock, engine_, form, state, *this),
       drawer_(ports.files, form, state),
       exit_(ports, engine_, form, state),
       faceplate_(ports.device, ports.files, discLoad_, engine_, clock_, buttons_, colours_, form, state, *this) {

@@ -8,8 +8,8 @@ namespace orvanta {
 
 class Buttons {
  public:
-  Buttons(CdDevice& device, Clock& clock, Engine& engine, TimeDisplay& display, CDForm& form, SharedState& state, PlaybackUpward& upward)
-      : device_(device), clock_(clock), engine_(engine), display_(display), form_(form), state_(state), upward_(upward) {}
+  Buttons(CdDevice& device, Clock& clock, Engine& engine, CDForm& form, SharedState& state, PlaybackUpward& upward)
+      : device_(device), clock_(clock), engine_(engine), form_(form), state_(state), upward_(upward) {}
 
   /// Whether a person's press is taken: not under a mask, not on a lit key. A release by program
   /// always acts.
@@ -30,7 +30,6 @@ class Buttons {
   CdDevice& device_;
   Clock& clock_;
   Engine& engine_;
-  TimeDisplay& display_;
   CDForm& form_;
   SharedState& state_;
   PlaybackUpward& upward_;

@@ -23,7 +23,10 @@ class Property {
   Property(const Property&) = delete;
   ~Property() = default;
 
-  Property& operator=(const Property& other) { return *this = other.value_; }
+  Property& operator=(const Property& other) {
+    if (this != &other) *this = other.value_;
+    return *this;
+  }
   Property& operator=(T value) {
     if (value == value_) return *this;
     value_ = std::move(value);

@@ -12,7 +12,7 @@ namespace orvanta {
 namespace {
 
 constexpr auto kStep = std::chrono::milliseconds(200);
-constexpr size_t kPiece = 8 * kSamplesPerFrame;
+constexpr size_t kPiece = size_t{8} * kSamplesPerFrame;
 
 }  // namespace
 

@@ -2,6 +2,7 @@
 #include "platform/linux/iso_root.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <cstring>
 
 namespace orvanta {
@@ -14,7 +15,8 @@ constexpr size_t kMinRecord = 33;
 constexpr unsigned char kFolderFlag = 2;
 
 int little32(const unsigned char* bytes) {
-  return static_cast<int>(bytes[0] | bytes[1] << 8U | bytes[2] << 16U | (bytes[3] & 0x7FU) << 24U);
+  const auto part = [bytes](size_t i) { return uint32_t{bytes[i]} << (8U * i); };
+  return static_cast<int>((part(0) | part(1) | part(2) | part(3)) & 0x7FFFFFFFU);
 }
 
 /// First file among the records of one block of a folder; "" for none.
@@ -45,7 +47,7 @@ std::string firstRootFile(int start, const std::function<bool(int, IsoBlock&)>& 
   const int blocks = std::clamp((bytes + kIsoBlock - 1) / kIsoBlock, 0, 64);
   for (int i = 0; i < blocks; ++i) {
     if (!read(first + i, block)) return {};
-    const std::string name = firstFileIn(block);
+    std::string name = firstFileIn(block);
     if (!name.empty()) return name;
   }
   return {};

@@ -13,7 +13,7 @@ using std::chrono::milliseconds;
 
 namespace {
 
-constexpr size_t kRingPairs = 2 * kSampleRate;
+constexpr size_t kRingPairs = size_t{2} * kSampleRate;
 constexpr int kReadFrames = 25;  ///< a third of a second at a time
 constexpr int kFirstFrames = 8;
 constexpr size_t kFirstFill = size_t{kFirstFrames} * kSamplesPerFrame;
@@ -90,12 +90,12 @@ int Player::heardFrame() const {
 
 void Player::give(const Order& order, PlayState state, int frame) {
   static constexpr const char* kWords[] = {"play", "pause", "resume", "stop", "seek", "eject"};
-  if (logs("sound")) logLine("sound", std::string(kWords[order.kind]) + " at frame " + std::to_string(frame));
+  if (logs("sound")) logLine("sound", std::string(kWords[static_cast<int>(order.kind)]) + " at frame " + std::to_string(frame));
   {
     const std::lock_guard lock(mutex_);
     // Only the last of several orders that stop or start sound matters.
-    if (order.kind != Order::Pause && order.kind != Order::Resume && order.kind != Order::Eject) {
-      std::erase_if(orders_, [](const Order& waiting) { return waiting.kind != Order::Eject; });
+    if (order.kind != Order::Kind::Pause && order.kind != Order::Kind::Resume && order.kind != Order::Kind::Eject) {
+      std::erase_if(orders_, [](const Order& waiting) { return waiting.kind != Order::Kind::Eject; });
     }
     orders_.push_back(order);
     shownState_ = state;
@@ -104,11 +104,11 @@ void Player::give(const Order& order, PlayState state, int frame) {
   wake_.notify_all();
 }
 
-void Player::play(int from, int to) { give({Order::Play, from, to}, PlayState::Playing, from); }
-void Player::pause() { give({Order::Pause}, PlayState::Paused, frame()); }
-void Player::resume() { give({Order::Resume}, PlayState::Playing, frame()); }
-void Player::stop() { give({Order::Stop}, PlayState::Stopped, frame()); }
-void Player::seek(int frame) { give({Order::Seek, frame}, PlayState::Stopped, frame); }
+void Player::play(int from, int to) { give({Order::Kind::Play, from, to}, PlayState::Playing, from); }
+void Player::pause() { give({Order::Kind::Pause}, PlayState::Paused, frame()); }
+void Player::resume() { give({Order::Kind::Resume}, PlayState::Playing, frame()); }
+void Player::stop() { give({Order::Kind::Stop}, PlayState::Stopped, frame()); }
+void Player::seek(int frame) { give({Order::Kind::Seek, frame}, PlayState::Stopped, frame); }
 
 void Player::eject() {
   {
@@ -116,7 +116,7 @@ void Player::eject() {
     toc_ = {};
     entry_.clear();
   }
-  give({Order::Eject}, PlayState::Stopped, kFirstFrame);
+  give({Order::Kind::Eject}, PlayState::Stopped, kFirstFrame);
 }
 
 // ---- the owner thread
@@ -171,7 +171,7 @@ void Player::lookAtDrive() {
   const DriveStatus status = source_.poll();
   const std::lock_guard lock(mutex_);
   // While a disc is being ejected it is gone already.
-  const bool ejecting = std::any_of(orders_.begin(), orders_.end(), [](const Order& order) { return order.kind == Order::Eject; });
+  const bool ejecting = std::any_of(orders_.begin(), orders_.end(), [](const Order& order) { return order.kind == Order::Kind::Eject; });
   if (ejecting || (status == status_ && status == DriveStatus::Disc && source_.toc() == toc_)) return;
   status_ = status;
   toc_ = status == DriveStatus::Disc ? source_.toc() : Toc{};
@@ -185,21 +185,21 @@ void Player::lookAtDrive() {
 
 void Player::carryOut(const Order& order) {
   switch (order.kind) {
-    case Order::Play:
+    case Order::Kind::Play:
       playTo_ = order.to;
       startStream(order.from, false);
       break;
-    case Order::Pause:
+    case Order::Kind::Pause:
       if (output_) output_->pause();
       break;
-    case Order::Resume:
+    case Order::Kind::Resume:
       if (output_) output_->resume();
       break;
-    case Order::Stop:
-    case Order::Seek:
+    case Order::Kind::Stop:
+    case Order::Kind::Seek:
       dropStream();
       break;
-    case Order::Eject:
+    case Order::Kind::Eject:
       dropStream();
       source_.openTray();
       lookAtDrive();

@@ -46,7 +46,7 @@ class Player : public DiscPlayer, private SampleFeed {
 
  private:
   struct Order {
-    enum Kind { Play, Pause, Resume, Stop, Seek, Eject } kind;
+    enum class Kind { Play, Pause, Resume, Stop, Seek, Eject } kind;
     int from = 0;
     int to = 0;
   };

@@ -7,6 +7,7 @@
 #include <QTextLayout>
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 namespace orvanta {
 
@@ -78,7 +79,7 @@ QStringList wrapped(const QRawFont& face, const QString& text, double width) {
   QString line;
   for (const QString& word : text.split(QLatin1Char(' '))) {
     const QString longer = line.isEmpty() ? word : line + QLatin1Char(' ') + word;
-    if (!line.isEmpty() && layOutLine(face, longer, 0).width > width && lines.size() < 1) {
+    if (!line.isEmpty() && layOutLine(face, longer, 0).width > width && lines.empty()) {
       lines.append(line);
       line = word;
     } else {
@@ -96,7 +97,7 @@ QColor qColour(Colour colour) {
 }
 
 QColor mix(const QColor& a, const QColor& b, double part) {
-  const auto channel = [part](int from, int to) { return static_cast<int>(from + (to - from) * part + 0.5); };
+  const auto channel = [part](int from, int to) { return static_cast<int>(std::lround(from + (to - from) * part)); };
   return QColor::fromRgb(channel(a.red(), b.red()), channel(a.green(), b.green()), channel(a.blue(), b.blue()));
 }
 

@@ -5,6 +5,7 @@
 #include <QFont>
 #include <QFontInfo>
 #include <QResource>
+#include <cmath>
 
 namespace orvanta {
 
@@ -40,7 +41,7 @@ const QRawFont& Fonts::face(const forms::Font& font, double pixels) {
     face.loadFromData(bytes, pixels, QFont::PreferNoHinting);
   } else {
     QFont system(QString::fromStdString(font.family));
-    system.setPixelSize(std::max(1, static_cast<int>(pixels + 0.5)));
+    system.setPixelSize(std::max(1, static_cast<int>(std::lround(pixels))));
     system.setBold(font.bold);
     system.setItalic(font.italic);
     face = QRawFont::fromFont(system);

@@ -23,6 +23,8 @@ class Orvanta : private PlaybackUpward {
  private:
   void openDrawer() override { drawer_.opendrawer(); }
   void exitProgram() override { exit_.exitProgram(); }
+  void closeDiscWindows() override {}
+  void automaticLookup() override {}
   /// The library is not aboard yet: a disc has no texts.
   bool readCdRecord(const std::string& /*cdFilePath*/) override { return false; }
 

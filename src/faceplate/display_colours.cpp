@@ -29,10 +29,8 @@ void DisplayColours::loadorvanta1() {
   }
   form_.Label21.foreColor = state_.settings.lcdColor[state_.settings.repeatOn == kOn ? kLcdRepeatOn : kLcdRepeatOff];
   form_.CDStatusBar.visible = true;
-  if (state_.settings.customColor[4] != 0) {
-    form_.VbarbtmL.backColor = state_.settings.customColor[4];
-    form_.VbarbtmR.backColor = state_.settings.customColor[4];
-  }
+  form_.VbarbtmL.backColor = state_.settings.customColor[4];
+  form_.VbarbtmR.backColor = state_.settings.customColor[4];
 }
 
 void DisplayColours::customDisplay() {
@@ -50,7 +48,7 @@ void DisplayColours::customDisplay() {
   form_.Line12.foreColor = form_.Line10.foreColor = 0x4F4F4F;
   form_.Line11.foreColor = 0x606060;
   fore({&form_.Label32, &form_.Label33}, 0x4F4F4F);
-  form_.CDStatusBar.foreColor = front;
+  form_.CDStatusBar.floodColor = front;
   form_.CDStatusBar.backColor = back;
   form_.Line1.foreColor = form_.Line8.foreColor = back;
 }
@@ -66,7 +64,7 @@ void DisplayColours::plainDisplay() {
   for (size_t lamp = 1; lamp <= 20; ++lamp) form_.Label22[lamp].foreColor = kDarkGreen;
   form_.CDStatusBar.backColor = colours::kBlack;
   const Colour flood = state_.settings.customColor[4];
-  if (flood != 0 && flood != state_.settings.lcdFore) form_.CDStatusBar.foreColor = flood;
+  if (flood != state_.settings.lcdFore) form_.CDStatusBar.floodColor = flood;
 }
 
 void DisplayColours::loadorvanta1a() {

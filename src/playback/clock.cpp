@@ -135,6 +135,7 @@ void PlaybackClock::timer2_timer() {
     form_.Label13.caption = "";
   }
   load_.deferredTable();
+  load_.clearOnRequest();
   if (transport.curTrack > disc.trackCount) {
     pastTheEnd();
     return;

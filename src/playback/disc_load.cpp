@@ -111,7 +111,20 @@ void DiscLoad::deferredTable() {
     disc.trackTableDone = kOn;
     screen_.setPointer(Pointer::Normal);
   }
-  if (!typeShown_) showDiscType();
+  if (typeShown_) return;
+  showDiscType();
+  if (disc.trackFrames[0] > 0) upward_.automaticLookup();
+}
+
+void DiscLoad::clearOnRequest() {
+  DiscState& disc = state_.disc;
+  if (disc.clearDiscRequest == kOff) return;
+  disc.clearDiscRequest = kOff;
+  form_.Label12.caption = "";
+  disc.discArtist.clear();
+  disc.discTitle.clear();
+  form_.Image14.visible = false;
+  upward_.closeDiscWindows();
 }
 
 void DiscLoad::showDiscType() {

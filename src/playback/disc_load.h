@@ -22,8 +22,11 @@ class DiscLoad {
   bool probe();
 
   /// The track table, filled on the first tick so that the faceplate appears first; then the
-  /// disc's type.
+  /// disc's type, and the automatic lookup.
   void deferredTable();
+
+  /// Does what clearDiscRequest asks for.
+  void clearOnRequest();
 
  private:
   void loadDisc();

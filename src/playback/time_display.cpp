@@ -45,6 +45,7 @@ void TimeDisplay::updateBar(std::string_view length, std::string_view time) {
   } else if (seconds <= whole) {
     form_.CDStatusBar.floodPercent = (seconds * 200 + whole) / (whole * 2);
   }
+  form_.CDStatusBar.foreColor = form_.CDStatusBar.floodPercent >= 50 ? colours::kWhite : colours::kBlack;
 }
 
 int TimeDisplay::trackSeconds(int16_t track) const {

@@ -12,6 +12,10 @@ class PlaybackUpward {
   virtual void openDrawer() = 0;
   /// The power button: saves, stops and ends the process.
   virtual void exitProgram() = 0;
+  /// The disc's texts were cleared: windows that show them close.
+  virtual void closeDiscWindows() = 0;
+  /// The disc is known and no lookup ran yet: time for an automatic one, where it is wanted.
+  virtual void automaticLookup() = 0;
   /// Fills the disc's texts from a file of the disc family; false when it cannot be read.
   virtual bool readCdRecord(const std::string& cdFilePath) = 0;
 };

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
+#include <cstring>
 #include <filesystem>
 #include <functional>
 
@@ -52,6 +53,18 @@ TEST(Player, PlaysAWholeDiscWithoutAGap) {
   EXPECT_TRUE(becomes([&] { return deck.player.state() == PlayState::Stopped; }));
   EXPECT_EQ(deck.player.frame(), deck.player.toc().leadOut);
   EXPECT_EQ(deck.outputs.streams, 1);
+}
+
+TEST(Player, PlaysTheDemoDiscSampleForSample) {
+  Deck deck(ORVANTA_DEMO);
+  ASSERT_EQ(deck.player.toc().count(), 5);
+  deck.playAll();
+  ASSERT_TRUE(becomes([&] { return deck.outputs.open(); }));
+  deck.outputs.hear(600 * kSecond);
+  std::string error;
+  const std::string image = readSmallFile(ORVANTA_DEMO "/harbour-lights.bin", 1 << 30, error);
+  ASSERT_EQ(deck.outputs.samples.size() * sizeof(int16_t), image.size());
+  EXPECT_EQ(std::memcmp(deck.outputs.samples.data(), image.data(), image.size()), 0);
 }
 
 TEST(Player, PauseAndResumeLoseNoSample) {

@@ -1,6 +1,7 @@
 // A sound output whose time a test moves by hand, and that keeps all it was given.
 #pragma once
 
+#include <algorithm>
 #include <atomic>
 #include <chrono>
 #include <mutex>
@@ -28,21 +29,27 @@ class SteppedOutputs : public SoundOutputs {
   /// only when there is no stream, it has ended or is paused, or nothing came for five seconds.
   size_t hear(size_t pairs) {
     size_t done = 0;
-    const auto patience = std::chrono::steady_clock::now() + std::chrono::seconds(5);
+    auto patience = std::chrono::steady_clock::now() + std::chrono::seconds(5);
     while (done < pairs && std::chrono::steady_clock::now() < patience) {
+      size_t got = 0;
       {
         const std::lock_guard lock(mutex_);
         if (feed_ == nullptr || paused_) return done;
         const bool last = feed_->finished();
         const size_t at = samples.size();
-        samples.resize(at + (pairs - done) * 2);
-        const size_t got = feed_->pull(samples.data() + at, pairs - done);
+        const size_t piece = std::min<size_t>(pairs - done, size_t{1} << 14);
+        samples.resize(at + piece * 2);
+        got = feed_->pull(samples.data() + at, piece);
         samples.resize(at + got * 2);
         heard_ += got;
         done += got;
         if (got == 0 && last) return done;
       }
-      if (done < pairs) std::this_thread::sleep_for(std::chrono::microseconds(200));
+      if (got > 0) {
+        patience = std::chrono::steady_clock::now() + std::chrono::seconds(5);
+      } else {
+        std::this_thread::sleep_for(std::chrono::microseconds(200));
+      }
     }
     return done;
   }

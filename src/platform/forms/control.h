@@ -104,11 +104,12 @@ class Panel : public Simple<Kind::Panel> {
   int bevelOuter = 2;
 };
 
-/// A bar that fills from the left; foreColor is the flood's colour, backColor lies behind it.
+/// A bar that fills from the left; foreColor is that of a percent text on it.
 class Bar : public Simple<Kind::Bar> {
  public:
   using Simple::Simple;
   Property<int> floodPercent{*this, Change::Look};  ///< 0 to 100
+  Property<Colour> floodColor{*this, Change::Look};
 };
 
 /// Like controls under one name, by index from 0.

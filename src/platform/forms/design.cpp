@@ -24,6 +24,11 @@ void applyRow(Control& control, const DesignRow& row, const Place& place, Form& 
   control.toolTip = row.toolTip;
   control.foreColor = row.fore;
   control.backColor = row.back;
+  if (auto* bar = dynamic_cast<Bar*>(&control)) {
+    bar->foreColor = colours::kBlack;
+    bar->floodColor = row.fore;
+    bar->floodPercent = 0;
+  }
   control.font = Font{row.font, row.points, row.bold};
   control.align = row.align;
   control.wordWrap = row.wrap;

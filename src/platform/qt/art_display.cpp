@@ -65,7 +65,7 @@ void digits(Art& art) {
 void segments(Art& art) {
   const auto& bar = static_cast<const forms::Bar&>(art.control);
   constexpr int kSegments = 48;
-  const QColor colour = qColour(bar.foreColor);
+  const QColor colour = qColour(bar.floodColor);
   const QColor dark = mix(qColour(bar.backColor), colour, .11);
   const double step = art.w / kSegments;
   for (int i = 0; i < kSegments; ++i) {

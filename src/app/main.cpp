@@ -2,14 +2,18 @@
 #include <QApplication>
 #include <QTimer>
 #include <cstdio>
+#include <cstdlib>
 #include <filesystem>
 #include <memory>
 
 #include "app/licences.h"
 #include "app/options.h"
 #include "app/orvanta.h"
+#include "base/text.h"
+#include "platform/linux/cdrom_drive.h"
 #include "platform/linux/clocked_output.h"
 #include "platform/linux/cubeb_output.h"
+#include "platform/linux/drive_tray.h"
 #include "platform/linux/host_files.h"
 #include "platform/linux/host_processes.h"
 #include "platform/linux/host_system.h"
@@ -27,6 +31,7 @@ namespace {
 
 /// Longer than the drive's lock is waited for; a disc image is known within a few milliseconds.
 constexpr int kDriveWait = 2500;
+constexpr int kFarewell = 500;
 
 struct Sound {
   std::unique_ptr<WavFile> wav;
@@ -63,9 +68,15 @@ int run(int argc, char** argv) {
   HostFiles files;
   HostSystem system(options.handedOn());
   // The drive's thread reads the disc while Qt starts.
-  ImageDrive drive(drivePath(options.host, files, system.systemDir()), options.disc);
+  const std::string path = drivePath(options.host, files, system.systemDir());
+  const bool real = path.rfind("/dev/", 0) == 0;
+  const std::string data = dataPath(options.host, files, system.systemDir());
+  const std::string memory = data.empty() ? "" : joinPath(data, "tray.dat");
+  auto images = real ? nullptr : std::make_unique<ImageDrive>(path, options.disc, memory);
+  auto discs = real ? std::make_unique<CdromDrive>(kernelCdrom(path)) : nullptr;
+  DiscSource& drive = real ? static_cast<DiscSource&>(*discs) : *images;
   const Sound sound = makeSound(options.audio);
-  Player player(drive, *sound.outputs);
+  auto player = std::make_unique<Player>(drive, *sound.outputs);
 
   prepareQt();
   QApplication application(argc, argv);
@@ -80,16 +91,24 @@ int run(int argc, char** argv) {
   QtDialogs dialogs(gate, screen);
   QtDesktop desktop(gate, scale);
   HostProcesses processes([&clock] { clock.yield(); });
-  MciDevice device(player, clock);
-  Ports ports{device, clock, dialogs, files, processes, screen, system, desktop};
+  MciDevice device(*player, clock);
+  DriveTray tray(*player, real ? "" : path);
+  Ports ports{device, tray, clock, dialogs, files, processes, screen, system, desktop};
   auto orvanta = std::make_unique<Orvanta>(ports);
 
-  player.waitUntilKnown(kDriveWait);
-  gate.enter([&] { orvanta->start(options.host); });
-  if (!gate.ended() && !drive.refusal().empty()) {
-    QTimer::singleShot(0, &application, [&] { gate.enter([&] { dialogs.message(BoxStyle::Warning, "Orvanta", drive.refusal()); }); });
+  // The start-up form first: it takes the hand-over file away, upon which a process that made way for
+  // this one lets go of the drive.
+  gate.enter([&] { orvanta->startUp(options.host); });
+  if (!gate.ended()) player->waitUntilKnown(kDriveWait);
+  gate.enter([&] { orvanta->showFaceplate(); });
+  const std::string refusal = images ? images->refusal() : options.disc.empty() ? "" : drive.accept(options.disc);
+  if (!gate.ended() && !refusal.empty()) {
+    QTimer::singleShot(0, &application, [&] { gate.enter([&] { dialogs.message(BoxStyle::Warning, "Orvanta", refusal); }); });
   }
-  return gate.ended() ? 0 : QApplication::exec();
+  const int code = gate.ended() ? 0 : QApplication::exec();
+  // A drive that hangs must not hold up the end.
+  if (!player->finish(kFarewell)) std::_Exit(code);
+  return code;
 }
 
 }  // namespace

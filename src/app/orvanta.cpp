@@ -1,7 +1,10 @@
 // The core's parts and who calls whom.
 #include "app/orvanta.h"
 
+#include "base/text.h"
 #include "platform/ports/cd_device.h"
+#include "platform/ports/processes.h"
+#include "state/settings_files.h"
 
 namespace orvanta {
 
@@ -10,18 +13,31 @@ Orvanta::Orvanta(Ports& ports)
       layer_(ports.device, ports.dialogs, state.disc),
       discLoad_(ports.device, layer_, ports.files, ports.screen, display_, form, state, *this),
       engine_(ports.device, ports.files, ports.screen, display_, form, state, *this),
-      clock_(ports.device, ports.clock, layer_, discLoad_, engine_, display_, form, state),
       buttons_(ports.device, ports.clock, engine_, form, state, *this),
-      drawer_(ports.files, form, state),
+      clock_(ports, layer_, discLoad_, engine_, buttons_, display_, form, state, *this),
+      drawer_(ports.clock, ports.files, ports.screen, engine_, form, state, *this),
       exit_(ports, engine_, form, state),
-      faceplate_(ports.device, ports.files, discLoad_, engine_, clock_, buttons_, colours_, form, state, *this) {
+      restart_(ports, state),
+      faceplate_(ports, discLoad_, layer_, engine_, clock_, buttons_, colours_, form, state, *this) {
   form.setEvents(&faceplate_);
 }
 
-void Orvanta::start(const HostOptions& options) {
-  startUp_.run(options);
+void Orvanta::startUp(const HostOptions& options) { startUp_.run(options); }
+
+void Orvanta::showFaceplate() {
   form.smallFonts = state.process.smallFonts == kOn;
   form.show(ports_.desktop);
+}
+
+void Orvanta::runSetup() {
+  form.minimised = true;
+  ports_.processes.runAndWait({{joinPath(state.process.windowsDir, "orvsetup"), "ACTIVELX"}, state.settings.appDir, WindowStyle::Normal});
+  for (const auto file : {SettingsFile::Orvwin1, SettingsFile::Orvwin3, SettingsFile::Orvwin4, SettingsFile::Orvwin7}) {
+    readSettings(file, ports_.files, state.settings.appDir, state.settings);
+  }
+  colours_.loadorvanta1();
+  if (state.disc.noDiscState == 0 && state.disc.drawerOpen == kOff) colours_.loadorvanta1a();
+  form.minimised = false;
 }
 
 }  // namespace orvanta

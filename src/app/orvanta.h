@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/exit.h"
+#include "app/restart.h"
 #include "app/start_up.h"
 #include "faceplate/drawer.h"
 #include "faceplate/faceplate.h"
@@ -14,8 +15,10 @@ class Orvanta : private PlaybackUpward {
  public:
   explicit Orvanta(Ports& ports);
 
-  /// The start-up form's work, then the faceplate. Throws ProcessEnded: call it through the gate.
-  void start(const HostOptions& options);
+  // Both throw ProcessEnded: call them through the gate.
+  /// The start-up form's work. From here on a process that hands over to this one lets go.
+  void startUp(const HostOptions& options);
+  void showFaceplate();
 
   CDForm form;
   SharedState state;
@@ -23,6 +26,12 @@ class Orvanta : private PlaybackUpward {
  private:
   void openDrawer() override { drawer_.opendrawer(); }
   void exitProgram() override { exit_.exitProgram(); }
+  void closeDrawer() override { drawer_.closedrawer(); }
+  void showNoDisc() override { colours_.disabledLook(); }
+  void restartForDisc() override { restart_.forDisc(); }
+  void runSetup() override;
+  void runMixer() override {}
+  void record() override {}
   void closeDiscWindows() override {}
   void automaticLookup() override {}
   /// The library is not aboard yet: a disc has no texts.
@@ -34,11 +43,12 @@ class Orvanta : private PlaybackUpward {
   DeviceLayer layer_;
   DiscLoad discLoad_;
   Engine engine_;
-  PlaybackClock clock_;
   Buttons buttons_;
+  PlaybackClock clock_;
   DisplayColours colours_{form, state};
   Drawer drawer_;
   Exit exit_;
+  Restart restart_;
   Faceplate faceplate_;
 };
 

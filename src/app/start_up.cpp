@@ -15,6 +15,13 @@
 
 namespace orvanta {
 
+std::string dataPath(const HostOptions& options, Files& files, const std::string& systemDir) {
+  if (!options.dataDir.empty()) return options.dataDir;
+  Settings settings;
+  readSettings(SettingsFile::Orvwin, files, systemDir, settings);
+  return settings.appDir;
+}
+
 std::string drivePath(const HostOptions& options, Files& files, const std::string& systemDir) {
   if (!options.drive.empty()) return options.drive;
   Settings settings;
@@ -24,6 +31,7 @@ std::string drivePath(const HostOptions& options, Files& files, const std::strin
 
 void StartUp::run(const HostOptions& options) {
   ports_.screen.setPointer(Pointer::Hourglass);
+  runProgram(options.words);
   state_.process.osFamily = ports_.system.platformId();
   measureScreen();
   state_.process.systemDir = ports_.system.systemDir();
@@ -33,6 +41,15 @@ void StartUp::run(const HostOptions& options) {
   readSettingsFiles();
   takeWord(options.words);
   ports_.screen.setPointer(Pointer::Normal);
+}
+
+/// A program named on the command line is run in its own folder, in our place. One that is not
+/// there is a plain start.
+void StartUp::runProgram(const std::string& line) {
+  if (classify(line).kind != CommandLine::Kind::Program || !ports_.files.exists(line)) return;
+  const auto slash = line.rfind('/');
+  ports_.processes.start({{line}, slash == std::string::npos ? "" : line.substr(0, slash), WindowStyle::Normal});
+  end();
 }
 
 void StartUp::measureScreen() {

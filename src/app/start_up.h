@@ -15,6 +15,9 @@ struct HostOptions {
   std::string words;  ///< the program words, as one line
 };
 
+/// The data folder of this start: the option's, else that of ORVWIN.INI.
+std::string dataPath(const HostOptions& options, Files& files, const std::string& systemDir);
+
 /// The drive of this start: the option's, else that of ORVWIN.INI, else the data folder's own.
 std::string drivePath(const HostOptions& options, Files& files, const std::string& systemDir);
 
@@ -25,6 +28,7 @@ class StartUp {
   void run(const HostOptions& options);
 
  private:
+  void runProgram(const std::string& line);
   void measureScreen();
   void findData(const HostOptions& options);
   [[noreturn]] void askForSetup();

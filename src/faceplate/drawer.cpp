@@ -2,30 +2,111 @@
 #include "faceplate/drawer.h"
 
 #include "base/text.h"
+#include "platform/ports/clock.h"
 #include "platform/ports/files.h"
+#include "platform/ports/screen.h"
+#include "playback/upward.h"
 
 namespace orvanta {
 
 namespace {
 
-constexpr int kOpenTop = 600;
-constexpr int kOpenLeft = 1200;
+constexpr double kFrame = 0.11;  ///< seconds between two frames
+constexpr int kBevelWidth = 3;
+
+struct Spot {
+  int left;
+  int top;
+};
+// Frames: the door a little open, the tray half out, the open tray in three slices.
+constexpr Spot kDoorFrame{1320, 480};
+constexpr Spot kDoorClosed{1320, 4920};
+constexpr Spot kTrayFrame{1260, 540};
+constexpr Spot kTrayClosed{1260, 5880};
+constexpr Spot kOpenMain{1200, 600};
+constexpr Spot kOpenRight{4690, 840};
+constexpr int kOpenLowerTop = 1570;
+// Where the slices of the open tray wait, anywhere but at their open places.
+constexpr int kParkedMain = 7080;
+constexpr int kParkedRight = 7320;
+constexpr int kParkedLower = 8050;
+
+void place(forms::Control& panel, const Spot& spot) {
+  panel.move(spot.left, spot.top);
+  panel.visible = true;
+  panel.refresh();
+}
+
+void bevels(forms::Panel& panel, int style) {
+  panel.bevelInner = panel.bevelOuter = style;
+  panel.bevelWidth = kBevelWidth;
+}
 
 }  // namespace
 
-bool Drawer::isOpen() const { return form_.Panel3D7.top == kOpenTop; }
+bool Drawer::isOpen() const { return form_.Panel3D7.top == kOpenMain.top; }
+
+bool Drawer::slides() const { return state_.settings.smallFaceplate == 0 && state_.settings.expandedDisplay == 0; }
 
 void Drawer::opendrawer() {
   if (isOpen()) return;
   for (const size_t key : {0U, 3U}) form_.scntlb[key].visible = false;
   for (auto& mask : form_.icntlb) mask.visible = false;
   for (const size_t key : {Play, Pause, Stop}) form_.icntlc[key].visible = false;
-  form_.Panel3D7.move(kOpenLeft, kOpenTop);
+  if (slides()) openFrames();
   maskKeys();
   greyLegends();
   form_.Image11.enabled = false;
   // Stays until the next process has started: that is how the old one knows.
   files_.write(joinPath(state_.settings.appDir, "ejcd.tmp"), "\"0\"\r\n");
+  if (state_.settings.appOptions[2] == 1 && state_.disc.discLoaded == kOn && !leaving_) {
+    // Eject opens the drawer, and the open drawer ejects: once round is enough.
+    leaving_ = true;
+    engine_.mmcontrol1_EjectClick();
+    upward_.exitProgram();
+  }
+}
+
+void Drawer::openFrames() {
+  clock_.delaySeconds(kFrame);
+  form_.Line7.visible = false;
+  place(form_.Panel3D6, kDoorFrame);
+  form_.Panel3D2.backColor = colours::kBlack;
+  bevels(form_.Panel3D2, 1);
+  form_.Panel3D2.refresh();
+  clock_.delaySeconds(kFrame);
+  for (size_t i = 0; i < 2; ++i) form_.Image77[i].visible = form_.Label77[i].visible = false;
+  form_.Panel3D6.visible = false;
+  place(form_.Panel3D8, kTrayFrame);
+  form_.Panel3D2.refresh();
+  clock_.delaySeconds(kFrame);
+  form_.Panel3D8.visible = false;
+  place(form_.Panel3D7, kOpenMain);
+  place(form_.Panel3D9, kOpenRight);
+  place(form_.Panel3D10, {form_.Panel3D10.left, kOpenLowerTop});
+  form_.Panel3D1.refresh();
+  form_.Panel3D2.refresh();
+}
+
+void Drawer::closedrawer() {
+  if (!slides()) return;
+  screen_.setPointer(Pointer::Hourglass);
+  clock_.delaySeconds(kFrame);
+  for (auto* slice : {&form_.Panel3D7, &form_.Panel3D9, &form_.Panel3D10}) slice->visible = false;
+  form_.Panel3D7.top = kParkedMain;
+  form_.Panel3D9.top = kParkedRight;
+  form_.Panel3D10.top = kParkedLower;
+  place(form_.Panel3D8, kTrayFrame);
+  clock_.delaySeconds(kFrame);
+  form_.Panel3D8.move(kTrayClosed.left, kTrayClosed.top);
+  place(form_.Panel3D6, kDoorFrame);
+  clock_.delaySeconds(kFrame);
+  form_.Panel3D6.move(kDoorClosed.left, kDoorClosed.top);
+  for (size_t i = 0; i < 2; ++i) form_.Image77[i].visible = form_.Label77[i].visible = true;
+  form_.Line7.visible = true;
+  form_.Panel3D2.backColor = state_.settings.customColor[2] != 0 ? state_.settings.customColor[2] : 0x3D3733;
+  bevels(form_.Panel3D2, 2);
+  form_.Panel3D2.refresh();
 }
 
 void Drawer::maskKeys() {

@@ -5,11 +5,31 @@
 
 #include "base/text.h"
 #include "platform/ports/cd_device.h"
+#include "platform/ports/dialogs.h"
+#include "platform/ports/disc_tray.h"
 #include "platform/ports/files.h"
+#include "platform/ports/screen.h"
 #include "playback/upward.h"
 #include "state/settings_files.h"
 
 namespace orvanta {
+
+Faceplate::Faceplate(Ports& ports, DiscLoad& discLoad, DeviceLayer& layer, Engine& engine, PlaybackClock& clock, Buttons& buttons,
+                     DisplayColours& colours, CDForm& form, SharedState& state, PlaybackUpward& upward)
+    : device_(ports.device),
+      tray_(ports.tray),
+      dialogs_(ports.dialogs),
+      files_(ports.files),
+      screen_(ports.screen),
+      discLoad_(discLoad),
+      layer_(layer),
+      engine_(engine),
+      clock_(clock),
+      buttons_(buttons),
+      colours_(colours),
+      form_(form),
+      state_(state),
+      upward_(upward) {}
 
 void Faceplate::load() {
   if (state_.process.commandWord == "RUNRIPPER") form_.minimised = true;
@@ -17,6 +37,8 @@ void Faceplate::load() {
   files_.write(joinPath(state_.settings.appDir, "audiocd.tmp"), "\"0\"\r\n");
   state_.clearForLoad();
   colours_.loadorvanta1();
+  form_.left = std::max(0, (screen_.widthTwips() - form_.width) / 2);
+  form_.top = std::max(0, (screen_.heightTwips() - form_.height) / 2);
   if (state_.process.colourCount < 257) {
     form_.Panel3D2.backColor = form_.Panel3D3.backColor = 0x400000;
     form_.backColor = 0x400000;
@@ -28,7 +50,25 @@ void Faceplate::load() {
     discLoad_.deferredTable();
     engine_.adoptRunningDisc();
   }
+  if (disc && leadingNumber(state_.process.commandWord) > 0) {
+    playTrackOfCommandLine();
+  } else if (state_.settings.appOptions[3] == 1) {
+    upward_.runMixer();
+  }
   clock_.start();
+}
+
+/// A number above the disc's tracks is passed over.
+void Faceplate::playTrackOfCommandLine() {
+  const auto track = static_cast<int16_t>(leadingNumber(state_.process.commandWord));
+  state_.process.commandWord.clear();
+  state_.process.autoStartMode = kOff;
+  if (track > state_.disc.trackCount) return;
+  state_.disc.discSum = layer_.sumOfTracks();
+  discLoad_.deferredTable();
+  state_.transport.selTrack = static_cast<int16_t>(track - 1);
+  engine_.jump();
+  state_.transport.curTrack = track;
 }
 
 void Faceplate::setPlayState() {
@@ -69,10 +109,27 @@ void Faceplate::mouseUp(forms::Control* control, const forms::Mouse& mouse) {
     keyTaken_ = false;
   } else if (control == &form_.Panel3D2) {
     if (state_.disc.drawerOpen != kOn && state_.disc.noDiscState == 0) engine_.mmcontrol1_EjectClick();
+  } else if (control == &form_.Panel3D7 || control == &form_.Panel3D9 || control == &form_.Panel3D10) {
+    askForDisc();
   } else if (control == &form_.Image5 || control == &form_.Image6) {
     upward_.exitProgram();
   }
 }
+
+/// A click on the open tray: a real one is pushed shut, the tray of images asks which one to take.
+void Faceplate::askForDisc() {
+  device_.command("Open");
+  device_.command("Eject");
+  device_.command("Close");
+  if (!tray_.takesImages()) {
+    tray_.close();
+    return;
+  }
+  const auto chosen = dialogs_.askOpenFile({"Put a Disc in", tray_.imageFolder(), "", "Disc Images (*.cue)|*.cue"});
+  if (chosen) tray_.offer(*chosen);
+}
+
+void Faceplate::fileDropped(const std::string& path) { tray_.offer(path); }
 
 bool Faceplate::keyDown(const forms::KeyPress& key) { return buttons_.keyDown(key); }
 

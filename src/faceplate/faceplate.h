@@ -10,18 +10,8 @@ namespace orvanta {
 
 class Faceplate : public forms::FormEvents {
  public:
-  Faceplate(CdDevice& device, Files& files, DiscLoad& discLoad, Engine& engine, PlaybackClock& clock, Buttons& buttons,
-            DisplayColours& colours, CDForm& form, SharedState& state, PlaybackUpward& upward)
-      : device_(device),
-        files_(files),
-        discLoad_(discLoad),
-        engine_(engine),
-        clock_(clock),
-        buttons_(buttons),
-        colours_(colours),
-        form_(form),
-        state_(state),
-        upward_(upward) {}
+  Faceplate(Ports& ports, DiscLoad& discLoad, DeviceLayer& layer, Engine& engine, PlaybackClock& clock, Buttons& buttons, DisplayColours& colours,
+            CDForm& form, SharedState& state, PlaybackUpward& upward);
 
   void load() override;
   void activate() override;
@@ -29,14 +19,21 @@ class Faceplate : public forms::FormEvents {
   void mouseDown(forms::Control* control, const forms::Mouse& mouse) override;
   void mouseUp(forms::Control* control, const forms::Mouse& mouse) override;
   bool keyDown(const forms::KeyPress& key) override;
+  void fileDropped(const std::string& path) override;
   void closeAsked() override;
 
  private:
   void setPlayState();
+  void playTrackOfCommandLine();
+  void askForDisc();
 
   CdDevice& device_;
+  DiscTray& tray_;
+  Dialogs& dialogs_;
   Files& files_;
+  Screen& screen_;
   DiscLoad& discLoad_;
+  DeviceLayer& layer_;
   Engine& engine_;
   PlaybackClock& clock_;
   Buttons& buttons_;

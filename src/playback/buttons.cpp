@@ -42,6 +42,7 @@ void Buttons::icntla_MouseUp(size_t key) {
     case Play: playKey(); break;
     case Pause: pauseKey(); break;
     case Stop: stopKey(); break;
+    case Record: upward_.record(); break;
     default: break;
   }
 }
@@ -84,6 +85,7 @@ bool Buttons::keyDown(const forms::KeyPress& key) {
     case 'D': pressed(Play); return true;
     case 'F': pressed(Pause); return true;
     case 'G': pressed(Stop); return true;
+    case 'H': pressed(Record); return true;
     case 'J': engine_.mmcontrol1_EjectClick(); return true;
     default: return false;
   }

@@ -6,18 +6,36 @@
 
 #include "base/text.h"
 #include "base/times.h"
+#include "platform/ports/dialogs.h"
+#include "platform/ports/disc_tray.h"
+#include "platform/ports/screen.h"
+#include "playback/upward.h"
 
 namespace orvanta {
 
-PlaybackClock::PlaybackClock(CdDevice& device, Clock& clock, DeviceLayer& layer, DiscLoad& load, Engine& engine, TimeDisplay& display,
-                             CDForm& form, SharedState& state)
-    : device_(device), clock_(clock), layer_(layer), load_(load), engine_(engine), display_(display), form_(form), state_(state) {
+PlaybackClock::PlaybackClock(Ports& ports, DeviceLayer& layer, DiscLoad& load, Engine& engine, Buttons& buttons, TimeDisplay& display,
+                             CDForm& form, SharedState& state, PlaybackUpward& upward)
+    : device_(ports.device),
+      clock_(ports.clock),
+      tray_(ports.tray),
+      dialogs_(ports.dialogs),
+      screen_(ports.screen),
+      layer_(layer),
+      load_(load),
+      engine_(engine),
+      buttons_(buttons),
+      display_(display),
+      form_(form),
+      state_(state),
+      upward_(upward) {
   device_.setEvents(this);
 }
 
 void PlaybackClock::start() {
   timer2_ = clock_.makeTimer([this] { timer2_timer(); });
   timer2_->setInterval(kTimer2Interval);
+  timer3_ = clock_.makeTimer([this] { timer3_timer(); });
+  timer3_->setInterval(kTimer3Interval);
 }
 
 void PlaybackClock::statusUpdate() {
@@ -128,6 +146,7 @@ void PlaybackClock::endOfDisc() {
 void PlaybackClock::timer2_timer() {
   DiscState& disc = state_.disc;
   TransportState& transport = state_.transport;
+  answerOffer();
   if (disc.noDiscState > 0 || disc.drawerOpen == kOn) return;
   if (leadingNumber(form_.Label8.caption.get()) < 1) form_.Label13.caption = "";
   if (transport.curTrack <= 0 && (transport.playingFlag == kOn || transport.pausedFlag == kOn)) {
@@ -136,6 +155,10 @@ void PlaybackClock::timer2_timer() {
   }
   load_.deferredTable();
   load_.clearOnRequest();
+  if (state_.process.autoStartDone == kOff && state_.process.autoStartMode > 0) {
+    autoStart();
+    return;
+  }
   if (transport.curTrack > disc.trackCount) {
     pastTheEnd();
     return;
@@ -172,7 +195,12 @@ void PlaybackClock::startOfNewTrack() {
   TransportState& transport = state_.transport;
   if (transport.playEnded == kOn) return;
   transport.curTrack = std::max<int16_t>(transport.curTrack, 1);
-  display_.showTrack(transport.curTrack);
+  // Right after a jump the label shows the target, until the device has followed.
+  if (state_.display.holdTrackLabel == kOn) {
+    state_.display.holdTrackLabel = kOff;
+  } else {
+    display_.showTrack(transport.curTrack);
+  }
   const std::string& time = form_.Label10.caption;
   // Left over from the track before, which the display went on counting.
   if (state_.settings.timeMode == Time && leadingNumber(time.substr(0, 1)) > 0 && time != "0:00") display_.clearTime("0:00");

@@ -6,6 +6,8 @@
 
 #include "platform/ports/cd_device.h"
 #include "platform/ports/clock.h"
+#include "platform/ports/ports.h"
+#include "playback/buttons.h"
 #include "playback/disc_load.h"
 #include "playback/engine.h"
 
@@ -13,8 +15,8 @@ namespace orvanta {
 
 class PlaybackClock : public CdDeviceEvents {
  public:
-  PlaybackClock(CdDevice& device, Clock& clock, DeviceLayer& layer, DiscLoad& load, Engine& engine, TimeDisplay& display, CDForm& form,
-                SharedState& state);
+  PlaybackClock(Ports& ports, DeviceLayer& layer, DiscLoad& load, Engine& engine, Buttons& buttons, TimeDisplay& display, CDForm& form,
+                SharedState& state, PlaybackUpward& upward);
 
   /// From the faceplate's load on.
   void start();
@@ -26,8 +28,10 @@ class PlaybackClock : public CdDeviceEvents {
   void updateTrackTime(int16_t track, std::string_view timeText);
 
   void timer2_timer();
+  void timer3_timer();
 
-  static constexpr int kTimer2Interval = 100;  ///< milliseconds
+  static constexpr int kTimer2Interval = 100;   ///< milliseconds
+  static constexpr int kTimer3Interval = 1100;
 
  private:
   void advanceInCont();
@@ -36,16 +40,29 @@ class PlaybackClock : public CdDeviceEvents {
   void pastTheEnd();
   void lampsInCont();
   void startOfNewTrack();
+  void answerOffer();
+  void autoStart();
+  void drawerIsOpen();
+  bool discCameLater();
+  bool afterTheEnd();
+  void discGone();
 
   CdDevice& device_;
   Clock& clock_;
+  DiscTray& tray_;
+  Dialogs& dialogs_;
+  Screen& screen_;
   DeviceLayer& layer_;
   DiscLoad& load_;
   Engine& engine_;
+  Buttons& buttons_;
   TimeDisplay& display_;
   CDForm& form_;
   SharedState& state_;
+  PlaybackUpward& upward_;
   std::unique_ptr<Timer> timer2_;
+  std::unique_ptr<Timer> timer3_;
+  bool restartFailed_ = false;  ///< for the disc that is in the drive; another try waits for another disc
 };
 
 }  // namespace orvanta

@@ -87,6 +87,58 @@ void Engine::mmcontrol1_EjectClick() {
   screen_.setPointer(Pointer::Normal);
 }
 
+void Engine::jump() {
+  TransportState& transport = state_.transport;
+  if (transport.playMode == Pgm) return;
+  state_.display.holdTrackLabel = kOn;
+  transport.pausedFlag = kOff;
+  transport.playingFlag = kOn;
+  form_.CDStatusBar.floodPercent = 0;
+  playingLook();
+  repeatLabel();
+  transport.pausePosition = 0;
+  form_.Label21.caption = "Repeat";
+  state_.disc.discStarted = kOn;
+  display_.showTimeModeLabel();
+  const auto target = static_cast<int16_t>(transport.selTrack + 1);
+  if (target > state_.disc.trackCount) return;
+  form_.Label10.caption = "00:00";
+  clrpgm();
+  state_.program.pgmIndex = 0;
+  const auto& colour = state_.settings.lcdColor;
+  for (int16_t lamp = 1; transport.playMode == Cont && lamp <= state_.disc.lampCount; ++lamp) {
+    form_.Label22[static_cast<size_t>(lamp - 1)].foreColor = colour[lamp <= transport.selTrack ? kLcdDim : kLcdLit];
+  }
+  transport.curTrack = target;
+  transport.playEnded = kOff;
+  startOfTrack();
+  seekFraction(state_.disc.trackLengths[static_cast<size_t>(target)], 0);
+  device_.command("Pause");
+  device_.setTo(static_cast<uint32_t>(target));
+  device_.command("Seek");
+  device_.setTrack(target);
+  form_.Label8.caption = std::to_string(device_.track());
+  device_.setUpdateInterval(1000);
+  device_.setFrom(static_cast<uint32_t>(target));
+  device_.command("Play");
+}
+
+void Engine::seekFraction(std::string_view length, double fraction) {
+  const int seconds = static_cast<int>(secondsOf(length) * fraction);
+  device_.command("PAUSE");
+  device_.setTo(packSeekTarget(state_.transport.curTrack, seconds));
+  device_.command("SEEK");
+  device_.command("PLAY");
+}
+
+void Engine::clrpgm() {
+  state_.program.pgmList.fill(0);
+  state_.program.pgmCount = 0;
+  for (size_t lamp = 0; lamp < static_cast<size_t>(state_.disc.lampCount); ++lamp) {
+    form_.Label22[lamp].foreColor = state_.settings.lcdColor[kLcdDim];
+  }
+}
+
 void Engine::playCompleted(int16_t error) {
   if (error == device_error::kHardware) device_.command("Close");
 }

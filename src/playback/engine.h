@@ -38,12 +38,19 @@ class Engine {
   /// Takes over a device that plays already: track and look follow it, nothing is sent.
   void adoptRunningDisc();
 
+  /// Goes to track selTrack + 1 and plays; in Pgm nothing.
+  void jump();
+  /// To a fraction of the current track: "Pause", "Seek", "Play".
+  void seekFraction(std::string_view length, double fraction);
+  void clrpgm();
+
   /// Every start of a track's play goes through here: the next display is taken as it comes.
   void startOfTrack();
 
- private:
-  friend class PlaybackClock;
+  /// "Repeat" in the colour of its state.
   void repeatLabel();
+
+ private:
 
   CdDevice& device_;
   Files& files_;

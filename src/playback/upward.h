@@ -10,6 +10,18 @@ class PlaybackUpward {
   virtual ~PlaybackUpward() = default;
   /// Shows the door open and the deck without a disc.
   virtual void openDrawer() = 0;
+  /// Shows the door shut.
+  virtual void closeDrawer() = 0;
+  /// The look of a deck without a disc, with its prompt.
+  virtual void showNoDisc() = 0;
+  /// Starts a new process of the program for the disc in the drive and ends this one. Comes back
+  /// when the new one died before it took over.
+  virtual void restartForDisc() = 0;
+  /// Runs the setup program, waits for it, and takes over what it wrote.
+  virtual void runSetup() = 0;
+  virtual void runMixer() = 0;
+  /// Hands the disc to the recorder.
+  virtual void record() = 0;
   /// The power button: saves, stops and ends the process.
   virtual void exitProgram() = 0;
   /// The disc's texts were cleared: windows that show them close.

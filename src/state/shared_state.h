@@ -84,6 +84,7 @@ struct ProcessState {
   std::string commandWord;  ///< upper case; "" when none
   int16_t autoStartMode = kOff;
   int16_t autoStartDone = kOff;
+  int16_t setupWanted = kOff;  ///< the setup program is to run at the next tick of Timer3
   std::string systemDir;
   std::string windowsDir;
   int16_t osFamily = 1;

@@ -152,6 +152,7 @@ class BadDrive : public DiscSource {
   }
   void openTray() override {}
   void closeTray() override {}
+  std::string accept(const std::string& /*imagePath*/) override { return "no"; }
 
   std::function<bool(int)> bad = [](int) { return false; };
   std::atomic<int> reads{0};

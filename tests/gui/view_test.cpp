@@ -22,7 +22,10 @@ struct Deck : CoreRig {
     screen.twips = twips;
     install();
     player.insert(discA());
-    gate.enter([&] { core.start({}); });
+    gate.enter([&] {
+      core.startUp({});
+      core.showFaceplate();
+    });
     clock.advance(100);
     window = dynamic_cast<FormWindow*>(core.form.view());
   }
@@ -33,7 +36,7 @@ struct Deck : CoreRig {
   QImage picture() const { return window->grab().toImage(); }
   Scale scale;
   QtDesktop qtDesktop;
-  Ports realPorts{device, clock, dialogs, files, processes, screen, system, qtDesktop};
+  Ports realPorts{device, tray, clock, dialogs, files, processes, screen, system, qtDesktop};
   Orvanta core{realPorts};
   FormWindow* window = nullptr;
 };

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/orvanta.h"
+#include "platform/linux/drive_tray.h"
 #include "state/settings_files.h"
 #include "tests/support/fakes.h"
 #include "tests/support/sim_device.h"
@@ -23,7 +24,8 @@ struct CoreRig {
   FakeScreen screen;
   FakeSystem system;
   FakeDesktop desktop;
-  Ports ports{device, clock, dialogs, files, processes, screen, system, desktop};
+  DriveTray tray{player, "/drive"};
+  Ports ports{device, tray, clock, dialogs, files, processes, screen, system, desktop};
   Orvanta orvanta{ports};
   CDForm& form = orvanta.form;
   SharedState& state = orvanta.state;
@@ -37,7 +39,10 @@ struct CoreRig {
   }
 
   void start(const std::string& words = "") {
-    gate.enter([&] { orvanta.start({"", "", words}); });
+    gate.enter([&] {
+      orvanta.startUp({"", "", words});
+      orvanta.showFaceplate();
+    });
   }
 
   /// Installed, with a disc, started, the first tick done.

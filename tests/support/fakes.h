@@ -2,6 +2,7 @@
 #pragma once
 
 #include <deque>
+#include <functional>
 #include <map>
 #include <set>
 
@@ -97,6 +98,7 @@ class FakeProcesses : public Processes {
     std::string line;
     for (const auto& argument : request.arguments) line += (line.empty() ? "" : " ") + argument;
     tape.push_back(line);
+    if (onStart) onStart();
     return fail ? 0 : static_cast<Id>(tape.size());
   }
   bool running(Id id) const override { return alive.count(id) > 0; }
@@ -107,6 +109,7 @@ class FakeProcesses : public Processes {
   std::set<Id> alive;
   std::set<std::string> names;
   bool fail = false;
+  std::function<void()> onStart;
 };
 
 class FakeScreen : public Screen {

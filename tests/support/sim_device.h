@@ -1,6 +1,7 @@
 // A CD drive that plays on the virtual clock, and the device over it, which writes down every command.
 #pragma once
 
+#include <map>
 #include <string>
 #include <vector>
 
@@ -54,8 +55,18 @@ class SimPlayer : public DiscPlayer {
     state_ = PlayState::Stopped;
   }
   void eject() override {
-    insert({}, "");
+    if (!stuck) insert({}, "");
     ++ejected;
+  }
+  void offer(const std::string& imagePath) override {
+    const bool known = images.count(imagePath) == 1;
+    answer = {known ? TrayOffer::Answer::Accepted : TrayOffer::Answer::Refused, known ? "" : imagePath + " is no disc."};
+    if (known) next = images[imagePath];
+  }
+  TrayOffer takeAnswer() override { return std::exchange(answer, TrayOffer{}); }
+  void closeTray() override {
+    ++closed;
+    if (next.count() > 0) insert(next);
   }
 
   Toc disc;
@@ -63,6 +74,11 @@ class SimPlayer : public DiscPlayer {
   Holder held = Holder::Us;
   bool failure = false;
   int ejected = 0;
+  int closed = 0;
+  bool stuck = false;  ///< the tray does not open
+  std::map<std::string, Toc> images;
+  TrayOffer answer;
+  Toc next;
 
  private:
   void halt(PlayState state) {

@@ -102,6 +102,7 @@ class Panel : public Simple<Kind::Panel> {
   using Simple::Simple;
   int bevelInner = 2;
   int bevelOuter = 2;
+  int bevelWidth = 3;
 };
 
 /// A bar that fills from the left; foreColor is that of a percent text on it.

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "platform/linux/toc.h"
+#include "platform/ports/disc_tray.h"
 
 namespace orvanta {
 
@@ -34,6 +35,10 @@ class DiscPlayer {
   virtual void stop() = 0;       ///< keeps the place
   virtual void seek(int frame) = 0;  ///< stops there
   virtual void eject() = 0;
+
+  virtual void offer(const std::string& imagePath) = 0;
+  virtual TrayOffer takeAnswer() = 0;
+  virtual void closeTray() = 0;
 };
 
 }  // namespace orvanta

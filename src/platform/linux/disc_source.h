@@ -25,7 +25,10 @@ class DiscSource {
   /// Frames `frame` to `frame + count - 1` as interleaved samples; false when the drive fails.
   virtual bool read(int frame, int count, int16_t* samples) = 0;
   virtual void openTray() = 0;
+  /// With the disc that accept() took last in it.
   virtual void closeTray() = 0;
+  /// Keeps an image for the next closeTray(); why not otherwise, "" when it was taken.
+  virtual std::string accept(const std::string& imagePath) = 0;
 };
 
 }  // namespace orvanta

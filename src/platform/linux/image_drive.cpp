@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <fstream>
 
 #include "base/text.h"
 #include "platform/linux/iso_root.h"
@@ -96,11 +97,32 @@ bool DiscImage::readBlock(int block, unsigned char* bytes) {
   return file.readBytes(offset + header, kIsoBlock, reinterpret_cast<char*>(bytes));
 }
 
-ImageDrive::ImageDrive(std::string folder, const std::string& disc) : folder_(std::move(folder)) {
-  if (disc.empty()) return;
+ImageDrive::ImageDrive(std::string folder, const std::string& disc, std::string memory) : folder_(std::move(folder)), memory_(std::move(memory)) {
+  if (!disc.empty()) {
+    refusal_ = accept(disc);
+    closeTray();
+  }
+  const std::string last = disc_ ? "" : remembered();
   std::string why;
-  disc_ = DiscImage::open(disc, why);
-  if (!disc_) refusal_ = "The disc image " + disc + " cannot be played: " + why + ".";
+  if (!last.empty()) disc_ = DiscImage::open(last, why);
+}
+
+/// Two lines: this drive's folder, and the image that was put into it last.
+std::string ImageDrive::remembered() const {
+  std::string error;
+  const auto lines = splitLines(memory_.empty() ? "" : readSmallFile(memory_, kMaxSheet, error));
+  return lines.size() >= 2 && lines[0] == folder_ ? lines[1] : "";
+}
+
+void ImageDrive::remember(const std::string& imagePath) const {
+  if (!memory_.empty()) std::ofstream(memory_) << folder_ << "\n" << imagePath << "\n";
+}
+
+std::string ImageDrive::accept(const std::string& imagePath) {
+  std::string why;
+  next_ = DiscImage::open(imagePath, why);
+  nextPath_ = imagePath;
+  return next_ ? "" : "The disc image " + imagePath + " cannot be played: " + why + ".";
 }
 
 bool ImageDrive::lock() {
@@ -148,6 +170,11 @@ bool ImageDrive::read(int frame, int count, int16_t* samples) { return disc_ && 
 
 void ImageDrive::openTray() { open_ = true; }
 
-void ImageDrive::closeTray() { open_ = false; }
+void ImageDrive::closeTray() {
+  open_ = false;
+  if (!next_) return;
+  disc_ = std::move(next_);
+  remember(nextPath_);
+}
 
 }  // namespace orvanta

@@ -36,8 +36,9 @@ class DiscImage {
 class ImageDrive : public DiscSource {
  public:
   /// `folder`: its first CUE sheet, by name, is the disc. `disc`: a sheet to put in instead; one
-  /// that is refused leaves the folder's disc in the tray, and refusal() says why.
-  explicit ImageDrive(std::string folder, const std::string& disc = "");
+  /// that is refused leaves the disc in the tray that is there, and refusal() says why. `memory`: a
+  /// file that keeps, for the next process, which image was put in; "" for none.
+  explicit ImageDrive(std::string folder, const std::string& disc = "", std::string memory = "");
 
   const std::string& refusal() const { return refusal_; }
 
@@ -48,14 +49,20 @@ class ImageDrive : public DiscSource {
   bool read(int frame, int count, int16_t* samples) override;
   void openTray() override;
   void closeTray() override;
+  std::string accept(const std::string& imagePath) override;
 
  private:
   std::string firstSheet() const;
+  std::string remembered() const;
+  void remember(const std::string& imagePath) const;
 
   std::string folder_;
+  std::string memory_;
   std::string refusal_;
   std::string tried_;  ///< sheet of the folder that was refused, not to be tried each second
   std::unique_ptr<DiscImage> disc_;
+  std::unique_ptr<DiscImage> next_;  ///< accepted, for the tray's next closing
+  std::string nextPath_;
   UniqueFd lock_;
   bool open_ = false;
 };

@@ -18,6 +18,7 @@ constexpr int kReadFrames = 25;  ///< a third of a second at a time
 constexpr int kFirstFrames = 8;
 constexpr size_t kFirstFill = size_t{kFirstFrames} * kSamplesPerFrame;
 constexpr milliseconds kLockTime{2000};
+constexpr milliseconds kLookTime{300};
 constexpr milliseconds kIdleNap{1000};
 constexpr milliseconds kPlayNap{400};
 constexpr int kMaxSkip = kFramesPerSecond;
@@ -33,17 +34,21 @@ Player::Player(DiscSource& source, SoundOutputs& outputs)
       thread_([this] { run(); }) {}
 
 Player::~Player() {
-  {
-    const std::lock_guard lock(mutex_);
-    quit_ = true;
-  }
-  wake_.notify_all();
+  finish(0);
   thread_.join();
+}
+
+bool Player::finish(int wait) {
+  std::unique_lock lock(mutex_);
+  quit_ = true;
+  wake_.notify_all();
+  return known_.wait_for(lock, milliseconds(wait), [this] { return finished_; });
 }
 
 void Player::waitUntilKnown(int wait) {
   std::unique_lock lock(mutex_);
   known_.wait_for(lock, milliseconds(wait), [this] { return holder_ != Holder::Unknown; });
+  known_.wait_for(lock, kLookTime, [this] { return looked_ || holder_ != Holder::Us; });
 }
 
 bool Player::settled() const {
@@ -89,13 +94,14 @@ int Player::heardFrame() const {
 }
 
 void Player::give(const Order& order, PlayState state, int frame) {
-  static constexpr const char* kWords[] = {"play", "pause", "resume", "stop", "seek", "eject"};
+  static constexpr const char* kWords[] = {"play", "pause", "resume", "stop", "seek", "eject", "offer", "close"};
   if (logs("sound")) logLine("sound", std::string(kWords[static_cast<int>(order.kind)]) + " at frame " + std::to_string(frame));
   {
     const std::lock_guard lock(mutex_);
     // Only the last of several orders that stop or start sound matters.
-    if (order.kind != Order::Kind::Pause && order.kind != Order::Kind::Resume && order.kind != Order::Kind::Eject) {
-      std::erase_if(orders_, [](const Order& waiting) { return waiting.kind != Order::Kind::Eject; });
+    const auto ofTray = [](const Order& one) { return one.kind >= Order::Kind::Eject; };
+    if (order.kind != Order::Kind::Pause && order.kind != Order::Kind::Resume && !ofTray(order)) {
+      std::erase_if(orders_, [&](const Order& waiting) { return !ofTray(waiting); });
     }
     orders_.push_back(order);
     shownState_ = state;
@@ -118,6 +124,18 @@ void Player::eject() {
   }
   give({Order::Kind::Eject}, PlayState::Stopped, kFirstFrame);
 }
+
+void Player::offer(const std::string& imagePath) {
+  const PlayState state = this->state();
+  give({Order::Kind::Offer, 0, 0, imagePath}, state, frame());
+}
+
+TrayOffer Player::takeAnswer() {
+  const std::lock_guard lock(mutex_);
+  return std::exchange(answer_, TrayOffer{});
+}
+
+void Player::closeTray() { give({Order::Kind::CloseTray}, PlayState::Stopped, kFirstFrame); }
 
 // ---- the owner thread
 
@@ -146,15 +164,20 @@ void Player::run() {
   }
   lock.unlock();
   dropStream();
+  lock.lock();
+  finished_ = true;
+  known_.notify_all();
 }
 
 void Player::tryToHold(bool tooLate) {
   const bool ours = source_.lock();
-  if (ours) lookAtDrive();
   if (!ours && !tooLate) return;
-  const std::lock_guard lock(mutex_);
-  holder_ = ours ? Holder::Us : Holder::Other;
+  {
+    const std::lock_guard lock(mutex_);
+    holder_ = ours ? Holder::Us : Holder::Other;
+  }
   known_.notify_all();
+  if (ours) lookAtDrive();
 }
 
 milliseconds Player::nap() const {
@@ -169,7 +192,10 @@ milliseconds Player::nap() const {
 
 void Player::lookAtDrive() {
   const DriveStatus status = source_.poll();
+  lastLook_ = std::chrono::steady_clock::now();
   const std::lock_guard lock(mutex_);
+  looked_ = true;
+  known_.notify_all();
   // While a disc is being ejected it is gone already.
   const bool ejecting = std::any_of(orders_.begin(), orders_.end(), [](const Order& order) { return order.kind == Order::Kind::Eject; });
   if (ejecting || (status == status_ && status == DriveStatus::Disc && source_.toc() == toc_)) return;
@@ -202,6 +228,18 @@ void Player::carryOut(const Order& order) {
     case Order::Kind::Eject:
       dropStream();
       source_.openTray();
+      lookAtDrive();
+      break;
+    case Order::Kind::Offer: {
+      TrayOffer answer;
+      answer.refusal = source_.accept(order.path);
+      answer.answer = answer.refusal.empty() ? TrayOffer::Answer::Accepted : TrayOffer::Answer::Refused;
+      const std::lock_guard lock(mutex_);
+      answer_ = answer;
+      break;
+    }
+    case Order::Kind::CloseTray:
+      source_.closeTray();
       lookAtDrive();
       break;
   }
@@ -240,13 +278,13 @@ void Player::startStream(int from, bool afterFailure) {
 bool Player::nextRun() {
   const Toc toc = this->toc();
   int number = toc.trackAt(next_);
-  while (toc.has(number) && toc.isData(number)) {
+  while (toc.has(number) && (toc.isData(number) || next_ >= toc.soundEnd(number))) {
     ++number;
     if (toc.has(number)) next_ = toc.startOf(number);
   }
   if (!toc.has(number) || next_ >= playTo_) return false;
-  while (toc.has(number) && !toc.isData(number)) ++number;
-  runEnd_ = std::min(playTo_, toc.has(number) ? toc.startOf(number) : toc.leadOut);
+  while (toc.has(number + 1) && !toc.isData(number + 1)) ++number;
+  runEnd_ = std::min(playTo_, toc.soundEnd(number));
   const std::lock_guard lock(mutex_);
   spans_.push_back({produced_, next_});
   return next_ < runEnd_;
@@ -310,6 +348,10 @@ void Player::tend() {
   } else {
     readAhead(ring_.capacity());
     endWhenHeard();
+    if (std::chrono::steady_clock::now() - lastLook_ < kIdleNap) return;
+    // A disc pulled out while it plays.
+    lookAtDrive();
+    if (toc_.tracks.empty()) dropStream();
   }
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <atomic>
+#include <chrono>
 #include <condition_variable>
 #include <deque>
 #include <memory>
@@ -21,9 +22,13 @@ class Player : public DiscPlayer, private SampleFeed {
   Player(DiscSource& source, SoundOutputs& outputs);
   ~Player() override;
 
-  /// Returns when the drive was looked at once, or after `milliseconds`. For the start alone, so
-  /// that a disc that is there is not taken for none.
+  /// For the start alone, so that a disc that is there is not taken for none: returns when it is
+  /// known who has the drive, or after `milliseconds`, and when the drive was looked at once, or
+  /// after a moment more. A drive that is slow to answer is not waited for.
   void waitUntilKnown(int milliseconds);
+
+  /// Ends the thread; false when a drive still holds it up after `milliseconds`.
+  bool finish(int milliseconds);
 
   Holder holder() const override;
   Toc toc() const override;
@@ -37,6 +42,9 @@ class Player : public DiscPlayer, private SampleFeed {
   void stop() override;
   void seek(int frame) override;
   void eject() override;
+  void offer(const std::string& imagePath) override;
+  TrayOffer takeAnswer() override;
+  void closeTray() override;
 
   /// Every order given was carried out.
   bool settled() const;
@@ -46,9 +54,10 @@ class Player : public DiscPlayer, private SampleFeed {
 
  private:
   struct Order {
-    enum class Kind { Play, Pause, Resume, Stop, Seek, Eject } kind;
+    enum class Kind { Play, Pause, Resume, Stop, Seek, Eject, Offer, CloseTray } kind;
     int from = 0;
     int to = 0;
+    std::string path = {};
   };
   /// Sound from `sample` of the stream on comes from `frame` of the disc on.
   struct Span {
@@ -99,6 +108,10 @@ class Player : public DiscPlayer, private SampleFeed {
   std::condition_variable known_;
   std::deque<Order> orders_;
   bool quit_ = false;
+  bool finished_ = false;
+  bool looked_ = false;  ///< at the drive, once at least
+  TrayOffer answer_;
+  std::chrono::steady_clock::time_point lastLook_;
   bool busy_ = false;  ///< an order is being carried out: shown_ holds what it will come to
   PlayState shownState_ = PlayState::Stopped;
   int shownFrame_ = kFirstFrame;

@@ -2,6 +2,7 @@
 // sector of the program area is frame 150.
 #pragma once
 
+#include <algorithm>
 #include <vector>
 
 #include "base/times.h"
@@ -26,11 +27,17 @@ struct TocTrack {
 struct Toc {
   std::vector<TocTrack> tracks;  ///< numbered from 1 without a gap
   int leadOut = 0;
+  int sessionGap = 0;  ///< frames without sound between an audio track and a data session behind it
 
   int count() const { return static_cast<int>(tracks.size()); }
   bool has(int number) const { return number >= 1 && number <= count(); }
   int startOf(int number) const { return tracks[static_cast<size_t>(number - 1)].start; }
   int endOf(int number) const { return number < count() ? startOf(number + 1) : leadOut; }
+  /// Where the sound of an audio track ends; lengths are told start to start all the same.
+  int soundEnd(int number) const {
+    const bool beforeData = number < count() && isData(number + 1);
+    return beforeData ? std::max(startOf(number), endOf(number) - sessionGap) : endOf(number);
+  }
   bool isData(int number) const { return tracks[static_cast<size_t>(number - 1)].data; }
   bool hasAudio() const {
     for (const TocTrack& track : tracks) {

@@ -7,6 +7,7 @@ namespace orvanta {
 class CdDevice;
 class Clock;
 class Dialogs;
+class DiscTray;
 class Files;
 class Processes;
 class Screen;
@@ -17,6 +18,7 @@ class Desktop;
 
 struct Ports {
   CdDevice& device;
+  DiscTray& tray;
   Clock& clock;
   Dialogs& dialogs;
   Files& files;

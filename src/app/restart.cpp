@@ -1,0 +1,30 @@
+// Hand-over between two processes by the file ejcd.tmp: it stands until the new one has started.
+#include "app/restart.h"
+
+#include "base/text.h"
+#include "platform/ports/clock.h"
+#include "platform/ports/core_gate.h"
+#include "platform/ports/files.h"
+#include "platform/ports/processes.h"
+#include "platform/ports/system.h"
+#include "state/settings_files.h"
+
+namespace orvanta {
+
+void Restart::forDisc() {
+  const std::string& folder = state_.settings.appDir;
+  const std::string handOver = joinPath(folder, "ejcd.tmp");
+  writeSettings(SettingsFile::SettingsDat, ports_.files, folder, state_.settings);
+  ports_.files.write(handOver, "\"0\"\r\n");
+  ProcessRequest request{{joinPath(state_.process.windowsDir, "orvanlx")}, folder, WindowStyle::Normal};
+  for (const std::string& argument : ports_.system.handedOn()) request.arguments.push_back(argument);
+  const Processes::Id started = ports_.processes.start(request);
+  while (started != 0 && ports_.files.exists(handOver)) {
+    if (!ports_.processes.running(started)) return;
+    ports_.clock.delaySeconds(0.02);
+  }
+  // No unload: the marker of the running player is the new one's by now.
+  if (started != 0) end();
+}
+
+}  // namespace orvanta

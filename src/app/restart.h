@@ -1,0 +1,22 @@
+// The change to a new process: for another disc, and for the setup program's answers.
+#pragma once
+
+#include "platform/ports/ports.h"
+#include "state/shared_state.h"
+
+namespace orvanta {
+
+class Restart {
+ public:
+  Restart(Ports& ports, SharedState& state) : ports_(ports), state_(state) {}
+
+  /// Saves, starts a new process and ends this one once the new one has taken the hand-over file
+  /// away. Comes back when the new one died before that, or cannot be started.
+  void forDisc();
+
+ private:
+  Ports& ports_;
+  SharedState& state_;
+};
+
+}  // namespace orvanta

@@ -1,0 +1,35 @@
+// A real drive as a disc source.
+#pragma once
+
+#include <memory>
+
+#include "platform/linux/cdrom_calls.h"
+#include "platform/linux/disc_source.h"
+
+namespace orvanta {
+
+class CdromDrive : public DiscSource {
+ public:
+  explicit CdromDrive(std::unique_ptr<CdromCalls> calls) : calls_(std::move(calls)) {}
+
+  bool lock() override { return calls_->lock(); }
+  DriveStatus poll() override;
+  const Toc& toc() const override { return toc_; }
+  std::string firstEntry() const override { return entry_; }
+  bool read(int frame, int count, int16_t* samples) override;
+  void openTray() override;
+  void closeTray() override;
+  std::string accept(const std::string& imagePath) override;
+
+ private:
+  bool readTable();
+  std::string entryOfDisc();
+
+  std::unique_ptr<CdromCalls> calls_;
+  int status_ = -1;
+  bool known_ = false;  ///< the table of the disc that is in was read
+  Toc toc_;
+  std::string entry_;
+};
+
+}  // namespace orvanta

@@ -1,0 +1,30 @@
+// The tray as a person uses it: something is put in, and it is pushed shut.
+#pragma once
+
+#include <string>
+
+namespace orvanta {
+
+struct TrayOffer {
+  enum class Answer { None, Accepted, Refused };
+  Answer answer = Answer::None;
+  std::string refusal;  ///< why, for the user
+};
+
+class DiscTray {
+ public:
+  virtual ~DiscTray() = default;
+  /// True for a drive whose discs are files.
+  virtual bool takesImages() const = 0;
+  /// Where a person would look for another image.
+  virtual std::string imageFolder() const = 0;
+  /// Looks at an image in its own time; nothing in the drive changes.
+  virtual void offer(const std::string& path) = 0;
+  /// The answer to the last offer, once.
+  virtual TrayOffer takeAnswer() = 0;
+  /// Pushes the tray shut, with the image that was accepted last in it. The disc shows in the device
+  /// when it was read.
+  virtual void close() = 0;
+};
+
+}  // namespace orvanta

@@ -1,0 +1,130 @@
+// The clock's slower side: auto-start, setup, and discs that come and go.
+#include "base/text.h"
+#include "platform/ports/dialogs.h"
+#include "platform/ports/disc_tray.h"
+#include "platform/ports/screen.h"
+#include "playback/clock.h"
+#include "playback/upward.h"
+
+namespace orvanta {
+
+/// An image was put on the deck: with another disc still in, the tray opens for it first. One that
+/// cannot be played leaves everything as it was.
+void PlaybackClock::answerOffer() {
+  const TrayOffer offer = tray_.takeAnswer();
+  if (offer.answer == TrayOffer::Answer::Refused) {
+    dialogs_.message(BoxStyle::Warning, "Orvanta", offer.refusal);
+  } else if (offer.answer == TrayOffer::Answer::Accepted) {
+    if (state_.disc.drawerOpen == kOff) engine_.mmcontrol1_EjectClick();
+    tray_.close();
+  }
+}
+
+void PlaybackClock::autoStart() {
+  ProcessState& process = state_.process;
+  if (process.commandWord == "RUNRIPPER") {
+    form_.minimised = false;
+    screen_.setPointer(Pointer::Normal);
+    process.autoStartDone = kOn;
+    process.commandWord.clear();
+    buttons_.icntla_MouseDown(Record);
+    buttons_.icntla_MouseUp(Record);
+    return;
+  }
+  process.autoStartDone = kOn;
+  engine_.playingLook();
+  state_.transport.playingFlag = kOn;
+  device_.setUpdateInterval(1000);
+  state_.transport.curTrack = 1;
+  engine_.startOfTrack();
+  device_.setFrom(1);
+  device_.command("Play");
+  display_.showTimeModeLabel();
+  if (process.commandWord == "ORVLITE") {
+    form_.minimised = true;
+    screen_.setPointer(Pointer::Normal);
+    process.commandWord.clear();
+  }
+}
+
+void PlaybackClock::timer3_timer() {
+  DiscState& disc = state_.disc;
+  if (state_.process.setupWanted == kOn) {
+    // Cleared first: the timer must not find it again while the setup program is open.
+    state_.process.setupWanted = kOff;
+    upward_.runSetup();
+  }
+  if (disc.drawerOpen == kOn) {
+    drawerIsOpen();
+    return;
+  }
+  if (disc.noDiscState > 1 && discCameLater()) return;
+  if (afterTheEnd()) return;
+  disc.trackCount = device_.tracks();
+  if (disc.trackCount == 0) discGone();
+}
+
+/// The way back from an open drawer: a disc that the drive can name.
+void PlaybackClock::drawerIsOpen() {
+  if (device_.directoryEntry().empty()) {
+    restartFailed_ = false;
+    return;
+  }
+  if (restartFailed_) return;
+  screen_.setPointer(Pointer::Hourglass);
+  const bool shownOpen = form_.Panel3D7.visible;
+  if (shownOpen) upward_.closeDrawer();
+  device_.setDeviceType("CDAudio");
+  device_.setNotify(0);
+  device_.setWait(-1);
+  device_.setShareable(0);
+  device_.command("Close");
+  upward_.restartForDisc();
+  // Only a new process that died brings us here: go on with the drawer as it was.
+  restartFailed_ = true;
+  if (shownOpen) upward_.openDrawer();
+  screen_.setPointer(Pointer::Normal);
+}
+
+/// The drive was not ready at the start and has a disc now. Audio takes the road of a new disc; a
+/// disc of data stays where it is.
+bool PlaybackClock::discCameLater() {
+  const std::string entry = device_.directoryEntry();
+  if (entry.empty()) return false;
+  if (endsWithNoCase(entry, ".CDA")) drawerIsOpen();
+  return true;
+}
+
+/// The disc has ended, or was stopped at track 0. True when it was ejected for that.
+bool PlaybackClock::afterTheEnd() {
+  if (form_.Label8.caption != "0") return false;
+  if (state_.settings.timeMode == Time) {
+    device_.command("stop");
+    form_.CDStatusBar.floodPercent = 0;
+    if (state_.disc.noDiscState == 0) engine_.stoppedLook();
+  }
+  if (state_.settings.appOptions[1] != 1 || state_.disc.discLoaded != kOn) return false;
+  engine_.mmcontrol1_EjectClick();
+  return true;
+}
+
+/// Somebody took the disc out by the drive's own button, or there was none from the start.
+void PlaybackClock::discGone() {
+  const auto& colour = state_.settings.lcdColor;
+  form_.Label14.foreColor = colour[kLcdDrawer];
+  for (size_t lamp = 0; lamp < 20; ++lamp) form_.Label22[lamp].foreColor = colour[kLcdDim];
+  device_.command("stop");
+  device_.command("close");
+  state_.transport.playingFlag = state_.transport.pausedFlag = kOff;
+  form_.Label12.caption = "";
+  form_.Label13.caption = "";
+  display_.showTrack(0);
+  display_.clearTime("00:00");
+  upward_.closeDiscWindows();
+  upward_.openDrawer();
+  clock_.delaySeconds(1.5);
+  state_.disc.drawerOpen = kOn;
+  if (state_.disc.noDiscState > 0) upward_.showNoDisc();
+}
+
+}  // namespace orvanta

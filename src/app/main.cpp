@@ -1,5 +1,6 @@
 // The one place that knows every adapter: it makes them, hands them to the core, and runs the loop.
 #include <QApplication>
+#include <QSocketNotifier>
 #include <QTimer>
 #include <cstdio>
 #include <cstdlib>
@@ -18,6 +19,7 @@
 #include "platform/linux/host_processes.h"
 #include "platform/linux/host_system.h"
 #include "platform/linux/image_drive.h"
+#include "platform/linux/local_socket.h"
 #include "platform/linux/mci_device.h"
 #include "platform/linux/player.h"
 #include "platform/linux/wav_file.h"
@@ -32,6 +34,25 @@ namespace {
 /// Longer than the drive's lock is waited for; a disc image is known within a few milliseconds.
 constexpr int kDriveWait = 2500;
 constexpr int kFarewell = 500;
+
+/// A second start on the same data folder: its disc goes to the window that is there, which comes to
+/// the front. False: there is none.
+bool handedToFirst(const std::string& socket, const std::string& disc) {
+  constexpr int kPatience = 1000;
+  return ask(socket, disc.empty() ? "raise" : "disc " + disc, kPatience).has_value();
+}
+
+/// What a second start asks of the first.
+void serveSecondStarts(SocketServer& server, CoreGate& gate, DiscTray& tray, forms::Form& form) {
+  while (const auto request = server.next()) {
+    SocketServer::reply(*request, "ok");
+    gate.enter([&] {
+      if (request->line.rfind("disc ", 0) == 0) tray.offer(request->line.substr(5));
+      form.minimised = false;
+      if (form.view() != nullptr) form.view()->raise();
+    });
+  }
+}
 
 struct Sound {
   std::unique_ptr<WavFile> wav;
@@ -71,6 +92,8 @@ int run(int argc, char** argv) {
   const std::string path = drivePath(options.host, files, system.systemDir());
   const bool real = path.rfind("/dev/", 0) == 0;
   const std::string data = dataPath(options.host, files, system.systemDir());
+  const std::string socket = socketPath("deck", data);
+  if (!options.takeOver && handedToFirst(socket, options.disc)) return 0;
   const std::string memory = data.empty() ? "" : joinPath(data, "tray.dat");
   auto images = real ? nullptr : std::make_unique<ImageDrive>(path, options.disc, memory);
   auto discs = real ? std::make_unique<CdromDrive>(kernelCdrom(path)) : nullptr;
@@ -104,6 +127,12 @@ int run(int argc, char** argv) {
   const std::string refusal = images ? images->refusal() : options.disc.empty() ? "" : drive.accept(options.disc);
   if (!gate.ended() && !refusal.empty()) {
     QTimer::singleShot(0, &application, [&] { gate.enter([&] { dialogs.message(BoxStyle::Warning, "Orvanta", refusal); }); });
+  }
+  SocketServer server(socket);
+  std::unique_ptr<QSocketNotifier> notifier;
+  if (server.fd() >= 0) {
+    notifier = std::make_unique<QSocketNotifier>(server.fd(), QSocketNotifier::Read);
+    QObject::connect(notifier.get(), &QSocketNotifier::activated, [&] { serveSecondStarts(server, gate, tray, orvanta->form); });
   }
   const int code = gate.ended() ? 0 : QApplication::exec();
   // A drive that hangs must not hold up the end.

@@ -48,7 +48,9 @@ Options readOptions(const std::vector<std::string>& arguments, const std::string
       value = option.substr(equals + 1);
       option.resize(equals);
     }
-    if (option == "--help" || option == "--version") {
+    if (option == "--take-over") {
+      options.takeOver = true;
+    } else if (option == "--help" || option == "--version") {
       (option == "--help" ? options.help : options.version) = true;
     } else if (!takesValue(option)) {
       options.error = option;
@@ -64,7 +66,7 @@ Options readOptions(const std::vector<std::string>& arguments, const std::string
 }
 
 std::vector<std::string> Options::handedOn() const {
-  std::vector<std::string> all;
+  std::vector<std::string> all{"--take-over"};
   const auto add = [&](const std::string& option, const std::string& value) {
     if (value.empty()) return;
     all.push_back(option);

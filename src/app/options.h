@@ -13,6 +13,7 @@ struct Options {
   std::string disc;               ///< a CUE sheet to put into the tray
   std::string audio = "default";  ///< "default", "null", "file:PATH"
   double scale = 0;               ///< 0: the desktop's
+  bool takeOver = false;          ///< started by a deck that makes way: no second window
   bool help = false;
   bool version = false;
   std::string error;  ///< what cannot be understood; "" for a good line

@@ -36,7 +36,7 @@ TEST(Options, StandBeforeTheWords) {
   EXPECT_EQ(options.audio, "file:/cur/x.wav");
   EXPECT_EQ(options.host.words, "TRACK05.CDA --data");
   EXPECT_EQ(options.disc, "/a/b.cue");
-  EXPECT_EQ(options.handedOn(), (Tape{"--data", "/cur/here", "--audio", "file:/cur/x.wav", "--scale", "1.500000"}));
+  EXPECT_EQ(options.handedOn(), (Tape{"--take-over", "--data", "/cur/here", "--audio", "file:/cur/x.wav", "--scale", "1.500000"}));
   for (const char* bad : {"--what", "--scale=0", "--audio=loud", "--data"}) EXPECT_NE(readOptions({bad}, "/").error, "") << bad;
 }
 

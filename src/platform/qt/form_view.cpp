@@ -198,9 +198,8 @@ void FormWindow::formChanged(Change change) {
 void FormWindow::refresh(forms::Control& control) {
   ControlWidget* widget = widgetOf(control);
   if (widget == nullptr || !isVisible()) return;
-  // Through the window's own queue of repaints, then out to the screen.
+  // Painted and sent off here and now. (Qt's own sync would deliver events, timers among them.)
   repaint(QRect(widget->mapTo(this, QPoint(0, 0)), widget->size()));
-  QGuiApplication::sync();
 }
 
 void FormWindow::focusMoved(forms::Control* control) {

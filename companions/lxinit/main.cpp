@@ -1,7 +1,6 @@
 // lxinit FOLDER [DRIVE]: sets up a data folder. Writes ORVWIN.INI, which names it, and every other
 // settings file that it lacks, with good defaults. What is there already is left alone.
 #include <cstdio>
-#include <filesystem>
 
 #include "base/text.h"
 #include "platform/linux/host_files.h"
@@ -11,12 +10,6 @@
 namespace orvanta {
 namespace {
 
-/// The demo disc of this installation; without it a folder of the user's own, to put images in.
-std::string usualDrive(const HostSystem& system, const std::string& dataDir) {
-  const std::string demo = std::filesystem::path(system.windowsDir() + "/../share/orvanta/demo").lexically_normal().string();
-  return std::filesystem::is_directory(demo) ? demo : joinPath(dataDir, "drive");
-}
-
 int run(int argc, char** argv) {
   const HostSystem system({});
   if (argc < 2 || argv[1][0] != '/') {
@@ -25,7 +18,7 @@ int run(int argc, char** argv) {
   }
   const std::string folder = argv[1];
   HostFiles files;
-  const Settings settings = defaultSettings(folder, argc > 2 ? argv[2] : usualDrive(system, folder));
+  const Settings settings = defaultSettings(folder, argc > 2 ? argv[2] : system.usualDrive(folder));
   const std::string home = joinPath(system.systemDir(), fileName(SettingsFile::Orvwin));
   bool done = writeMissingSettings(files, settings) && files.makeFolder(system.systemDir());
   if (done && !files.exists(home)) done = writeSettings(SettingsFile::Orvwin, files, system.systemDir(), settings);

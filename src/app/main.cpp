@@ -12,8 +12,6 @@
 #include "app/orvanta.h"
 #include "base/text.h"
 #include "platform/linux/cdrom_drive.h"
-#include "platform/linux/clocked_output.h"
-#include "platform/linux/cubeb_output.h"
 #include "platform/linux/drive_tray.h"
 #include "platform/linux/host_files.h"
 #include "platform/linux/host_processes.h"
@@ -21,8 +19,9 @@
 #include "platform/linux/image_drive.h"
 #include "platform/linux/local_socket.h"
 #include "platform/linux/mci_device.h"
+#include "platform/linux/play_on.h"
 #include "platform/linux/player.h"
-#include "platform/linux/wav_file.h"
+#include "platform/linux/sound_choice.h"
 #include "platform/qt/form_view.h"
 #include "platform/qt/qt_clock.h"
 #include "platform/qt/qt_dialogs.h"
@@ -54,22 +53,6 @@ void serveSecondStarts(SocketServer& server, CoreGate& gate, DiscTray& tray, for
   }
 }
 
-struct Sound {
-  std::unique_ptr<WavFile> wav;
-  std::unique_ptr<SoundOutputs> outputs;
-};
-
-Sound makeSound(const std::string& audio) {
-  Sound sound;
-  if (audio == "default") {
-    sound.outputs = std::make_unique<CubebOutputs>();
-    return sound;
-  }
-  if (audio.rfind("file:", 0) == 0) sound.wav = std::make_unique<WavFile>(audio.substr(5));
-  sound.outputs = std::make_unique<ClockedOutputs>(sound.wav.get(), Pace::RealTime);
-  return sound;
-}
-
 /// X11 where both are there, unless the user chose: stored places and top-most windows need it.
 /// One transform does all scaling, so Qt's own stays out.
 void prepareQt() {
@@ -90,7 +73,7 @@ int run(int argc, char** argv) {
   HostSystem system(options.handedOn());
   // The drive's thread reads the disc while Qt starts.
   const std::string path = drivePath(options.host, files, system.systemDir());
-  const bool real = path.rfind("/dev/", 0) == 0;
+  const bool real = isDevice(path);
   const std::string data = dataPath(options.host, files, system.systemDir());
   const std::string socket = socketPath("deck", data);
   if (!options.takeOver && handedToFirst(socket, options.disc)) return 0;
@@ -122,7 +105,12 @@ int run(int argc, char** argv) {
   // The start-up form first: it takes the hand-over file away, upon which a process that made way for
   // this one lets go of the drive.
   gate.enter([&] { orvanta->startUp(options.host); });
-  if (!gate.ended()) player->waitUntilKnown(kDriveWait);
+  if (!gate.ended()) {
+    // A disc that plays on from the last time is taken over where it is.
+    const auto rest = takeBack(path);
+    player->waitUntilKnown(kDriveWait);
+    if (rest && player->holder() == Holder::Us && rest->to <= player->toc().leadOut) player->play(rest->from, rest->to);
+  }
   gate.enter([&] { orvanta->showFaceplate(); });
   const std::string refusal = images ? images->refusal() : options.disc.empty() ? "" : drive.accept(options.disc);
   if (!gate.ended() && !refusal.empty()) {
@@ -135,6 +123,9 @@ int run(int argc, char** argv) {
     QObject::connect(notifier.get(), &QSocketNotifier::activated, [&] { serveSecondStarts(server, gate, tray, orvanta->form); });
   }
   const int code = gate.ended() ? 0 : QApplication::exec();
+  if (player->state() == PlayState::Playing) {
+    handOn(*player, player->playEnd(), path, joinPath(system.windowsDir(), "orvplayon"), {path, memory, options.audio});
+  }
   // A drive that hangs must not hold up the end.
   if (!player->finish(kFarewell)) std::_Exit(code);
   return code;

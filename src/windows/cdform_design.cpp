@@ -133,7 +133,7 @@ constexpr forms::DesignRow kDesign[] = {
     {"Image77", 1, "Panel3D6", 1, {192, 120, 456, 432}, {195, 120, 450, 420}, "", 0x000000, 0x000000, "", 0, false, true, Align::Left, false, false, false, "emblem", "", ""},
     {"Label77", 1, "Panel3D6", 1, {732, 228, 1680, 204}, {735, 225, 1680, 210}, "COMPACT DISC", 0xC8C2BC, 0x000000, "Small Fonts", 7.5, true, true, Align::Left, false, false, false, "engraved:wide", "", ""},
     {"Line6", kNoIndex, "Panel3D6", 1, {132, 612, 3096, 0}, {135, 615, 3090, 0}, "", 0x100E0C, 0x000000, "", 0, false, true, Align::Left, false, false, true, "groove", "", ""},
-    {"Panel3D8", kNoIndex, "CDForm", 20, {1260, 5880, 3480, 1110}, {1260, 5880, 3480, 1110}, "", 0x000000, 0x3D3733, "", 0, false, true, Align::Left, false, false, false, "tray", "", ""},
+    {"Panel3D8", kNoIndex, "CDForm", 20, {1260, 5880, 3480, 1110}, {1260, 5880, 3480, 1110}, "", 0x000000, 0x3D3733, "", 0, false, true, Align::Left, false, false, false, "tray:half", "", ""},
     {"Panel3D7", kNoIndex, "CDForm", 21, {1200, 7080, 3490, 970}, {1200, 7080, 3490, 970}, "", 0x000000, 0x3D3733, "", 0, false, false, Align::Left, false, false, false, "tray", "", "Open tray"},
     {"Panel3D9", kNoIndex, "CDForm", 21, {4690, 7320, 120, 730}, {4690, 7320, 120, 730}, "", 0x000000, 0x3D3733, "", 0, false, false, Align::Left, false, false, false, "tray", "", ""},
     {"Panel3D10", kNoIndex, "CDForm", 21, {1200, 8050, 3610, 500}, {1200, 8050, 3610, 500}, "", 0x000000, 0x3D3733, "", 0, false, false, Align::Left, false, false, false, "tray", "", ""},

@@ -29,4 +29,10 @@ std::string HostSystem::windowsDir() const {
   return std::filesystem::read_symlink("/proc/self/exe", error).parent_path().string();
 }
 
+std::string HostSystem::usualDrive(const std::string& dataDir) const {
+  std::error_code error;
+  const std::string demo = std::filesystem::path(windowsDir() + "/../share/orvanta/demo").lexically_normal().string();
+  return std::filesystem::is_directory(demo, error) ? demo : joinPath(dataDir, "drive");
+}
+
 }  // namespace orvanta

@@ -51,6 +51,11 @@ void Player::waitUntilKnown(int wait) {
   known_.wait_for(lock, kLookTime, [this] { return looked_ || holder_ != Holder::Us; });
 }
 
+int Player::playEnd() const {
+  const std::lock_guard lock(mutex_);
+  return shownEnd_;
+}
+
 bool Player::settled() const {
   const std::lock_guard lock(mutex_);
   return orders_.empty() && !busy_;
@@ -106,6 +111,7 @@ void Player::give(const Order& order, PlayState state, int frame) {
     orders_.push_back(order);
     shownState_ = state;
     shownFrame_ = frame;
+    if (order.kind == Order::Kind::Play) shownEnd_ = order.to;
   }
   wake_.notify_all();
 }

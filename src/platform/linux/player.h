@@ -46,6 +46,9 @@ class Player : public DiscPlayer, private SampleFeed {
   TrayOffer takeAnswer() override;
   void closeTray() override;
 
+  /// Where the play under way is to end.
+  int playEnd() const;
+
   /// Every order given was carried out.
   bool settled() const;
 
@@ -115,6 +118,7 @@ class Player : public DiscPlayer, private SampleFeed {
   bool busy_ = false;  ///< an order is being carried out: shown_ holds what it will come to
   PlayState shownState_ = PlayState::Stopped;
   int shownFrame_ = kFirstFrame;
+  int shownEnd_ = kFirstFrame;
   std::unique_ptr<SoundOutput> output_;
   std::vector<Span> spans_;
   Holder holder_ = Holder::Unknown;

@@ -27,6 +27,7 @@ void paintControl(Art& art);
 // The families of drawings; each returns false for an art that is not its own.
 bool paintSurface(Art& art, std::string_view name, std::string_view detail);
 bool paintKey(Art& art, std::string_view name, std::string_view detail);
+void paintTray(Art& art, bool half);
 bool paintDisplay(Art& art, std::string_view name, std::string_view detail);
 
 }  // namespace orvanta

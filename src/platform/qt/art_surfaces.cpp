@@ -53,8 +53,19 @@ void ejectSign(QPainter& p, QPointF centre, double k) {
   p.restore();
 }
 
+/// What the open door leaves: darkness with a lit lip.
+void recess(Art& art) {
+  fill(art.painter, area(art), blend({0, 0}, {0, art.h}, {{0, QColor(Qt::black)}, {.7, QColor(0x0A, 0x0B, 0x0C)}, {1, QColor(0x16, 0x18, 0x1A)}}));
+  edge(art.painter, area(art), 1.5, 0, .8, 2 * art.k);
+}
+
 void door(Art& art) {
   QPainter& p = art.painter;
+  const auto* panel = dynamic_cast<const forms::Panel*>(&art.control);
+  if (panel != nullptr && panel->bevelInner == 1) {
+    recess(art);
+    return;
+  }
   metal(p, area(art), qColour(art.control.backColor), 2.2, .4, art.factor);
   edge(p, area(art), 2.2, .7, .9, 1);
   ejectSign(p, {art.w - 16 * art.k, 19 * art.k}, 1.05 * art.k);
@@ -150,6 +161,8 @@ bool paintSurface(Art& art, std::string_view name, std::string_view detail) {
     sunkPanel(art);
   } else if (name == "door") {
     door(art);
+  } else if (name == "tray") {
+    paintTray(art, detail == "half");
   } else if (name == "emblem") {
     emblem(art);
   } else if (name == "statuslamp") {
@@ -182,7 +195,7 @@ bool paintSurface(Art& art, std::string_view name, std::string_view detail) {
   } else if (name == "plain") {
     letters(art, c.caption, fore, {c.align, 1.2 * art.k});
   } else {
-    return name == "clear" || name == "joint" || name == "tray";
+    return name == "clear" || name == "joint";
   }
   return true;
 }

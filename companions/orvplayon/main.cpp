@@ -1,0 +1,98 @@
+// orvplayon DRIVE MEMORY AUDIO: plays a disc on after the deck was switched off. Started by the deck, it knows
+// the disc before it is told to play, holds the drive while it plays, gives the disc to the next deck that asks,
+// and ends with it.
+#include <poll.h>
+
+#include <chrono>
+#include <cstdio>
+#include <memory>
+
+#include "base/log.h"
+#include "platform/linux/cdrom_drive.h"
+#include "platform/linux/image_drive.h"
+#include "platform/linux/local_socket.h"
+#include "platform/linux/play_on.h"
+#include "platform/linux/sound_choice.h"
+
+namespace orvanta {
+namespace {
+
+constexpr int kTick = 200;                                ///< milliseconds between two looks
+constexpr auto kOrphan = std::chrono::milliseconds(10000);  ///< without a word from the deck
+
+class PlayOn {
+ public:
+  PlayOn(DiscSource& drive, SoundOutputs& outputs, const std::string& name)
+      : drive_(drive), shared_(drive), player_(shared_, outputs), server_(socketPath("play", name)) {}
+
+  int run() {
+    if (server_.fd() < 0) return 1;
+    while (!over_) {
+      pollfd wait{server_.fd(), POLLIN, 0};
+      if (::poll(&wait, 1, kTick) > 0) {
+        while (auto request = server_.next()) answer(*request);
+      }
+      // The deck's lock goes with its process: ours follows as soon as it can.
+      if (playing_ && !held_) held_ = drive_.lock();
+      const bool ended = playing_ && player_.state() == PlayState::Stopped;
+      const bool forgotten = !playing_ && std::chrono::steady_clock::now() - started_ > kOrphan;
+      over_ = over_ || ended || forgotten;
+    }
+    return 0;
+  }
+
+ private:
+  void answer(const SocketServer::Request& request) {
+    if (request.line == "ready") {
+      SocketServer::reply(request, player_.toc().count() > 0 ? "ok" : "wait");
+    } else if (request.line.rfind("play ", 0) == 0) {
+      const auto stretch = stretchOf(request.line.substr(5));
+      const Toc toc = player_.toc();
+      const bool good = stretch && toc.count() > 0 && stretch->from >= kFirstFrame && stretch->from < stretch->to && stretch->to <= toc.leadOut;
+      if (good) {
+        player_.play(stretch->from, stretch->to);
+        to_ = stretch->to;
+        playing_ = true;
+      }
+      SocketServer::reply(request, good ? "ok" : "no");
+    } else if (request.line == "take" && playing_) {
+      const Stretch rest{player_.frame(), to_};
+      player_.stop();
+      SocketServer::reply(request, playWords(rest));
+      over_ = true;
+    } else {
+      SocketServer::reply(request, "no");
+    }
+  }
+
+  DiscSource& drive_;
+  SharedDrive shared_;
+  Player player_;
+  SocketServer server_;
+  std::chrono::steady_clock::time_point started_ = std::chrono::steady_clock::now();
+  int to_ = 0;
+  bool playing_ = false;
+  bool held_ = false;
+  bool over_ = false;
+};
+
+int run(int argc, char** argv) {
+  if (argc != 4) {
+    std::fprintf(stderr, "orvplayon is started by the deck.\n");
+    return 2;
+  }
+  const std::string path = argv[1];
+  std::unique_ptr<DiscSource> drive;
+  if (isDevice(path)) {
+    drive = std::make_unique<CdromDrive>(kernelCdrom(path));
+  } else {
+    drive = std::make_unique<ImageDrive>(path, "", argv[2]);
+  }
+  const Sound sound = makeSound(argv[3]);
+  return PlayOn(*drive, *sound.outputs, path).run();
+}
+
+}  // namespace
+}  // namespace orvanta
+
+int main(int argc, char** argv) { return orvanta::run(argc, argv); }

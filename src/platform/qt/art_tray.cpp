@@ -1,0 +1,95 @@
+// The disc tray, half out and open: one picture in window coordinates, of which each panel shows its
+// own slice. Points are design pixels at 15 twips.
+#include <QPainterPath>
+#include <QPolygonF>
+
+#include <algorithm>
+#include <cmath>
+
+#include "platform/qt/art_tools.h"
+
+namespace orvanta {
+
+namespace {
+
+struct TrayShape {
+  QPolygonF bed;
+  QRectF front;
+  QPointF disc;
+  QSizeF radius;
+  double backTop;
+};
+
+TrayShape shapeOf(bool half) {
+  if (half) {
+    return {QPolygonF({{108, 36}, {292, 36}, {303, 60}, {313.5, 70}, {86.5, 70}, {97, 60}}), QRectF(85.5, 69, 229, 37), {200, 47}, {86, 24}, 36};
+  }
+  return {QPolygonF({{107, 40}, {293, 40}, {302, 62}, {318.5, 99}, {82, 99}, {98, 62}}), QRectF(81, 98, 238.5, 35.5), {200, 69.5}, {88, 24.5}, 40};
+}
+
+/// The rainbow of a disc that lies flat: twelve pastel spokes, twice round.
+QConicalGradient spokes(QPointF centre) {
+  static const QRgb kHues[] = {0xE4E8EB, 0xB9C0C6, 0x8F979F, 0xA9B7C4, 0xBFD3DA, 0xC4DDB9, 0xE0D9A6, 0xD9B7A8, 0xB8A9CB, 0x9FB2D0, 0xA7AEB5, 0xD6DADE};
+  QConicalGradient gradient(centre, 0);
+  for (int i = 0; i <= 24; ++i) gradient.setColorAt(i / 24.0, QColor(kHues[i % 12]));
+  return gradient;
+}
+
+void disc(QPainter& p, const TrayShape& shape) {
+  const auto ring = [&](double part, const QBrush& brush, const QPen& pen = Qt::NoPen) {
+    p.setPen(pen);
+    p.setBrush(brush);
+    p.drawEllipse(QPointF(0, 0), 1.0 * part, 1.0 * part);
+  };
+  p.save();
+  p.setClipPath([&] {
+    QPainterPath path;
+    path.addPolygon(shape.bed);
+    return path;
+  }());
+  p.translate(shape.disc);
+  p.scale(shape.radius.width(), shape.radius.height());
+  ring(1.06, QColor(8, 9, 10));
+  ring(1, spokes({0, 0}));
+  ring(1, blend({0, -1}, {0, 1}, {{0, alpha(Qt::black, .45)}, {.45, alpha(Qt::black, .05)}, {1, alpha(Qt::white, .12)}}));
+  for (const double part : {.97, .8, .62}) ring(part, Qt::NoBrush, QPen(alpha(Qt::white, .16), .008));
+  ring(.34, QColor(0xC9, 0xCE, 0xD2));
+  ring(.22, QColor(0x7C, 0x84, 0x8B));
+  ring(.125, QColor(0x0B, 0x0C, 0x0E), QPen(alpha(QColor(0xE8, 0xEC, 0xEF), .6), .01));
+  p.restore();
+}
+
+}  // namespace
+
+void paintTray(Art& art, bool half) {
+  const TrayShape shape = shapeOf(half);
+  QPainter& p = art.painter;
+  p.save();
+  p.setClipRect(QRectF(0, 0, art.w, art.h));
+  p.translate(-art.windowX, -art.windowY);
+  p.scale(art.k, art.k);
+  QPainterPath bed;
+  bed.addPolygon(shape.bed);
+  bed.closeSubpath();
+  fill(p, shape.front.adjusted(2, 2, 2, 5), alpha(Qt::black, .5), 3);
+  p.setPen(QPen(QColor(0x4A, 0x4F, 0x56), .7));
+  p.setBrush(blend({0, shape.backTop}, {0, shape.front.top()}, {{0, QColor(6, 7, 8)}, {.35, QColor(0x15, 0x18, 0x1B)}, {1, QColor(0x2C, 0x30, 0x35)}}));
+  p.drawPath(bed);
+  disc(p, shape);
+  // Darkness of the recess over the tray's back.
+  p.save();
+  p.setClipPath(bed);
+  fill(p, QRectF(60, shape.backTop, 280, 16), blend({0, shape.backTop}, {0, shape.backTop + 16}, {{0, alpha(Qt::black, .85)}, {1, alpha(Qt::black, 0)}}));
+  p.restore();
+  const QRectF& front = shape.front;
+  fill(p, QRectF(front.left() + 1.4, front.top() - 2.4, front.width() - 2.8, 2.4), QColor(0x70, 0x77, 0x7E));
+  metal(p, front, QColor(0x33, 0x37, 0x3D), 2.2, .4, art.factor * art.k);
+  edge(p, front, 2.2, .7, .9, 1);
+  const QRectF cut(front.left() + 9, front.bottom() - 8, front.width() - 18, 3);
+  fill(p, cut, blend(cut.topLeft(), cut.bottomLeft(), {{0, QColor(5, 6, 7)}, {1, QColor(0x2A, 0x2D, 0x31)}}), 1.5);
+  p.restore();
+  const QRectF legend((front.left() + 14) * art.k - art.windowX, (front.top() + 5) * art.k - art.windowY, 160 * art.k, 12 * art.k);
+  engraved(art, legend, {"Small Fonts", 7.5, true}, "COMPACT DISC", QColor(0xB9, 0xBE, 0xC4), {forms::Align::Left, 2.2 * art.k});
+}
+
+}  // namespace orvanta

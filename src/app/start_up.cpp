@@ -104,6 +104,10 @@ void StartUp::readSettingsFiles() {
   for (const auto file : {SettingsFile::Orvwin1, SettingsFile::Orvwin7, SettingsFile::SettingsDat, SettingsFile::Orvwin3, SettingsFile::Orvwin4}) {
     readSettings(file, ports_.files, folder, settings);
   }
+  // A mixer beside the programs, or in their subfolder, serves where none was chosen.
+  std::string mixer = joinPath(state_.process.windowsDir, "sndvol32.exe");
+  if (!ports_.files.exists(mixer)) mixer = joinPath(state_.process.windowsDir, "system32/sndvol32.exe");
+  if (settings.mixerPath.empty() && ports_.files.exists(mixer)) settings.mixerPath = mixer;
 }
 
 void StartUp::takeWord(const std::string& line) {

@@ -12,13 +12,17 @@ Orvanta::Orvanta(Ports& ports)
     : ports_(ports),
       layer_(ports.device, ports.dialogs, state.disc),
       discLoad_(ports.device, layer_, ports.files, ports.screen, display_, form, state, *this),
-      engine_(ports.device, ports.files, ports.screen, display_, form, state, *this),
-      buttons_(ports.device, ports.clock, engine_, form, state, *this),
-      clock_(ports, layer_, discLoad_, engine_, buttons_, display_, form, state, *this),
+      engine_(ports, display_, form, state, *this),
+      modes_(ports, engine_, display_, form, state, *this),
+      buttons_(engine_, modes_, display_, form, state, *this),
+      clock_(ports, layer_, discLoad_, engine_, modes_, buttons_, display_, form, state, *this),
+      position_(ports.files, ports.screen, form, state),
+      records_(ports.files, state.disc, state.settings, state.program),
       drawer_(ports.clock, ports.files, ports.screen, engine_, form, state, *this),
       exit_(ports, engine_, form, state),
       restart_(ports, state),
-      faceplate_(ports, discLoad_, layer_, engine_, clock_, buttons_, colours_, form, state, *this) {
+      record_(ports, position_, form, state),
+      faceplate_(ports, discLoad_, layer_, engine_, modes_, clock_, buttons_, colours_, position_, form, state, *this) {
   form.setEvents(&faceplate_);
 }
 
@@ -27,6 +31,13 @@ void Orvanta::startUp(const HostOptions& options) { startUp_.run(options); }
 void Orvanta::showFaceplate() {
   form.smallFonts = state.process.smallFonts == kOn;
   form.show(ports_.desktop);
+}
+
+bool Orvanta::readCdRecord(const std::string& /*cdFilePath*/) {
+  records_.readCdRecord();
+  // A record that knows fewer tracks than the drive takes the drive's count.
+  if (leadingNumber(state.disc.discInfo[2]) < state.disc.trackCount) state.disc.discInfo[2] = std::to_string(state.disc.trackCount);
+  return true;
 }
 
 void Orvanta::runSetup() {

@@ -2,10 +2,12 @@
 #pragma once
 
 #include "app/exit.h"
+#include "app/record.h"
 #include "app/restart.h"
 #include "app/start_up.h"
 #include "faceplate/drawer.h"
 #include "faceplate/faceplate.h"
+#include "library/cd_records.h"
 #include "platform/ports/ports.h"
 #include "playback/upward.h"
 
@@ -30,12 +32,23 @@ class Orvanta : private PlaybackUpward {
   void showNoDisc() override { colours_.disabledLook(); }
   void restartForDisc() override { restart_.forDisc(); }
   void runSetup() override;
+  void record() override { record_.run(); }
+  bool readCdRecord(const std::string& cdFilePath) override;
+  int16_t readTimeCorrection() override { return records_.readTimeCorrection(); }
+  std::optional<std::vector<int>> readProgram() override { return records_.readProgram(); }
+
+  // Windows and programs that are still to come aboard; their keys do nothing yet.
   void runMixer() override {}
-  void record() override {}
+  void muteKey() override {}
+  void volumeKey(bool /*up*/) override {}
+  void showHelp(int /*topic*/) override {}
+  void showMenu() override {}
+  void showCdData() override {}
+  void showPlaylist() override {}
+  void showTrackList() override {}
+  void launchEnhancedDisc() override {}
   void closeDiscWindows() override {}
   void automaticLookup() override {}
-  /// The library is not aboard yet: a disc has no texts.
-  bool readCdRecord(const std::string& /*cdFilePath*/) override { return false; }
 
   Ports& ports_;
   StartUp startUp_{ports_, state};
@@ -43,12 +56,16 @@ class Orvanta : private PlaybackUpward {
   DeviceLayer layer_;
   DiscLoad discLoad_;
   Engine engine_;
+  Modes modes_;
   Buttons buttons_;
   PlaybackClock clock_;
   DisplayColours colours_{form, state};
+  Position position_;
+  CdRecords records_;
   Drawer drawer_;
   Exit exit_;
   Restart restart_;
+  RecorderLaunch record_;
   Faceplate faceplate_;
 };
 

@@ -44,6 +44,18 @@ uint32_t next(std::string_view& text) {
   return good ? c : kBroken;
 }
 
+/// The page's byte for a character; -1 when it has none.
+int pageByte(uint32_t c) {
+  if (c < 0x80 || (c >= 0xA0 && c < 0x100)) return static_cast<int>(c);
+  const auto* found = c == kBroken ? kHigh.end() : std::find(kHigh.begin(), kHigh.end(), c);
+  return found == kHigh.end() ? -1 : static_cast<int>(0x80 + (found - kHigh.begin()));
+}
+
+/// U+0100 to U+017F without their marks.
+constexpr std::string_view kPlainLatin =
+    "AaAaAaCcCcCcCcDdDdEeEeEeEeEeGgGgGgGgHhHhIiIiIiIiIiIiJjKkkLlLlLlLlLlNnNnNnnNnOoOoOoOoRrRrRrSsSsSsSsTtTtTtUuUuUuUuUuUuWwYyYZzZzZzs";
+static_assert(kPlainLatin.size() == 128);
+
 }  // namespace
 
 bool isUtf8(std::string_view bytes) {
@@ -68,14 +80,17 @@ std::string toWindows1252(std::string_view text) {
   std::string bytes;
   while (!text.empty()) {
     const uint32_t c = next(text);
-    if (c < 0x80 || (c >= 0xA0 && c < 0x100)) {
-      bytes += static_cast<char>(c);
-    } else {
-      const auto* found = c == kBroken ? kHigh.end() : std::find(kHigh.begin(), kHigh.end(), c);
-      bytes += found == kHigh.end() ? '?' : static_cast<char>(0x80 + (found - kHigh.begin()));
-    }
+    const int byte = pageByte(c);
+    bytes += byte >= 0 ? static_cast<char>(byte) : c >= 0x100 && c < 0x180 ? kPlainLatin[c - 0x100] : '?';
   }
   return bytes;
+}
+
+bool fitsWindows1252(std::string_view text) {
+  while (!text.empty()) {
+    if (pageByte(next(text)) < 0) return false;
+  }
+  return true;
 }
 
 }  // namespace orvanta

@@ -11,7 +11,11 @@ bool isUtf8(std::string_view bytes);
 /// UTF-8 from Windows-1252; the five bytes that the page leaves open become U+FFFD.
 std::string fromWindows1252(std::string_view bytes);
 
-/// Windows-1252 from UTF-8; what the page lacks, and broken UTF-8, becomes "?".
+/// Windows-1252 from UTF-8. Latin letters that the page lacks lose their marks; all else that it
+/// lacks, and broken UTF-8, becomes "?".
 std::string toWindows1252(std::string_view text);
+
+/// True when toWindows1252() keeps every character.
+bool fitsWindows1252(std::string_view text);
 
 }  // namespace orvanta

@@ -53,6 +53,37 @@ std::string padded(long value, int digits) {
   return value < 0 ? "-" + text : text;
 }
 
+std::string_view firstCharacters(std::string_view text, size_t count) {
+  size_t at = 0;
+  for (; at < text.size(); ++at) {
+    const bool startsOne = (static_cast<unsigned char>(text[at]) & 0xC0U) != 0x80U;
+    if (startsOne && count-- == 0) break;
+  }
+  return text.substr(0, at);
+}
+
+std::vector<std::string> splitCommand(std::string_view command, bool wholeExists) {
+  if (wholeExists) return {std::string(command)};
+  std::vector<std::string> arguments;
+  std::string word;
+  bool quoted = false;
+  bool any = false;
+  for (const char c : std::string(command) + " ") {
+    if (c == '"') {
+      quoted = !quoted;
+      any = true;
+    } else if (c == ' ' && !quoted) {
+      if (any) arguments.push_back(word);
+      word.clear();
+      any = false;
+    } else {
+      word += c;
+      any = true;
+    }
+  }
+  return arguments;
+}
+
 std::vector<std::string> splitLines(std::string_view text) {
   std::vector<std::string> lines;
   while (!text.empty()) {

@@ -24,6 +24,13 @@ double leadingNumber(std::string_view text);
 /// `digits` places at least, zero-padded. Negative values keep their sign before the padding.
 std::string padded(long value, int digits);
 
+/// The first `count` characters of UTF-8 text; never half a character.
+std::string_view firstCharacters(std::string_view text, size_t count);
+
+/// The arguments of a stored command line: one program if a file of that whole name exists
+/// (`wholeExists`), else split at blanks outside double quotes. Nothing is expanded.
+std::vector<std::string> splitCommand(std::string_view command, bool wholeExists);
+
 std::vector<std::string> splitLines(std::string_view text);
 
 /// `folder` and `name` with one "/" between them; `name` alone when `folder` is empty.

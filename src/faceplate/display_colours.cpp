@@ -81,7 +81,9 @@ void DisplayColours::loadorvanta1a() {
     form_.Label44.foreColor = colours::kGrey;
   }
   form_.Label22[20].foreColor = colour[more ? kLcdLit : kLcdDim];
-  form_.Label30.foreColor = colour[kLcdLabelOff];
+  const bool program = state_.program.pgmStored == kOn;
+  form_.Label30.foreColor = colour[program ? kLcdLabelOn : kLcdLabelOff];
+  form_.Label40.foreColor = program ? colours::kBlack : colours::kGrey;
 }
 
 void DisplayColours::disabledLook() {

@@ -14,8 +14,8 @@
 
 namespace orvanta {
 
-Faceplate::Faceplate(Ports& ports, DiscLoad& discLoad, DeviceLayer& layer, Engine& engine, PlaybackClock& clock, Buttons& buttons,
-                     DisplayColours& colours, CDForm& form, SharedState& state, PlaybackUpward& upward)
+Faceplate::Faceplate(Ports& ports, DiscLoad& discLoad, DeviceLayer& layer, Engine& engine, Modes& modes, PlaybackClock& clock,
+                     Buttons& buttons, DisplayColours& colours, Position& position, CDForm& form, SharedState& state, PlaybackUpward& upward)
     : device_(ports.device),
       tray_(ports.tray),
       dialogs_(ports.dialogs),
@@ -24,9 +24,11 @@ Faceplate::Faceplate(Ports& ports, DiscLoad& discLoad, DeviceLayer& layer, Engin
       discLoad_(discLoad),
       layer_(layer),
       engine_(engine),
+      modes_(modes),
       clock_(clock),
       buttons_(buttons),
       colours_(colours),
+      position_(position),
       form_(form),
       state_(state),
       upward_(upward) {}
@@ -37,14 +39,18 @@ void Faceplate::load() {
   files_.write(joinPath(state_.settings.appDir, "audiocd.tmp"), "\"0\"\r\n");
   state_.clearForLoad();
   colours_.loadorvanta1();
-  form_.left = std::max(0, (screen_.widthTwips() - form_.width) / 2);
-  form_.top = std::max(0, (screen_.heightTwips() - form_.height) / 2);
+  position_.posfp1();
   if (state_.process.colourCount < 257) {
     form_.Panel3D2.backColor = form_.Panel3D3.backColor = 0x400000;
     form_.backColor = 0x400000;
   }
   const bool disc = discLoad_.probe();
   setPlayState();
+  if (disc) {
+    const auto program = upward_.readProgram();
+    state_.program.pgmStored = program && !program->empty() && program->front() >= 1 ? kOn : kOff;
+    state_.disc.timeCorrection = upward_.readTimeCorrection();
+  }
   colours_.loadorvanta1a();
   if (disc && device_.mode() == DeviceMode::Playing) {
     discLoad_.deferredTable();
@@ -99,22 +105,65 @@ void Faceplate::mouseDown(forms::Control* control, const forms::Mouse& mouse) {
     const auto key = static_cast<size_t>(control->index());
     keyTaken_ = buttons_.accepts(key);
     if (keyTaken_) buttons_.icntla_MouseDown(key);
+  } else if (control->name() == "scntla") {
+    buttons_.scntla_MouseDown(static_cast<size_t>(control->index()));
   }
 }
 
 void Faceplate::mouseUp(forms::Control* control, const forms::Mouse& mouse) {
-  if (control == nullptr || mouse.button != forms::MouseButton::Left) return;
-  if (control->name() == "icntla") {
-    if (keyTaken_) buttons_.icntla_MouseUp(static_cast<size_t>(control->index()));
+  if (control == nullptr) return;
+  if (mouse.button == forms::MouseButton::Right) {
+    rightReleased(*control);
+  } else {
+    released(control->name(), static_cast<size_t>(std::max(control->index(), 0)), mouse);
+  }
+}
+
+void Faceplate::released(const std::string& name, size_t index, const forms::Mouse& mouse) {
+  if (name == "icntla") {
+    if (keyTaken_) buttons_.icntla_MouseUp(index);
     keyTaken_ = false;
-  } else if (control == &form_.Panel3D2) {
+  } else if (name == "scntla") {
+    buttons_.scntla_MouseUp(index);
+  } else if (name == "Image17") {
+    buttons_.Image17_MouseUp(index);
+  } else if (name == "Image16") {
+    buttons_.Image16_MouseUp(index);
+  } else if (name == "Image4") {
+    modes_.Image4_MouseUp(index);
+    // A person who picks Pgm wants to make a program.
+    if (index == PgmKey && state_.disc.noDiscState == 0 && state_.disc.drawerOpen == kOff) upward_.showPlaylist();
+  } else if (name == "Image10") {
+    if (index == 1) upward_.showCdData();
+    if (index == 2) upward_.showPlaylist();
+  } else if (name == "Label6") {
+    modes_.nextMode();
+  } else if (name == "Label9") {
+    buttons_.Label9_Click();
+  } else if (name == "Label30") {
+    modes_.Label30_Click();
+  } else if (name == "Label14" || name == "Image12") {
+    upward_.launchEnhancedDisc();
+  } else if (name == "CDStatusBar") {
+    buttons_.CDStatusBar_Click(mouse.x);
+  } else if (name == "Panel3D2") {
     if (state_.disc.drawerOpen != kOn && state_.disc.noDiscState == 0) engine_.mmcontrol1_EjectClick();
-  } else if (control == &form_.Panel3D7 || control == &form_.Panel3D9 || control == &form_.Panel3D10) {
+  } else if (name == "Panel3D7" || name == "Panel3D9" || name == "Panel3D10") {
     askForDisc();
-  } else if (control == &form_.Image5 || control == &form_.Image6) {
+  } else if (name == "Image5" || name == "Image6") {
     upward_.exitProgram();
   }
 }
+
+void Faceplate::rightReleased(const forms::Control& control) {
+  if (&control == &form_.Image10[2] && state_.program.pgmStored == kOn) modes_.Label30_Click();
+}
+
+void Faceplate::doubleClick(forms::Control* control) {
+  if (control == nullptr || control == &form_.Image8) position_.Form_DblClick();
+}
+
+void Faceplate::dragged() { position_.saveposn1(); }
 
 /// A click on the open tray: a real one is pushed shut, the tray of images asks which one to take.
 void Faceplate::askForDisc() {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "faceplate/display_colours.h"
+#include "faceplate/position.h"
 #include "platform/forms/form.h"
 #include "playback/buttons.h"
 #include "playback/clock.h"
@@ -10,20 +11,24 @@ namespace orvanta {
 
 class Faceplate : public forms::FormEvents {
  public:
-  Faceplate(Ports& ports, DiscLoad& discLoad, DeviceLayer& layer, Engine& engine, PlaybackClock& clock, Buttons& buttons, DisplayColours& colours,
-            CDForm& form, SharedState& state, PlaybackUpward& upward);
+  Faceplate(Ports& ports, DiscLoad& discLoad, DeviceLayer& layer, Engine& engine, Modes& modes, PlaybackClock& clock, Buttons& buttons,
+            DisplayColours& colours, Position& position, CDForm& form, SharedState& state, PlaybackUpward& upward);
 
   void load() override;
   void activate() override;
   void unload() override;
   void mouseDown(forms::Control* control, const forms::Mouse& mouse) override;
   void mouseUp(forms::Control* control, const forms::Mouse& mouse) override;
+  void doubleClick(forms::Control* control) override;
+  void dragged() override;
   bool keyDown(const forms::KeyPress& key) override;
   void fileDropped(const std::string& path) override;
   void closeAsked() override;
 
  private:
   void setPlayState();
+  void released(const std::string& name, size_t index, const forms::Mouse& mouse);
+  void rightReleased(const forms::Control& control);
   void playTrackOfCommandLine();
   void askForDisc();
 
@@ -35,9 +40,11 @@ class Faceplate : public forms::FormEvents {
   DiscLoad& discLoad_;
   DeviceLayer& layer_;
   Engine& engine_;
+  Modes& modes_;
   PlaybackClock& clock_;
   Buttons& buttons_;
   DisplayColours& colours_;
+  Position& position_;
   CDForm& form_;
   SharedState& state_;
   PlaybackUpward& upward_;

@@ -1,8 +1,7 @@
-// Presses and releases of the transport row, and the keys that stand for them.
+// Presses and releases of the faceplate's keys, and the keyboard's that stand for them.
 #include "playback/buttons.h"
 
-#include "platform/ports/cd_device.h"
-#include "platform/ports/clock.h"
+#include "base/text.h"
 #include "playback/upward.h"
 
 namespace orvanta {
@@ -12,16 +11,20 @@ namespace {
 /// Where the pressed plateau lies on a face, and how far a pressed face goes right and down.
 constexpr int kPlateauLeft = 54;
 constexpr int kPlateauTop = 70;
+constexpr int kHelpTopic = 15;
 
 int pressDepth(const SharedState& state) { return state.process.smallFonts == kOn ? 10 : 12; }
 
 }  // namespace
 
+// ---- transport row
+
 bool Buttons::accepts(size_t key) const { return !form_.icntlb[key].visible && !form_.icntlc[key].visible; }
 
 void Buttons::icntla_MouseDown(size_t key) {
-  if (state_.disc.noDiscState > 0 || state_.disc.drawerOpen == kOn || state_.settings.smallFaceplate == kOn) return;
-  if (!accepts(key)) return;
+  if (asleep()) return;
+  modes_.stopintro();
+  if (state_.settings.smallFaceplate == kOn || !accepts(key)) return;
   auto& face = form_.icntla[key];
   const int depth = pressDepth(state_);
   face.move(face.left + depth, face.top + depth);
@@ -31,7 +34,7 @@ void Buttons::icntla_MouseDown(size_t key) {
 }
 
 void Buttons::icntla_MouseUp(size_t key) {
-  if (state_.disc.noDiscState > 0 || state_.disc.drawerOpen == kOn) return;
+  if (asleep()) return;
   if (down_) {
     const int depth = pressDepth(state_);
     down_ = false;
@@ -39,40 +42,110 @@ void Buttons::icntla_MouseUp(size_t key) {
     form_.icntla[key].move(form_.icntla[key].left - depth, form_.icntla[key].top - depth);
   }
   switch (key) {
-    case Play: playKey(); break;
-    case Pause: pauseKey(); break;
-    case Stop: stopKey(); break;
-    case Record: upward_.record(); break;
-    default: break;
+    case Previous: engine_.previousKey(); break;
+    case Next: engine_.nextKey(); break;
+    case Play: engine_.playKey(); break;
+    case Pause: engine_.pauseKey(); break;
+    case Stop: engine_.stopKey(); break;
+    default: upward_.record(); break;
   }
 }
 
-void Buttons::playKey() {
-  form_.icntlc[Play].visible = true;
-  engine_.MMControl1_PlayClick();
-  device_.command("Play");
-  engine_.playingLook();
+// ---- scan row
+
+void Buttons::scntla_MouseDown(size_t key) {
+  if (asleep() || (key != ScanBack && key != ScanForward)) return;
+  if (state_.transport.playingFlag != kOn || form_.scntlb[key].visible) return;
+  form_.scntlc[key].visible = true;
+  state_.transport.scanCount = static_cast<int16_t>(key == ScanForward ? 1 : -1);
 }
 
-void Buttons::pauseKey() {
-  engine_.pausedLook();
-  engine_.MMControl1_PauseClick();
-  device_.command("Pause");
+void Buttons::scntla_MouseUp(size_t key) {
+  // A scan ends with its key, whatever has become of the disc meanwhile.
+  if (key == ScanBack || key == ScanForward) {
+    form_.scntlc[key].visible = false;
+    state_.transport.scanCount = 0;
+  }
+  if (asleep()) return;
+  if (key == TimeKey) timeMode();
+  if (key == AbKey) modes_.abKey();
 }
 
-void Buttons::stopKey() {
-  engine_.stoppedLook();
-  engine_.MMControl1_StopClick();
-  device_.command("Stop");
-  form_.icntlb[Stop].visible = false;
-  form_.icntlc[Stop].visible = true;
-  form_.icntlc[Stop].refresh();
-  clock_.delaySeconds(0.3);
-  form_.icntlc[Stop].visible = false;
-  form_.icntlb[Stop].visible = true;
+void Buttons::timeMode() {
+  if (form_.icntlc[Pause].visible) return;
+  state_.display.lastShownTrack = state_.display.lastShownSec = 0;
+  int16_t& mode = state_.settings.timeMode;
+  mode = static_cast<int16_t>(mode < Time || mode >= TotRem ? Time : mode + 1);
+  display_.showTimeModeLabel();
+  form_.Label24.foreColor = colours::kBlack;
 }
 
-void Buttons::pressed(TransportKey key) {
+void Buttons::Label9_Click() {
+  if (!asleep()) timeMode();
+}
+
+void Buttons::CDStatusBar_Click(int x) { engine_.CDStatusBar_Click(x); }
+
+// ---- number and small keys
+
+void Buttons::Image17_MouseUp(size_t key) {
+  if (asleep() || form_.Label34[key].foreColor == colours::kGrey) return;
+  modes_.stopintro();
+  state_.transport.selTrack = static_cast<int16_t>(key);
+  engine_.clrab();
+  engine_.jump();
+}
+
+void Buttons::Image16_MouseUp(size_t key) {
+  switch (key) {
+    case Above20:
+      if (asleep() || form_.Label44.foreColor == colours::kGrey) return;
+      form_.Image16[Above20].visible = form_.Label44.visible = false;
+      form_.Text1.caption = "";
+      form_.Text1.visible = true;
+      form_.setFocus(form_.Text1);
+      break;
+    case Shuffle: modes_.shuffle(); break;
+    case Repeat: modes_.repeatKey(); break;
+    case Rip: pressed(Record); break;
+    default:
+      if (form_.Image16[Info].enabled) upward_.showTrackList();
+      break;
+  }
+}
+
+void Buttons::closeEntry() {
+  form_.Text1.visible = false;
+  form_.Text1.caption = "";
+  form_.Image16[Above20].visible = form_.Label44.visible = true;
+}
+
+/// While the entry for a track above 20 is open, it takes the keys.
+bool Buttons::entryKey(const forms::KeyPress& key) {
+  const std::string text = form_.Text1.caption;
+  if (key.code >= '0' && key.code <= '9' && text.size() < 2) {
+    form_.Text1.caption = text + static_cast<char>(key.code);
+  } else if (key.code == forms::key::kBackspace) {
+    form_.Text1.caption = text.substr(0, text.empty() ? 0 : text.size() - 1);
+  } else if (key.code == forms::key::kEscape) {
+    closeEntry();
+  } else if (key.code == forms::key::kEnter) {
+    const int track = static_cast<int>(leadingNumber(text));
+    closeEntry();
+    if (asleep() || track < 21 || track > state_.disc.trackCount) return true;
+    modes_.stopintro();
+    state_.transport.selTrack = static_cast<int16_t>(track - 1);
+    engine_.jump();
+    for (size_t lamp = 0; lamp < 20 && state_.settings.repeatOn == kOff; ++lamp) {
+      form_.Label22[lamp].foreColor = state_.settings.lcdColor[kLcdDim];
+    }
+  }
+  return true;
+}
+
+// ---- keyboard
+
+void Buttons::pressed(size_t key) {
   if (!accepts(key)) return;
   icntla_MouseDown(key);
   icntla_MouseUp(key);
@@ -80,15 +153,43 @@ void Buttons::pressed(TransportKey key) {
 
 bool Buttons::keyDown(const forms::KeyPress& key) {
   if (key.control || key.alt) return false;
-  switch (key.code) {
-    case forms::key::kEscape: upward_.exitProgram(); return true;
-    case 'D': pressed(Play); return true;
-    case 'F': pressed(Pause); return true;
-    case 'G': pressed(Stop); return true;
-    case 'H': pressed(Record); return true;
-    case 'J': engine_.mmcontrol1_EjectClick(); return true;
+  if (form_.Text1.visible) return entryKey(key);
+  return transportKey(key.code) || otherKey(key.code);
+}
+
+bool Buttons::transportKey(int code) {
+  static constexpr std::string_view kKeys = "ASDFGH";
+  static constexpr TransportKey kStandFor[] = {Previous, Next, Play, Pause, Stop, Record};
+  const auto at = code > 0 && code < 128 ? kKeys.find(static_cast<char>(code)) : std::string_view::npos;
+  if (at == std::string_view::npos) return false;
+  pressed(kStandFor[at]);
+  return true;
+}
+
+bool Buttons::otherKey(int code) {
+  using namespace forms::key;  // NOLINT(google-build-using-namespace): the table below reads as one
+  switch (code) {
+    case kEscape: upward_.exitProgram(); break;
+    case kF1:
+    case kHelp: upward_.showHelp(kHelpTopic); break;
+    case kF1 + 1: upward_.showMenu(); break;
+    case kF1 + 3: upward_.muteKey(); break;
+    case kF1 + 4: upward_.volumeKey(true); break;
+    case kF1 + 5: upward_.volumeKey(false); break;
+    case kF1 + 6: upward_.showPlaylist(); break;
+    case 'J': engine_.mmcontrol1_EjectClick(); break;
+    case 'L': upward_.showCdData(); break;
+    case 'M': upward_.runMixer(); break;
+    case 'N': upward_.launchEnhancedDisc(); break;
+    case 'R': modes_.repeatKey(); break;
+    case 'E': modes_.shuffle(); break;
+    case 'T': scntla_MouseUp(TimeKey); break;
+    case 'W': scntla_MouseUp(AbKey); break;
+    case 'Y': modes_.nextMode(); break;
+    case 'I': Image16_MouseUp(Info); break;
     default: return false;
   }
+  return true;
 }
 
 }  // namespace orvanta

@@ -13,8 +13,8 @@
 
 namespace orvanta {
 
-PlaybackClock::PlaybackClock(Ports& ports, DeviceLayer& layer, DiscLoad& load, Engine& engine, Buttons& buttons, TimeDisplay& display,
-                             CDForm& form, SharedState& state, PlaybackUpward& upward)
+PlaybackClock::PlaybackClock(Ports& ports, DeviceLayer& layer, DiscLoad& load, Engine& engine, Modes& modes, Buttons& buttons,
+                             TimeDisplay& display, CDForm& form, SharedState& state, PlaybackUpward& upward)
     : device_(ports.device),
       clock_(ports.clock),
       tray_(ports.tray),
@@ -23,6 +23,7 @@ PlaybackClock::PlaybackClock(Ports& ports, DeviceLayer& layer, DiscLoad& load, E
       layer_(layer),
       load_(load),
       engine_(engine),
+      modes_(modes),
       buttons_(buttons),
       display_(display),
       form_(form),
@@ -34,6 +35,7 @@ PlaybackClock::PlaybackClock(Ports& ports, DeviceLayer& layer, DiscLoad& load, E
 void PlaybackClock::start() {
   timer2_ = clock_.makeTimer([this] { timer2_timer(); });
   timer2_->setInterval(kTimer2Interval);
+  engine_.setTimer2(timer2_.get());
   timer3_ = clock_.makeTimer([this] { timer3_timer(); });
   timer3_->setInterval(kTimer3Interval);
 }
@@ -45,8 +47,10 @@ void PlaybackClock::statusUpdate() {
     display_.updateHeader(1, "Rewinding");
     device_.setFrom(1);
     // Still marked as playing: the disc has run out under us.
-    if (state_.transport.playingFlag == kOn && state_.transport.playMode == Cont) {
-      if (state_.settings.repeatOn == kOn) {
+    if (state_.transport.playingFlag == kOn) {
+      if (state_.transport.playMode != Cont) {
+        state_.transport.trackGo = 0;
+      } else if (state_.settings.repeatOn == kOn) {
         restart();
       } else {
         endOfDisc();
@@ -81,7 +85,12 @@ void PlaybackClock::updateTrackTime(int16_t track, std::string_view timeText) {
   // that is track 20.
   if (transport.playMode == Cont && transport.curTrack == disc.lampCount) display.nearEndSec += 4;
   display_.updateTime(timeText);
-  if (transport.playMode == Cont && display.elapsedSec >= display.nearEndSec) advanceInCont();
+  if (transport.playMode == Cont) {
+    if (display.elapsedSec >= display.nearEndSec) advanceInCont();
+  } else if (display.elapsedSec >= display.nearEndSec + 2 + disc.timeCorrection || track > transport.curTrack) {
+    // With a large correction the device runs on into the next track first; that is the end as well.
+    transport.trackGo = 0;
+  }
 }
 
 void PlaybackClock::advanceInCont() {
@@ -148,6 +157,8 @@ void PlaybackClock::timer2_timer() {
   TransportState& transport = state_.transport;
   answerOffer();
   if (disc.noDiscState > 0 || disc.drawerOpen == kOn) return;
+  if (transport.scanCount != 0) scanStep();
+  modes_.abTick();
   if (leadingNumber(form_.Label8.caption.get()) < 1) form_.Label13.caption = "";
   if (transport.curTrack <= 0 && (transport.playingFlag == kOn || transport.pausedFlag == kOn)) {
     transport.playingFlag = transport.pausedFlag = kOff;
@@ -163,9 +174,57 @@ void PlaybackClock::timer2_timer() {
     pastTheEnd();
     return;
   }
-  if (transport.playMode == Cont) lampsInCont();
+  endActions();
+  modes_.lampTick();
   if (disc.discStarted == kOff || state_.display.elapsedSec > 2) return;
   startOfNewTrack();
+}
+
+/// One step of a held scan key: the longer it is held, the wider. At either end of the track it stops.
+void PlaybackClock::scanStep() {
+  TransportState& transport = state_.transport;
+  int16_t& count = transport.scanCount;
+  count = static_cast<int16_t>(count > 0 ? count + 1 : count - 1);
+  const int step = count > 0 ? (count < 8 ? 2 : count <= 12 ? 6 : 10) : (count >= -6 ? -4 : count >= -10 ? -8 : -12);
+  const int percent = form_.CDStatusBar.floodPercent + step;
+  if (percent <= 0 || percent >= 100 || transport.curTrack < 1 || transport.curTrack > 100) {
+    count = 0;
+    return;
+  }
+  state_.display.lastShownTrack = state_.display.lastShownSec = 0;
+  engine_.seekFraction(state_.disc.trackLengths[static_cast<size_t>(transport.curTrack)], form_.CDStatusBar.width * percent / 100.0);
+  updateTrackTime(layer_.currentDeviceTrack(), layer_.currentTimeText());
+}
+
+/// What follows the end of a track, by mode.
+void PlaybackClock::endActions() {
+  TransportState& transport = state_.transport;
+  const bool repeat = state_.settings.repeatOn == kOn;
+  const bool again = repeat && transport.trackGo != 1 && transport.playMode != Pgm;
+  if (again && transport.playMode == One && transport.playingFlag != kOn) {
+    transport.trackGo = 1;
+  } else if (again) {
+    device_.command("Stop");
+    if (transport.playMode == Cont) transport.curTrack = 1;
+    engine_.startOfTrack();
+    device_.setUpdateInterval(1000);
+    device_.setFrom(static_cast<uint32_t>(transport.curTrack));
+    device_.command("Play");
+  } else if (transport.playMode == One && !repeat && transport.trackGo == 0) {
+    stoppedInOne();
+  } else if (transport.playMode == Pgm && transport.trackGo == 0) {
+    engine_.MMControl1_PlayClick();
+  }
+}
+
+void PlaybackClock::stoppedInOne() {
+  device_.command("Stop");
+  state_.transport.playingFlag = state_.transport.pausedFlag = kOff;
+  state_.display.lastShownSec = 0;
+  display_.showTrack(0);
+  display_.clearTime("00:00");
+  engine_.stoppedLook();
+  state_.transport.trackGo = 1;
 }
 
 /// The last track has been counted, and the device is in its last second.
@@ -176,25 +235,13 @@ void PlaybackClock::pastTheEnd() {
   if (form_.icntlc[Play].visible) engine_.stoppedLook();
 }
 
-/// The calendar shows what is still to come; a disc just read, or one that repeats, is lit whole.
-void PlaybackClock::lampsInCont() {
-  const auto& colour = state_.settings.lcdColor;
-  const bool whole = state_.disc.discStarted == kOff || state_.settings.repeatOn == kOn;
-  const int shown = whole ? 1 : std::max(1, static_cast<int>(leadingNumber(form_.Label8.caption.get())));
-  for (int lamp = 1; lamp <= 20; ++lamp) {
-    if (shown > 20 || lamp < shown) {
-      form_.Label22[static_cast<size_t>(lamp - 1)].foreColor = colour[kLcdDim];
-    } else if (lamp <= state_.disc.lampCount) {
-      form_.Label22[static_cast<size_t>(lamp - 1)].foreColor = colour[kLcdLitInCont];
-    }
-  }
-}
-
 /// In the first two seconds of a track: the number, length and title follow.
 void PlaybackClock::startOfNewTrack() {
   TransportState& transport = state_.transport;
-  if (transport.playEnded == kOn) return;
-  transport.curTrack = std::max<int16_t>(transport.curTrack, 1);
+  // Stopped at the end of a track, a program or the disc: the display stays at 0.
+  if (transport.playingFlag == kOff && transport.pausedFlag == kOff && form_.Label8.caption == "0") return;
+  transport.curTrack = static_cast<int16_t>(std::max<int16_t>(transport.curTrack, 1) + state_.program.skipStep);
+  state_.program.skipStep = kOff;
   // Right after a jump the label shows the target, until the device has followed.
   if (state_.display.holdTrackLabel == kOn) {
     state_.display.holdTrackLabel = kOff;

@@ -10,13 +10,14 @@
 #include "playback/buttons.h"
 #include "playback/disc_load.h"
 #include "playback/engine.h"
+#include "playback/modes.h"
 
 namespace orvanta {
 
 class PlaybackClock : public CdDeviceEvents {
  public:
-  PlaybackClock(Ports& ports, DeviceLayer& layer, DiscLoad& load, Engine& engine, Buttons& buttons, TimeDisplay& display, CDForm& form,
-                SharedState& state, PlaybackUpward& upward);
+  PlaybackClock(Ports& ports, DeviceLayer& layer, DiscLoad& load, Engine& engine, Modes& modes, Buttons& buttons, TimeDisplay& display,
+                CDForm& form, SharedState& state, PlaybackUpward& upward);
 
   /// From the faceplate's load on.
   void start();
@@ -38,8 +39,10 @@ class PlaybackClock : public CdDeviceEvents {
   void restart();
   void endOfDisc();
   void pastTheEnd();
-  void lampsInCont();
   void startOfNewTrack();
+  void scanStep();
+  void endActions();
+  void stoppedInOne();
   void answerOffer();
   void autoStart();
   void drawerIsOpen();
@@ -55,6 +58,7 @@ class PlaybackClock : public CdDeviceEvents {
   DeviceLayer& layer_;
   DiscLoad& load_;
   Engine& engine_;
+  Modes& modes_;
   Buttons& buttons_;
   TimeDisplay& display_;
   CDForm& form_;

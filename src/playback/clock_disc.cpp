@@ -32,6 +32,10 @@ void PlaybackClock::autoStart() {
     return;
   }
   process.autoStartDone = kOn;
+  if (state_.program.pgmStored == kOn) {
+    modes_.Label30_Click();
+    return;
+  }
   engine_.playingLook();
   state_.transport.playingFlag = kOn;
   device_.setUpdateInterval(1000);
@@ -54,6 +58,7 @@ void PlaybackClock::timer3_timer() {
     state_.process.setupWanted = kOff;
     upward_.runSetup();
   }
+  modes_.introTick();
   if (disc.drawerOpen == kOn) {
     drawerIsOpen();
     return;
@@ -102,6 +107,7 @@ bool PlaybackClock::afterTheEnd() {
     device_.command("stop");
     form_.CDStatusBar.floodPercent = 0;
     if (state_.disc.noDiscState == 0) engine_.stoppedLook();
+    if (state_.transport.playMode == One) modes_.Image4_MouseUp(ContKey);
   }
   if (state_.settings.appOptions[1] != 1 || state_.disc.discLoaded != kOn) return false;
   engine_.mmcontrol1_EjectClick();
@@ -116,6 +122,7 @@ void PlaybackClock::discGone() {
   device_.command("stop");
   device_.command("close");
   state_.transport.playingFlag = state_.transport.pausedFlag = kOff;
+  modes_.stopintro();
   form_.Label12.caption = "";
   form_.Label13.caption = "";
   display_.showTrack(0);

@@ -1,14 +1,36 @@
 // The transport's procedures. Masks (icntlb, scntlb) disable keys, lit faces (icntlc) show state.
 #include "playback/engine.h"
 
+#include <algorithm>
+#include <cmath>
+
 #include "base/text.h"
 #include "base/times.h"
 #include "platform/ports/cd_device.h"
+#include "platform/ports/clock.h"
 #include "platform/ports/files.h"
 #include "platform/ports/screen.h"
 #include "playback/upward.h"
 
 namespace orvanta {
+
+Engine::Engine(Ports& ports, TimeDisplay& display, CDForm& form, SharedState& state, PlaybackUpward& upward)
+    : device_(ports.device), clock_(ports.clock), files_(ports.files), screen_(ports.screen), display_(display), form_(form), state_(state), upward_(upward) {}
+
+void Engine::setTimer2Interval(int milliseconds) {
+  if (timer2_ != nullptr) timer2_->setInterval(milliseconds);
+}
+
+void Engine::lightMode(size_t mode) {
+  for (size_t key = 0; key < 4; ++key) {
+    form_.Image3[key].visible = key == mode;
+    form_.Image4[key].visible = key != mode;
+  }
+}
+
+void Engine::lamps(LcdColour colour) {
+  for (size_t lamp = 0; lamp < static_cast<size_t>(state_.disc.lampCount); ++lamp) form_.Label22[lamp].foreColor = state_.settings.lcdColor[colour];
+}
 
 void Engine::startOfTrack() {
   state_.display.lastShownTrack = 0;
@@ -33,8 +55,13 @@ void Engine::MMControl1_PlayClick() {
   }
   if (transport.curTrack < 1 || transport.curTrack > state_.disc.trackCount) transport.curTrack = 1;
   display_.showTrack(transport.curTrack);
+  setTimer2Interval(100);
   transport.playEnded = kOff;
   display_.showTimeModeLabel();
+  if (transport.playMode == Pgm) {
+    programStep();
+    return;
+  }
   device_.setUpdateInterval(1000);
   device_.setFrom(static_cast<uint32_t>(transport.curTrack));
   startOfTrack();
@@ -72,6 +99,12 @@ void Engine::mmcontrol1_EjectClick() {
   form_.Label22[20].foreColor = custom ? colour[kLcdDrawer] : 0x004000;
   for (size_t lamp = 0; lamp < 20; ++lamp) form_.Label22[lamp].foreColor = colour[kLcdDim];
   state_.disc.drawerOpen = kOn;
+  if (state_.transport.introTrack > 0) {
+    state_.transport.introTrack = 0;
+    state_.transport.introStart = 0;
+    showPlayMode("Cont");
+    lightMode(Cont);
+  }
   state_.transport.playingFlag = kOff;
   state_.transport.pausedFlag = kOff;
   display_.showTrack(0);
@@ -111,6 +144,7 @@ void Engine::jump() {
   }
   transport.curTrack = target;
   transport.playEnded = kOff;
+  setTimer2Interval(100);
   startOfTrack();
   seekFraction(state_.disc.trackLengths[static_cast<size_t>(target)], 0);
   device_.command("Pause");
@@ -123,24 +157,57 @@ void Engine::jump() {
   device_.command("Play");
 }
 
-void Engine::seekFraction(std::string_view length, double fraction) {
-  const int seconds = static_cast<int>(secondsOf(length) * fraction);
+void Engine::seekFraction(std::string_view length, double x) {
+  const double fraction = x / std::max<int>(form_.CDStatusBar.width, 1);
+  const int seconds = static_cast<int>(std::nearbyint(secondsOf(length) * fraction));
   device_.command("PAUSE");
   device_.setTo(packSeekTarget(state_.transport.curTrack, seconds));
   device_.command("SEEK");
   device_.command("PLAY");
 }
 
+/// The loop of A-B comes this way too, with its own places; the offset shifts its return a little.
+void Engine::CDStatusBar_Click(double x) {
+  constexpr double kOffset = 84;
+  const int16_t track = state_.transport.curTrack;
+  if (state_.transport.playingFlag != kOn || state_.disc.drawerOpen == kOn || track < 1 || track > 100) return;
+  state_.display.lastShownTrack = state_.display.lastShownSec = 0;
+  seekFraction(state_.disc.trackLengths[static_cast<size_t>(track)], std::abs(x - kOffset));
+}
+
 void Engine::clrpgm() {
   state_.program.pgmList.fill(0);
   state_.program.pgmCount = 0;
-  for (size_t lamp = 0; lamp < static_cast<size_t>(state_.disc.lampCount); ++lamp) {
-    form_.Label22[lamp].foreColor = state_.settings.lcdColor[kLcdDim];
-  }
+  lamps(kLcdDim);
 }
 
 void Engine::playCompleted(int16_t error) {
   if (error == device_error::kHardware) device_.command("Close");
+}
+
+void Engine::playKey() {
+  form_.icntlc[Play].visible = true;
+  MMControl1_PlayClick();
+  device_.command("Play");
+  playingLook();
+}
+
+void Engine::pauseKey() {
+  pausedLook();
+  MMControl1_PauseClick();
+  device_.command("Pause");
+}
+
+void Engine::stopKey() {
+  stoppedLook();
+  MMControl1_StopClick();
+  device_.command("Stop");
+  form_.icntlb[Stop].visible = false;
+  form_.icntlc[Stop].visible = true;
+  form_.icntlc[Stop].refresh();
+  clock_.delaySeconds(0.3);
+  form_.icntlc[Stop].visible = false;
+  form_.icntlb[Stop].visible = true;
 }
 
 void Engine::clrab() {
@@ -155,7 +222,7 @@ void Engine::playingLook() {
   for (const size_t key : {0U, 3U}) form_.scntlb[key].visible = false;
   for (const size_t key : {Previous, Next, Pause, Stop, Record}) form_.icntlb[key].visible = false;
   for (const size_t key : {Pause, Stop}) form_.icntlc[key].visible = false;
-  for (auto* label : {&form_.Label17, &form_.Label24, &form_.Label39}) label->foreColor = colours::kBlack;
+  for (auto* label : {&form_.Label17, &form_.Label24, &form_.Label38, &form_.Label39}) label->foreColor = colours::kBlack;
 }
 
 void Engine::pausedLook() {

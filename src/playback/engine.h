@@ -1,6 +1,8 @@
-// Play, pause, stop and eject: the procedures that keys, menus and the clock call.
+// Play, pause, stop, next, previous, seek, jump, the step through a program, eject: the procedures that
+// keys, menus and the clock call.
 #pragma once
 
+#include "platform/ports/ports.h"
 #include "playback/time_display.h"
 #include "state/shared_state.h"
 #include "windows/cdform.h"
@@ -12,20 +14,30 @@ class Clock;
 class Files;
 class PlaybackUpward;
 class Screen;
+class Timer;
 
 class Engine {
  public:
-  Engine(CdDevice& device, Files& files, Screen& screen, TimeDisplay& display, CDForm& form, SharedState& state, PlaybackUpward& upward)
-      : device_(device), files_(files), screen_(screen), display_(display), form_(form), state_(state), upward_(upward) {}
+  Engine(Ports& ports, TimeDisplay& display, CDForm& form, SharedState& state, PlaybackUpward& upward);
 
   /// Prepares a play, or resumes a pause; the caller sends "Play".
   void MMControl1_PlayClick();
   void MMControl1_PauseClick();
   void MMControl1_StopClick();
+  /// `value` 98: the step is made at once; it comes back 0.
+  void MMControl1_NextClick(int16_t& value);
+  void MMControl1_PrevClick();
   void mmcontrol1_EjectClick();
 
   /// The device's play-completed event.
   void playCompleted(int16_t error);
+
+  // What the transport keys do on their release.
+  void previousKey();
+  void nextKey();
+  void playKey();
+  void pauseKey();
+  void stopKey();
 
   /// Clears the A-B loop.
   void clrab();
@@ -40,9 +52,19 @@ class Engine {
 
   /// Goes to track selTrack + 1 and plays; in Pgm nothing.
   void jump();
-  /// To a fraction of the current track: "Pause", "Seek", "Play".
-  void seekFraction(std::string_view length, double fraction);
+  /// To a place within the current track of this length, `x` twips along the bar.
+  void seekFraction(std::string_view length, double x);
+  /// A click on the bar, `x` twips from its left edge.
+  void CDStatusBar_Click(double x);
   void clrpgm();
+
+  /// Tick of the 100 ms clock; 0 ends it until play or a mode key.
+  void setTimer2Interval(int milliseconds);
+  void setTimer2(Timer* timer) { timer2_ = timer; }
+
+  /// Lights the key of a mode and darkens the others.
+  void lightMode(size_t mode);
+  void showPlayMode(std::string_view word) { form_.Label6.caption = std::string(word); }
 
   /// Every start of a track's play goes through here: the next display is taken as it comes.
   void startOfTrack();
@@ -51,14 +73,19 @@ class Engine {
   void repeatLabel();
 
  private:
+  void programStep();
+  void programEnd();
+  void lamps(LcdColour colour);
 
   CdDevice& device_;
+  Clock& clock_;
   Files& files_;
   Screen& screen_;
   TimeDisplay& display_;
   CDForm& form_;
   SharedState& state_;
   PlaybackUpward& upward_;
+  Timer* timer2_ = nullptr;
 };
 
 }  // namespace orvanta

@@ -1,7 +1,10 @@
 // What playback asks of the layers above it, in its own words.
 #pragma once
 
+#include <cstdint>
+#include <optional>
 #include <string>
+#include <vector>
 
 namespace orvanta {
 
@@ -20,6 +23,15 @@ class PlaybackUpward {
   /// Runs the setup program, waits for it, and takes over what it wrote.
   virtual void runSetup() = 0;
   virtual void runMixer() = 0;
+  virtual void muteKey() = 0;
+  /// Both channels a step up, or down.
+  virtual void volumeKey(bool up) = 0;
+  virtual void showHelp(int topic) = 0;
+  virtual void showMenu() = 0;
+  virtual void showCdData() = 0;
+  virtual void showPlaylist() = 0;
+  virtual void showTrackList() = 0;
+  virtual void launchEnhancedDisc() = 0;
   /// Hands the disc to the recorder.
   virtual void record() = 0;
   /// The power button: saves, stops and ends the process.
@@ -30,6 +42,10 @@ class PlaybackUpward {
   virtual void automaticLookup() = 0;
   /// Fills the disc's texts from a file of the disc family; false when it cannot be read.
   virtual bool readCdRecord(const std::string& cdFilePath) = 0;
+  /// The disc's time correction; 0 when it has none.
+  virtual int16_t readTimeCorrection() = 0;
+  /// The values of the disc's program file as they stand; nullopt without a file.
+  virtual std::optional<std::vector<int>> readProgram() = 0;
 };
 
 }  // namespace orvanta

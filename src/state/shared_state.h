@@ -39,6 +39,10 @@ struct DiscState {
   int16_t timeCorrection = 0;  ///< seconds, -3 to 5, kept per disc
   int16_t trackTableDone = kOff;
   int16_t enhancedCd = kOff;
+  std::string linerNotes;                   ///< may hold line breaks
+  std::array<std::string, 6> discInfo;      ///< [1] time list, [2] track count, [3] composer, [4] label, [5] genre
+  std::array<std::string, 76> extraInfo;    ///< the extended fields; [13]..[62] are the lyrics of tracks 1 to 50
+  std::array<std::string, 51> lyricsHigh;   ///< [1]..[50]: lyrics of tracks 51 to 100
   int16_t clearDiscRequest = kOff;  ///< the clock clears the disc's texts
 };
 
@@ -54,7 +58,7 @@ struct TransportState {
   int16_t trackGo = 0;        ///< 1 running; 0 track's end reached in Pgm or One; 99 on entering One
   int16_t scanCount = 0;      ///< ticks of a scan, below 0 backwards
   double lastAdvanceTime = 0;  ///< seconds since midnight of the last automatic advance in Cont
-  double abPointA = 0;        ///< bar position of the loop's start; 0 not set
+  double abPointA = 0;        ///< place on the bar, in twips, of the loop's start; 0 not set
   double abPointB = 0;
   int16_t abTrack = 0;
   int16_t introTrack = 0;

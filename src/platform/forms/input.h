@@ -14,6 +14,7 @@ struct Mouse {
 
 /// Letters and digits are their upper-case ASCII codes.
 namespace key {
+constexpr int kBackspace = 8;
 constexpr int kTab = 9;
 constexpr int kEnter = 13;
 constexpr int kEscape = 27;

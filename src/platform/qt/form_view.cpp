@@ -39,6 +39,7 @@ int keyCode(int qtKey) {
     case Qt::Key_Backtab: return forms::key::kTab;
     case Qt::Key_Return:
     case Qt::Key_Enter: return forms::key::kEnter;
+    case Qt::Key_Backspace: return forms::key::kBackspace;
     case Qt::Key_Escape: return forms::key::kEscape;
     case Qt::Key_Left: return forms::key::kLeft;
     case Qt::Key_Up: return forms::key::kUp;

@@ -1,0 +1,57 @@
+// Hand-over to the recorder: the user's own by its command line, else ours with audiocd.dat.
+#include "app/record.h"
+
+#include "base/text.h"
+#include "platform/ports/cd_device.h"
+#include "platform/ports/clock.h"
+#include "platform/ports/core_gate.h"
+#include "platform/ports/files.h"
+#include "platform/ports/processes.h"
+#include "state/field_file.h"
+#include "state/settings_files.h"
+
+namespace orvanta {
+
+namespace {
+
+constexpr size_t kNotes = 30;  ///< characters of the liner notes that the recorder shows
+
+}  // namespace
+
+void RecorderLaunch::run() {
+  const Settings& settings = state_.settings;
+  state_.transport.playingFlag = state_.transport.pausedFlag = kOff;
+  for (auto& mask : form_.icntlb) mask.visible = true;
+  writeSettings(SettingsFile::SettingsDat, ports_.files, settings.appDir, settings);
+  position_.saveposn1();
+  form_.Label28.foreColor = colours::kDarkRed;
+  ports_.device.command("Stop");
+  ports_.device.command("Close");
+  form_.icntlc[Record].visible = true;
+  form_.minimised = true;
+  ports_.files.remove(joinPath(settings.appDir, "audiocd.tmp"));
+  if (!settings.recordCommand.empty()) {
+    ports_.processes.start({splitCommand(settings.recordCommand, ports_.files.exists(settings.recordCommand)), settings.appDir, WindowStyle::Normal});
+    end();
+  }
+  writeTexts();
+  ports_.clock.delaySeconds(1);
+  ports_.processes.start({{joinPath(state_.process.windowsDir, "orvrec"), "2" + settings.appDir}, settings.appDir, WindowStyle::Normal});
+  end();
+}
+
+void RecorderLaunch::writeTexts() {
+  const DiscState& disc = state_.disc;
+  FieldWriter out;
+  out.text(disc.discArtist);
+  out.text(disc.discTitle);
+  out.number(disc.trackCount);
+  for (size_t track = 1; track <= 100; ++track) out.text(disc.trackTitles[track]);
+  const std::string notes(trim(firstCharacters(disc.linerNotes, kNotes)));
+  out.text(notes.empty() ? disc.discInfo[4] : notes);
+  out.text(disc.discInfo[5]);
+  out.text(disc.extraInfo[2]);
+  ports_.files.write(joinPath(state_.settings.appDir, "audiocd.dat"), out.bytes());
+}
+
+}  // namespace orvanta

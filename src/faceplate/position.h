@@ -1,0 +1,35 @@
+// Where the faceplate stands on the screen; each of its two sizes has a place of its own.
+#pragma once
+
+#include <string>
+
+#include "state/shared_state.h"
+#include "windows/cdform.h"
+
+namespace orvanta {
+
+class Files;
+class Screen;
+
+class Position {
+ public:
+  Position(Files& files, Screen& screen, CDForm& form, SharedState& state) : files_(files), screen_(screen), form_(form), state_(state) {}
+
+  /// Pulls the window onto the screen and stores its place.
+  void saveposn1();
+  /// To the stored place, away from the right and lower edge; to the middle when there is none.
+  void posfp1();
+  /// To the middle, and the stored place is forgotten.
+  void Form_DblClick();
+
+ private:
+  std::string path() const;
+  void centre();
+
+  Files& files_;
+  Screen& screen_;
+  CDForm& form_;
+  SharedState& state_;
+};
+
+}  // namespace orvanta

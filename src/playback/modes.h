@@ -1,0 +1,55 @@
+// Play modes and what is built on them: Pgm, One, Cont, Intro, shuffle, repeat, the A-B loop, the lamps.
+#pragma once
+
+#include "playback/engine.h"
+
+namespace orvanta {
+
+enum ModeKey : size_t { PgmKey, OneKey, ContKey, IntroKey };
+
+class Modes {
+ public:
+  Modes(Ports& ports, Engine& engine, TimeDisplay& display, CDForm& form, SharedState& state, PlaybackUpward& upward);
+
+  /// A mode key's release.
+  void Image4_MouseUp(size_t mode);
+  /// To the mode after the present one: Pgm, One, Cont, Intro.
+  void nextMode();
+  /// Ends Intro, when it runs.
+  void stopintro();
+  void shuffle();
+  void repeatKey();
+  /// One press sets A, the next B, the third ends the loop.
+  void abKey();
+  /// Puts the disc's stored program into the list.
+  void rclpgm();
+  /// A click on the program indicator: recalls and plays.
+  void Label30_Click();
+
+  // Of the clock.
+  void abTick();
+  void introTick();
+  void lampTick();
+
+ private:
+  bool asleep() const { return state_.disc.noDiscState > 0 || state_.disc.drawerOpen == kOn; }
+  void lampsAll(LcdColour colour);
+  void leaveOne();
+  void enterPgm();
+  void enterOne();
+  void enterCont();
+  void enterIntro();
+  double placeOnBar() const;
+
+  CdDevice& device_;
+  Clock& clock_;
+  Screen& screen_;
+  Engine& engine_;
+  TimeDisplay& display_;
+  CDForm& form_;
+  SharedState& state_;
+  PlaybackUpward& upward_;
+  int64_t lastBlink_ = 0;
+};
+
+}  // namespace orvanta

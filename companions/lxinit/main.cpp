@@ -10,6 +10,15 @@
 namespace orvanta {
 namespace {
 
+/// Records of discs that come with the drive, as that of the demo disc, where the user has none.
+void takeRecords(HostFiles& files, const Settings& settings) {
+  for (const std::string& name : files.list(settings.cdProbePath)) {
+    const std::string own = joinPath(joinPath(settings.appDir, "datacd"), name);
+    if (!endsWithNoCase(name, ".CD") || files.exists(own)) continue;
+    if (const auto bytes = files.read(joinPath(settings.cdProbePath, name))) files.write(own, *bytes);
+  }
+}
+
 int run(int argc, char** argv) {
   const HostSystem system({});
   if (argc < 2 || argv[1][0] != '/') {
@@ -22,6 +31,7 @@ int run(int argc, char** argv) {
   const std::string home = joinPath(system.systemDir(), fileName(SettingsFile::Orvwin));
   bool done = writeMissingSettings(files, settings) && files.makeFolder(system.systemDir());
   if (done && !files.exists(home)) done = writeSettings(SettingsFile::Orvwin, files, system.systemDir(), settings);
+  if (done) takeRecords(files, settings);
   if (!done) std::fprintf(stderr, "lxinit: %s cannot be written\n", folder.c_str());
   return done ? 0 : 1;
 }

@@ -25,6 +25,7 @@ void RecorderLaunch::run() {
   writeSettings(SettingsFile::SettingsDat, ports_.files, settings.appDir, settings);
   position_.saveposn1();
   form_.Label28.foreColor = colours::kDarkRed;
+  form_.SSPanel3.backColor = colours::kRed;
   ports_.device.command("Stop");
   ports_.device.command("Close");
   form_.icntlc[Record].visible = true;

@@ -27,6 +27,7 @@ void Position::saveposn1() {
   if (state_.process.commandWord == "RUNRIPPER") return;
   form_.left = kept(form_.left, form_.width, 0, screen_.widthTwips());
   form_.top = kept(form_.top, form_.height, 0, screen_.heightTwips());
+  state_.display.positionKnown = kOn;
   FieldWriter out;
   out.number(form_.left);
   out.number(form_.top);
@@ -48,6 +49,7 @@ void Position::posfp1() {
   };
   form_.left = kept(place(*left), form_.width, kRightMargin, screen_.widthTwips());
   form_.top = kept(place(*top), form_.height, kLowerMargin, screen_.heightTwips());
+  state_.display.positionKnown = kOn;
 }
 
 void Position::Form_DblClick() {
@@ -56,6 +58,7 @@ void Position::Form_DblClick() {
 }
 
 void Position::centre() {
+  state_.display.positionKnown = kOff;
   form_.left = (screen_.widthTwips() - form_.width) / 2;
   form_.top = (screen_.heightTwips() - form_.height) / 2;
 }

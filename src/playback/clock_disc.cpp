@@ -107,7 +107,8 @@ bool PlaybackClock::afterTheEnd() {
     device_.command("stop");
     form_.CDStatusBar.floodPercent = 0;
     if (state_.disc.noDiscState == 0) engine_.stoppedLook();
-    if (state_.transport.playMode == One) modes_.Image4_MouseUp(ContKey);
+    // The small window has no mode keys: One would leave it at its track for good.
+    if (state_.display.popupOpen == kOn && state_.transport.playMode == One) modes_.Image4_MouseUp(ContKey);
   }
   if (state_.settings.appOptions[1] != 1 || state_.disc.discLoaded != kOn) return false;
   engine_.mmcontrol1_EjectClick();

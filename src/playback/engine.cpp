@@ -104,6 +104,7 @@ void Engine::mmcontrol1_EjectClick() {
     state_.transport.introStart = 0;
     showPlayMode("Cont");
     lightMode(Cont);
+    form_.Label30.caption = "Pgm Stored";
   }
   state_.transport.playingFlag = kOff;
   state_.transport.pausedFlag = kOff;

@@ -144,6 +144,8 @@ void Modes::rclpgm() {
   if (state_.transport.playMode != Pgm) Image4_MouseUp(PgmKey);
   ProgramState& program = state_.program;
   program.pgmCount = 0;
+  // A pause of the disc before has nothing to resume in the program.
+  state_.transport.pausePosition = 0;
   const auto values = upward_.readProgram();
   if (!values) return;
   program.pgmList.fill(0);

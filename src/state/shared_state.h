@@ -79,6 +79,7 @@ struct DisplayState {
   int16_t lastShownSec = 0;    ///< with lastShownTrack 0: the next display is taken as it comes
   int16_t lastShownTrack = 0;
   int16_t holdTrackLabel = kOff;  ///< right after a jump: the clock leaves the track label alone once
+  int16_t positionKnown = kOff;  ///< the faceplate stands where the user put it
   int16_t popupOpen = kOff;
   int16_t popupLayout = 0;
 };

@@ -227,6 +227,53 @@ TEST(Intro, PlaysBeginningsUntilItIsEnded) {
   }
 }
 
+TEST(Intro, AShortTrackPlaysItsLength) {
+  ModeRig rig(tocOf({150, 150 + 75 * 30, 150 + 75 * 33}, 150 + 75 * 63));
+  rig.mode(IntroKey);
+  rig.clock.advance(1200);
+  EXPECT_EQ(rig.heardTrack(), 2);
+  rig.clock.advance(5500);
+  EXPECT_EQ(rig.heardTrack(), 3) << "three seconds, and the next";
+}
+
+TEST(Display, TimeModesInOneAndPgm) {
+  struct Case {
+    size_t mode;
+    TimeMode time;
+    const char* at10;
+  };
+  for (const auto& [mode, time, text] : {Case{OneKey, Time, "0:10"}, Case{OneKey, Rem, "-2:50"}, Case{OneKey, Total, "00:10"}, Case{OneKey, TotRem, "-2:50"},
+                                         Case{PgmKey, Time, "0:10"}, Case{PgmKey, Rem, "-2:50"}, Case{PgmKey, Total, "00:10"}, Case{PgmKey, TotRem, "-10:50"}}) {
+    ModeRig rig;
+    rig.state.settings.timeMode = time;
+    if (mode == PgmKey) {
+      rig.program({1, 2, 2});
+    } else {
+      rig.mode(mode);
+      rig.begin();
+      rig.press(rig.form.icntla[Play]);
+    }
+    rig.at(10);
+    EXPECT_EQ(rig.time(), text) << mode << " " << time;
+  }
+}
+
+TEST(Display, SmoothsJumpsUntilAResetIsAskedFor) {
+  ModeRig rig;
+  rig.key('D');
+  rig.clock.advance(60010);
+  EXPECT_EQ(rig.time(), "1:00");
+  rig.player.play(150 + 30 * 75, discB().leadOut);
+  rig.clock.advance(1000);
+  EXPECT_EQ(rig.time(), "1:01") << "a device that falls back is not followed";
+  rig.key('T');
+  rig.key('T');
+  rig.key('T');
+  rig.key('T');
+  rig.clock.advance(1000);
+  EXPECT_EQ(rig.time(), "0:31") << "a change of mode takes it as it is";
+}
+
 TEST(AbLoop, IsSetRunsAndIsCancelled) {
   ModeRig rig;
   rig.begin();

@@ -31,6 +31,7 @@ until_true() {
 }
 
 start_deck() {
+  until_true 15 xdotool getdisplaygeometry
   "$build/bin/lxinit" "$data" "$home/drive"
   ORVANTA_LOG=sound,device "$build/bin/orvanlx" "$@" 2>"$home/log" &
   deck=$!

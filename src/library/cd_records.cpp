@@ -28,36 +28,37 @@ std::string swapped(std::string text, char quote, char comma, char toQuote, char
 }
 
 /// Fields in the order of a file, as places to read into or write from.
-using Fields = std::vector<std::string*>;
+using Fields = std::vector<std::reference_wrapper<std::string>>;
 
 Fields mainFields(DiscState& disc) {
-  Fields fields{&disc.discTitle, &disc.discArtist, &disc.linerNotes};
-  for (size_t track = 1; track <= CdRecords::kMainTitles; ++track) fields.push_back(&disc.trackTitles[track]);
-  for (size_t i = 1; i <= 5; ++i) fields.push_back(&disc.discInfo[i]);
+  Fields fields{disc.discTitle, disc.discArtist, disc.linerNotes};
+  for (size_t track = 1; track <= CdRecords::kMainTitles; ++track) fields.emplace_back(disc.trackTitles[track]);
+  for (size_t i = 1; i <= 5; ++i) fields.emplace_back(disc.discInfo[i]);
   return fields;
 }
 
 template <size_t N>
 Fields fieldsOf(std::array<std::string, N>& table, size_t first, size_t last) {
   Fields fields;
-  for (size_t i = first; i <= last; ++i) fields.push_back(&table[i]);
+  for (size_t i = first; i <= last; ++i) fields.emplace_back(table[i]);
   return fields;
 }
 
 /// False when the file ended before the last field, which then keep what they hold.
 bool readInto(const std::string& bytes, const Fields& fields) {
   FieldReader reader(bytes);
-  for (std::string* field : fields) {
+  for (std::string& field : fields) {
     const auto text = reader.next();
     if (!text) return false;
-    *field = unescapeField(*text);
+    field = unescapeField(*text);
   }
   return true;
 }
 
+/// `raw`: a field that is written as it stands; nullptr for none.
 std::string written(const Fields& fields, const std::string* raw = nullptr) {
   FieldWriter out;
-  for (const std::string* field : fields) out.text(field == raw ? *field : escapeField(*field));
+  for (const std::string& field : fields) out.text(&field == raw ? field : escapeField(field));
   return out.bytes();
 }
 

@@ -115,7 +115,7 @@ void Modes::shuffle() {
     label.caption = std::to_string(lamp);
   }
   for (int16_t i = 1; i <= state_.disc.trackCount; ++i) {
-    std::minstd_rand chance(static_cast<uint32_t>(clock_.milliseconds() * 131 + i * 7919 + 1));
+    std::minstd_rand chance(static_cast<uint32_t>(clock_.milliseconds() * 131 + int64_t{i} * 7919 + 1));
     chance.discard(3);
     std::uniform_int_distribution<int> draw(1, state_.disc.trackCount);
     const auto first = program.pgmList.begin() + 1;

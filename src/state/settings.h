@@ -66,7 +66,7 @@ struct Settings {
 };
 
 /// Indices of lcdColor.
-enum LcdColour : int16_t {
+enum LcdColour : uint8_t {
   kLcdLit = 0,
   kLcdLabelOff = 2,
   kLcdLabelOn = 3,

@@ -468,6 +468,20 @@ TEST(RandomWalk, HoldsWhatAlwaysHolds) {
       }
     }
     EXPECT_FALSE(rig.gate.ended()) << seed;
+    // The disc is pulled in the midst of it: nothing acts until another is in, and that is another process.
+    rig.player.insert({}, "");
+    rig.clock.advance(1500);
+    EXPECT_EQ(rig.state.disc.drawerOpen, kOn);
+    for (forms::Control* control : rig.form.controls()) {
+      const std::string& name = control->name();
+      if (name != "Image5" && name != "Image6" && control->shown()) rig.press(*control);
+    }
+    EXPECT_EQ(rig.state.transport.playingFlag + rig.state.transport.pausedFlag, 0) << seed;
+    EXPECT_EQ(rig.device.mode(), DeviceMode::NotOpen) << seed;
+    rig.player.insert(discA());
+    rig.processes.onStart = [&] { rig.files.files.erase("/DATA/EJCD.TMP"); };
+    rig.clock.advance(1500);
+    EXPECT_TRUE(rig.gate.ended()) << seed;
   }
 }
 

@@ -68,6 +68,10 @@ TEST(Start, NumbersOfTheDisc) {
   b.startWith(discB());
   EXPECT_EQ(b.state.disc.discKey, "19459115");
   EXPECT_EQ(b.time(), "10:59");
+  CoreRig round;
+  round.startWith(tocOf({150, 13650, 31650}, 49576));
+  EXPECT_EQ(round.state.disc.discSum, 60459);
+  EXPECT_EQ(round.state.disc.discKey, "00060459") << "lengths without frames make a short sum";
   CoreRig single;
   single.startWith(tocOf({150}, 150 + 50 * 75));
   EXPECT_EQ(single.time(), "00:49") << "a short disc has a length all the same";

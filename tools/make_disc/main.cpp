@@ -26,7 +26,7 @@ void writeRecord(const Score& score, const std::vector<int>& lengths, const std:
   using orvanta::FieldWriter, orvanta::packMsf, orvanta::msfOfFrames, orvanta::minutesSeconds;
   int total = 0;
   for (const int length : lengths) total += length;
-  double sum = static_cast<double>(lengths.size());
+  auto sum = static_cast<double>(lengths.size());
   std::string times = orvanta::longTime((total - 1) / 75) + ",";
   for (size_t i = 0; i < lengths.size(); ++i) {
     // The device tells the last track, and the disc, a frame short.

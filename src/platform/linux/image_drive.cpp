@@ -99,8 +99,8 @@ bool DiscImage::readBlock(int block, unsigned char* bytes) {
 
 ImageDrive::ImageDrive(std::string folder, const std::string& disc, std::string memory) : folder_(std::move(folder)), memory_(std::move(memory)) {
   if (!disc.empty()) {
-    refusal_ = accept(disc);
-    closeTray();
+    refusal_ = ImageDrive::accept(disc);
+    ImageDrive::closeTray();
   }
   const std::string last = disc_ ? "" : remembered();
   std::string why;

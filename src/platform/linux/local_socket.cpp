@@ -69,7 +69,7 @@ std::string socketPath(const std::string& purpose, const std::string& subject) {
   return joinPath(runtimeFolder(), "orvanta-" + purpose + "-" + hash);
 }
 
-SocketServer::SocketServer(std::string path) {
+SocketServer::SocketServer(const std::string& path) {
   const auto address = addressOf(path);
   UniqueFd fd(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
   if (!address || !fd) return;

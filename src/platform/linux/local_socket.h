@@ -15,7 +15,7 @@ std::string socketPath(const std::string& purpose, const std::string& subject);
 class SocketServer {
  public:
   /// Takes the place of whoever listened there before; a server that cannot listen hears nothing.
-  explicit SocketServer(std::string path);
+  explicit SocketServer(const std::string& path);
   /// To be waited on for reading; -1 when it does not listen.
   int fd() const { return fd_ ? fd_.get() : -1; }
 

@@ -6,6 +6,7 @@
 #include "platform/ports/core_gate.h"
 #include "platform/ports/files.h"
 #include "platform/ports/screen.h"
+#include "state/marker_files.h"
 #include "state/settings_files.h"
 
 namespace orvanta {
@@ -14,7 +15,7 @@ void Exit::exitProgram() {
   const Settings& settings = state_.settings;
   form_.Label28.foreColor = colours::kDarkRed;
   writeSettings(SettingsFile::SettingsDat, ports_.files, settings.appDir, settings);
-  ports_.files.remove(joinPath(settings.appDir, "audiocd.tmp"));
+  clearMarker(ports_.files, settings.appDir, kRunningMarker);
   ports_.screen.setPointer(Pointer::Hourglass);
   form_.SSPanel3.backColor = colours::kRed;
   form_.SSPanel3.refresh();

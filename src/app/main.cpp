@@ -72,9 +72,8 @@ int run(int argc, char** argv) {
   HostFiles files;
   HostSystem system(options.handedOn());
   // The drive's thread reads the disc while Qt starts.
-  const std::string path = drivePath(options.host, files, system.systemDir());
+  const auto [data, path] = placesOf(options.host, files, system.systemDir());
   const bool real = isDevice(path);
-  const std::string data = dataPath(options.host, files, system.systemDir());
   const std::string socket = socketPath("deck", data);
   if (!options.takeOver && handedToFirst(socket, options.disc)) return 0;
   const std::string memory = data.empty() ? "" : joinPath(data, "tray.dat");

@@ -8,6 +8,7 @@
 #include "platform/ports/files.h"
 #include "platform/ports/processes.h"
 #include "state/field_file.h"
+#include "state/marker_files.h"
 #include "state/settings_files.h"
 
 namespace orvanta {
@@ -30,7 +31,7 @@ void RecorderLaunch::run() {
   ports_.device.command("Close");
   form_.icntlc[Record].visible = true;
   form_.minimised = true;
-  ports_.files.remove(joinPath(settings.appDir, "audiocd.tmp"));
+  clearMarker(ports_.files, settings.appDir, kRunningMarker);
   if (!settings.recordCommand.empty()) {
     ports_.processes.start({splitCommand(settings.recordCommand, ports_.files.exists(settings.recordCommand)), settings.appDir, WindowStyle::Normal});
     end();

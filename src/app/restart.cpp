@@ -7,15 +7,16 @@
 #include "platform/ports/files.h"
 #include "platform/ports/processes.h"
 #include "platform/ports/system.h"
+#include "state/marker_files.h"
 #include "state/settings_files.h"
 
 namespace orvanta {
 
 void Restart::forDisc() {
   const std::string& folder = state_.settings.appDir;
-  const std::string handOver = joinPath(folder, "ejcd.tmp");
+  const std::string handOver = joinPath(folder, kHandOverMarker);
   writeSettings(SettingsFile::SettingsDat, ports_.files, folder, state_.settings);
-  ports_.files.write(handOver, "\"0\"\r\n");
+  setMarker(ports_.files, folder, kHandOverMarker);
   ProcessRequest request{{joinPath(state_.process.windowsDir, "orvanlx")}, folder, WindowStyle::Normal};
   for (const std::string& argument : ports_.system.handedOn()) request.arguments.push_back(argument);
   const Processes::Id started = ports_.processes.start(request);

@@ -11,22 +11,21 @@
 #include "platform/ports/processes.h"
 #include "platform/ports/screen.h"
 #include "platform/ports/system.h"
+#include "state/marker_files.h"
 #include "state/settings_files.h"
 
 namespace orvanta {
 
-std::string dataPath(const HostOptions& options, Files& files, const std::string& systemDir) {
-  if (!options.dataDir.empty()) return options.dataDir;
+Places placesOf(const HostOptions& options, Files& files, const std::string& systemDir) {
   Settings settings;
   readSettings(SettingsFile::Orvwin, files, systemDir, settings);
-  return settings.appDir;
-}
-
-std::string drivePath(const HostOptions& options, Files& files, const std::string& systemDir) {
-  if (!options.drive.empty()) return options.drive;
-  Settings settings;
-  readSettings(SettingsFile::Orvwin, files, systemDir, settings);
-  return settings.cdProbePath.empty() && !options.dataDir.empty() ? joinPath(options.dataDir, "drive") : settings.cdProbePath;
+  Places places{settings.appDir, settings.cdProbePath};
+  if (!options.dataDir.empty()) {
+    places.dataDir = options.dataDir;
+    if (places.drive.empty()) places.drive = joinPath(options.dataDir, "drive");
+  }
+  if (!options.drive.empty()) places.drive = options.drive;
+  return places;
 }
 
 void StartUp::run(const HostOptions& options) {
@@ -37,7 +36,7 @@ void StartUp::run(const HostOptions& options) {
   state_.process.systemDir = ports_.system.systemDir();
   state_.process.windowsDir = ports_.system.windowsDir();
   findData(options);
-  ports_.files.remove(joinPath(state_.settings.appDir, "ejcd.tmp"));
+  clearMarker(ports_.files, state_.settings.appDir, kHandOverMarker);
   readSettingsFiles();
   takeWord(options.words);
   ports_.screen.setPointer(Pointer::Normal);
@@ -60,15 +59,12 @@ void StartUp::measureScreen() {
 }
 
 void StartUp::findData(const HostOptions& options) {
-  if (!options.dataDir.empty()) {
-    readSettings(SettingsFile::Orvwin, ports_.files, state_.process.systemDir, state_.settings);
-    state_.settings.appDir = options.dataDir;
-    state_.settings.cdProbePath = drivePath(options, ports_.files, state_.process.systemDir);
-    writeMissingSettings(ports_.files, defaultSettings(options.dataDir, state_.settings.cdProbePath));
-    return;
-  }
-  if (!readSettings(SettingsFile::Orvwin, ports_.files, state_.process.systemDir, state_.settings)) askForSetup();
-  state_.settings.cdProbePath = drivePath(options, ports_.files, state_.process.systemDir);
+  const bool known = readSettings(SettingsFile::Orvwin, ports_.files, state_.process.systemDir, state_.settings);
+  if (!known && options.dataDir.empty()) askForSetup();
+  const Places places = placesOf(options, ports_.files, state_.process.systemDir);
+  state_.settings.appDir = places.dataDir;
+  state_.settings.cdProbePath = places.drive;
+  if (!options.dataDir.empty()) writeMissingSettings(ports_.files, defaultSettings(places.dataDir, places.drive));
 }
 
 /// Without ORVWIN.INI nothing is known. The setup helper writes it, for the usual folder or for one

@@ -15,11 +15,13 @@ struct HostOptions {
   std::string words;  ///< the program words, as one line
 };
 
-/// The data folder of this start: the option's, else that of ORVWIN.INI.
-std::string dataPath(const HostOptions& options, Files& files, const std::string& systemDir);
-
-/// The drive of this start: the option's, else that of ORVWIN.INI, else the data folder's own.
-std::string drivePath(const HostOptions& options, Files& files, const std::string& systemDir);
+/// Where this start finds its data and its drive: by the options, else by ORVWIN.INI; a data folder that was
+/// given has a drive of its own where nothing else is set. "" for what is not known.
+struct Places {
+  std::string dataDir;
+  std::string drive;
+};
+Places placesOf(const HostOptions& options, Files& files, const std::string& systemDir);
 
 class StartUp {
  public:

@@ -6,6 +6,7 @@
 #include "platform/ports/files.h"
 #include "platform/ports/screen.h"
 #include "playback/upward.h"
+#include "state/marker_files.h"
 
 namespace orvanta {
 
@@ -58,7 +59,7 @@ void Drawer::opendrawer() {
   greyLegends();
   form_.Image11.enabled = false;
   // Stays until the next process has started: that is how the old one knows.
-  files_.write(joinPath(state_.settings.appDir, "ejcd.tmp"), "\"0\"\r\n");
+  setMarker(files_, state_.settings.appDir, kHandOverMarker);
   if (state_.settings.appOptions[2] == 1 && state_.disc.discLoaded == kOn && !leaving_) {
     // Eject opens the drawer, and the open drawer ejects: once round is enough.
     leaving_ = true;

@@ -8,8 +8,8 @@
 #include "platform/ports/dialogs.h"
 #include "platform/ports/disc_tray.h"
 #include "platform/ports/files.h"
-#include "platform/ports/screen.h"
 #include "playback/upward.h"
+#include "state/marker_files.h"
 #include "state/settings_files.h"
 
 namespace orvanta {
@@ -20,7 +20,6 @@ Faceplate::Faceplate(Ports& ports, DiscLoad& discLoad, DeviceLayer& layer, Engin
       tray_(ports.tray),
       dialogs_(ports.dialogs),
       files_(ports.files),
-      screen_(ports.screen),
       discLoad_(discLoad),
       layer_(layer),
       engine_(engine),
@@ -36,7 +35,7 @@ Faceplate::Faceplate(Ports& ports, DiscLoad& discLoad, DeviceLayer& layer, Engin
 void Faceplate::load() {
   if (state_.process.commandWord == "RUNRIPPER") form_.minimised = true;
   // Tells the sibling programs that a player runs.
-  files_.write(joinPath(state_.settings.appDir, "audiocd.tmp"), "\"0\"\r\n");
+  setMarker(files_, state_.settings.appDir, kRunningMarker);
   state_.clearForLoad();
   colours_.loadorvanta1();
   position_.posfp1();
@@ -94,7 +93,7 @@ void Faceplate::activate() {
 void Faceplate::unload() {
   writeSettings(SettingsFile::SettingsDat, files_, state_.settings.appDir, state_.settings);
   state_.disc.trackTableDone = kOff;
-  files_.remove(joinPath(state_.settings.appDir, "audiocd.tmp"));
+  clearMarker(files_, state_.settings.appDir, kRunningMarker);
 }
 
 void Faceplate::mouseDown(forms::Control* control, const forms::Mouse& mouse) {

@@ -36,7 +36,6 @@ class Faceplate : public forms::FormEvents {
   DiscTray& tray_;
   Dialogs& dialogs_;
   Files& files_;
-  Screen& screen_;
   DiscLoad& discLoad_;
   DeviceLayer& layer_;
   Engine& engine_;

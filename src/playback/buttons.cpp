@@ -136,9 +136,7 @@ bool Buttons::entryKey(const forms::KeyPress& key) {
     modes_.stopintro();
     state_.transport.selTrack = static_cast<int16_t>(track - 1);
     engine_.jump();
-    for (size_t lamp = 0; lamp < 20 && state_.settings.repeatOn == kOff; ++lamp) {
-      form_.Label22[lamp].foreColor = state_.settings.lcdColor[kLcdDim];
-    }
+    if (state_.settings.repeatOn == kOff) display_.lamps(20, kLcdDim);
   }
   return true;
 }

@@ -131,17 +131,13 @@ void PlaybackClock::restart() {
   engine_.startOfTrack();
   device_.setFrom(1);
   device_.command("Play");
-  for (size_t lamp = 0; lamp < static_cast<size_t>(state_.disc.lampCount); ++lamp) {
-    form_.Label22[lamp].foreColor = state_.settings.lcdColor[kLcdLit];
-  }
+  display_.lamps(state_.disc.lampCount, kLcdLit);
 }
 
 void PlaybackClock::endOfDisc() {
   TransportState& transport = state_.transport;
   transport.playEnded = kOn;
-  for (size_t lamp = 0; lamp < static_cast<size_t>(state_.disc.lampCount); ++lamp) {
-    form_.Label22[lamp].foreColor = state_.settings.lcdColor[kLcdLit];
-  }
+  display_.lamps(state_.disc.lampCount, kLcdLit);
   device_.command("Stop");
   if (form_.icntlc[Play].visible) engine_.stoppedLook();
   transport.playingFlag = kOff;

@@ -119,7 +119,7 @@ bool PlaybackClock::afterTheEnd() {
 void PlaybackClock::discGone() {
   const auto& colour = state_.settings.lcdColor;
   form_.Label14.foreColor = colour[kLcdDrawer];
-  for (size_t lamp = 0; lamp < 20; ++lamp) form_.Label22[lamp].foreColor = colour[kLcdDim];
+  display_.lamps(20, kLcdDim);
   device_.command("stop");
   device_.command("close");
   state_.transport.playingFlag = state_.transport.pausedFlag = kOff;

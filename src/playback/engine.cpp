@@ -11,6 +11,7 @@
 #include "platform/ports/files.h"
 #include "platform/ports/screen.h"
 #include "playback/upward.h"
+#include "state/marker_files.h"
 
 namespace orvanta {
 
@@ -26,10 +27,6 @@ void Engine::lightMode(size_t mode) {
     form_.Image3[key].visible = key == mode;
     form_.Image4[key].visible = key != mode;
   }
-}
-
-void Engine::lamps(LcdColour colour) {
-  for (size_t lamp = 0; lamp < static_cast<size_t>(state_.disc.lampCount); ++lamp) form_.Label22[lamp].foreColor = state_.settings.lcdColor[colour];
 }
 
 void Engine::startOfTrack() {
@@ -91,13 +88,13 @@ void Engine::mmcontrol1_EjectClick() {
   const auto& colour = state_.settings.lcdColor;
   const bool custom = state_.settings.lcdCustom == 1;
   state_.disc.discLoaded = kOn;
-  files_.remove(joinPath(state_.settings.appDir, "audiocd.tmp"));
+  clearMarker(files_, state_.settings.appDir, kRunningMarker);
   clrab();
   screen_.setPointer(Pointer::Hourglass);
   form_.Label14.foreColor = colour[kLcdDrawer];
   form_.Label30.foreColor = custom ? colour[kLcdDrawer] : 0x004040;
   form_.Label22[20].foreColor = custom ? colour[kLcdDrawer] : 0x004000;
-  for (size_t lamp = 0; lamp < 20; ++lamp) form_.Label22[lamp].foreColor = colour[kLcdDim];
+  display_.lamps(20, kLcdDim);
   state_.disc.drawerOpen = kOn;
   if (state_.transport.introTrack > 0) {
     state_.transport.introTrack = 0;
@@ -179,7 +176,7 @@ void Engine::CDStatusBar_Click(double x) {
 void Engine::clrpgm() {
   state_.program.pgmList.fill(0);
   state_.program.pgmCount = 0;
-  lamps(kLcdDim);
+  display_.lamps(state_.disc.lampCount, kLcdDim);
 }
 
 void Engine::playCompleted(int16_t error) {

@@ -75,7 +75,6 @@ class Engine {
  private:
   void programStep();
   void programEnd();
-  void lamps(LcdColour colour);
 
   CdDevice& device_;
   Clock& clock_;

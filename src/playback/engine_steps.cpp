@@ -188,7 +188,7 @@ void Engine::programEnd() {
     return;
   }
   transport.playEnded = kOn;
-  lamps(kLcdDim);
+  display_.lamps(state_.disc.lampCount, kLcdDim);
   setTimer2Interval(0);
   device_.command("Stop");
   transport.playingFlag = transport.pausedFlag = kOff;

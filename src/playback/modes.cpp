@@ -5,7 +5,6 @@
 #include <random>
 
 #include "base/times.h"
-#include "platform/ports/cd_device.h"
 #include "platform/ports/clock.h"
 #include "platform/ports/screen.h"
 #include "playback/upward.h"
@@ -13,11 +12,7 @@
 namespace orvanta {
 
 Modes::Modes(Ports& ports, Engine& engine, TimeDisplay& display, CDForm& form, SharedState& state, PlaybackUpward& upward)
-    : device_(ports.device), clock_(ports.clock), screen_(ports.screen), engine_(engine), display_(display), form_(form), state_(state), upward_(upward) {}
-
-void Modes::lampsAll(LcdColour colour) {
-  for (size_t lamp = 0; lamp < 20; ++lamp) form_.Label22[lamp].foreColor = state_.settings.lcdColor[colour];
-}
+    : clock_(ports.clock), screen_(ports.screen), engine_(engine), display_(display), form_(form), state_(state), upward_(upward) {}
 
 void Modes::Image4_MouseUp(size_t mode) {
   if (asleep()) return;
@@ -42,7 +37,7 @@ void Modes::enterPgm() {
   state_.disc.discStarted = kOn;
   state_.transport.playMode = Pgm;
   engine_.lightMode(PgmKey);
-  lampsAll(kLcdDim);
+  display_.lamps(20, kLcdDim);
 }
 
 void Modes::enterOne() {
@@ -63,7 +58,7 @@ void Modes::enterCont() {
   engine_.clrpgm();
   state_.transport.playMode = Cont;
   engine_.lightMode(ContKey);
-  lampsAll(kLcdDim);
+  display_.lamps(20, kLcdDim);
 }
 
 void Modes::enterIntro() {
@@ -75,7 +70,7 @@ void Modes::enterIntro() {
   engine_.clrpgm();
   state_.transport.playMode = Cont;
   engine_.lightMode(IntroKey);
-  lampsAll(kLcdDim);
+  display_.lamps(20, kLcdDim);
 }
 
 void Modes::nextMode() {

@@ -33,7 +33,6 @@ class Modes {
 
  private:
   bool asleep() const { return state_.disc.noDiscState > 0 || state_.disc.drawerOpen == kOn; }
-  void lampsAll(LcdColour colour);
   void leaveOne();
   void enterPgm();
   void enterOne();
@@ -41,7 +40,6 @@ class Modes {
   void enterIntro();
   double placeOnBar() const;
 
-  CdDevice& device_;
   Clock& clock_;
   Screen& screen_;
   Engine& engine_;

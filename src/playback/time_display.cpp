@@ -120,6 +120,10 @@ void TimeDisplay::showTrack(int16_t track) {
   form_.Label43.foreColor = state_.settings.lcdColor[none ? kLcdDim : kLcdLit];
 }
 
+void TimeDisplay::lamps(int count, LcdColour colour) {
+  for (int lamp = 0; lamp < count; ++lamp) form_.Label22[static_cast<size_t>(lamp)].foreColor = state_.settings.lcdColor[colour];
+}
+
 void TimeDisplay::clearTime(std::string_view time) {
   form_.Label10.caption = std::string(time);
   form_.CDStatusBar.floodPercent = 0;

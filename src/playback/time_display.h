@@ -31,6 +31,9 @@ class TimeDisplay {
   /// The track's number, in Label8, and its length, in Label43; 0 is no track.
   void showTrack(int16_t track);
 
+  /// The first `count` numbers of the calendar in one colour.
+  void lamps(int count, LcdColour colour);
+
   /// Time, bar and title as after a stop.
   void clearTime(std::string_view time);
 

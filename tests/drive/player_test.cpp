@@ -173,6 +173,7 @@ TEST(Player, PassesAScratchAndGivesUpOnADeadDrive) {
   const auto frameAt = [&](int frame) { return &outputs.samples[static_cast<size_t>(frame - 150) * kShortsPerFrame]; };
   for (const int good : {150, 299, 301, 399, 600, 800}) EXPECT_TRUE(isFrame(good, frameAt(good))) << good;
   for (const int silent : {300, 400, 499}) EXPECT_EQ(*frameAt(silent), 0) << silent;
+  EXPECT_GT(player.skippedFrames(), 100);
   EXPECT_LT(drive.reads, 250) << "a scratch is not read frame by frame";
   outputs.hear(20 * kSecond);
   EXPECT_TRUE(becomes([&] { return player.state() == PlayState::Stopped; }));

@@ -19,6 +19,17 @@ void takeRecords(HostFiles& files, const Settings& settings) {
   }
 }
 
+/// The deck's sounds, where the user has none of that name.
+void takeSounds(HostFiles& files, const std::string& from, const Settings& settings) {
+  const std::string folder = joinPath(settings.appDir, "system");
+  if (!files.makeFolder(folder)) return;
+  for (const std::string& name : files.list(from)) {
+    const std::string own = joinPath(folder, name);
+    if (!endsWithNoCase(name, ".WAV") || files.exists(own)) continue;
+    if (const auto bytes = files.read(joinPath(from, name))) files.write(own, *bytes);
+  }
+}
+
 int run(int argc, char** argv) {
   const HostSystem system({});
   if (argc < 2 || argv[1][0] != '/') {
@@ -32,6 +43,7 @@ int run(int argc, char** argv) {
   bool done = writeMissingSettings(files, settings) && files.makeFolder(system.systemDir());
   if (done && !files.exists(home)) done = writeSettings(SettingsFile::Orvwin, files, system.systemDir(), settings);
   if (done) takeRecords(files, settings);
+  if (done) takeSounds(files, joinPath(system.windowsDir(), "../share/orvanta/system"), settings);
   if (!done) std::fprintf(stderr, "lxinit: %s cannot be written\n", folder.c_str());
   return done ? 0 : 1;
 }

@@ -1,4 +1,4 @@
-// orvplayon DRIVE MEMORY AUDIO: plays a disc on after the deck was switched off. Started by the deck, it knows
+// orvplayon DRIVE MEMORY AUDIO LEVEL: plays a disc on after the deck was switched off. Started by the deck, it knows
 // the disc before it is told to play, holds the drive while it plays, gives the disc to the next deck that asks,
 // and ends with it.
 #include <poll.h>
@@ -13,6 +13,7 @@
 #include "platform/linux/local_socket.h"
 #include "platform/linux/play_on.h"
 #include "platform/linux/sound_choice.h"
+#include "platform/linux/stream_volume.h"
 
 namespace orvanta {
 namespace {
@@ -24,6 +25,8 @@ class PlayOn {
  public:
   PlayOn(DiscSource& drive, SoundOutputs& outputs, const std::string& name)
       : drive_(drive), shared_(drive), player_(shared_, outputs), server_(socketPath("play", name)) {}
+
+  Level& level() { return player_.level(); }
 
   int run() {
     if (server_.fd() < 0) return 1;
@@ -77,7 +80,7 @@ class PlayOn {
 };
 
 int run(int argc, char** argv) {
-  if (argc != 4) {
+  if (argc != 5) {
     std::fprintf(stderr, "orvplayon is started by the deck.\n");
     return 2;
   }
@@ -88,8 +91,10 @@ int run(int argc, char** argv) {
   } else {
     drive = std::make_unique<ImageDrive>(path, "", argv[2]);
   }
-  const Sound sound = makeSound(argv[3]);
-  return PlayOn(*drive, *sound.outputs, path).run();
+  const SoundSetup sound = makeSound(argv[3]);
+  PlayOn playOn(*drive, *sound.outputs, path);
+  const StreamVolume volume(playOn.level(), argv[4]);
+  return playOn.run();
 }
 
 }  // namespace

@@ -12,9 +12,12 @@
 namespace orvanta {
 
 void Exit::exitProgram() {
+  volume_.releaseMute();
   const Settings& settings = state_.settings;
   form_.Label28.foreColor = colours::kDarkRed;
   writeSettings(SettingsFile::SettingsDat, ports_.files, settings.appDir, settings);
+  sounds_.play(Sound::Click);
+  volume_.mixer().tidyUp();
   clearMarker(ports_.files, settings.appDir, kRunningMarker);
   ports_.screen.setPointer(Pointer::Hourglass);
   form_.SSPanel3.backColor = colours::kRed;

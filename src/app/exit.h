@@ -1,20 +1,22 @@
 // The power button: the one way out.
 #pragma once
 
+#include "faceplate/volume.h"
 #include "platform/ports/ports.h"
-#include "playback/engine.h"
 
 namespace orvanta {
 
 class Exit {
  public:
-  Exit(Ports& ports, Engine& engine, CDForm& form, SharedState& state) : ports_(ports), engine_(engine), form_(form), state_(state) {}
+  Exit(Ports& ports, Volume& volume, InterfaceSounds& sounds, CDForm& form, SharedState& state)
+      : ports_(ports), volume_(volume), sounds_(sounds), form_(form), state_(state) {}
   /// Saves, stops the disc unless option 5 leaves it playing, and ends the process.
   [[noreturn]] void exitProgram();
 
  private:
   Ports& ports_;
-  Engine& engine_;
+  Volume& volume_;
+  InterfaceSounds& sounds_;
   CDForm& form_;
   SharedState& state_;
 };

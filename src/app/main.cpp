@@ -21,7 +21,10 @@
 #include "platform/linux/mci_device.h"
 #include "platform/linux/play_on.h"
 #include "platform/linux/player.h"
+#include "platform/linux/mixer_stand_in.h"
 #include "platform/linux/sound_choice.h"
+#include "platform/linux/stream_volume.h"
+#include "platform/linux/wave_player.h"
 #include "platform/qt/form_view.h"
 #include "platform/qt/qt_clock.h"
 #include "platform/qt/qt_dialogs.h"
@@ -80,7 +83,7 @@ int run(int argc, char** argv) {
   auto images = real ? nullptr : std::make_unique<ImageDrive>(path, options.disc, memory);
   auto discs = real ? std::make_unique<CdromDrive>(kernelCdrom(path)) : nullptr;
   DiscSource& drive = real ? static_cast<DiscSource&>(*discs) : *images;
-  const Sound sound = makeSound(options.audio);
+  const SoundSetup sound = makeSound(options.audio);
   auto player = std::make_unique<Player>(drive, *sound.outputs);
 
   prepareQt();
@@ -98,7 +101,13 @@ int run(int argc, char** argv) {
   HostProcesses processes([&clock] { clock.yield(); });
   MciDevice device(*player, clock);
   DriveTray tray(*player, real ? "" : path);
-  Ports ports{device, tray, clock, dialogs, files, processes, screen, system, desktop};
+  const std::string level = data.empty() ? "" : joinPath(data, "level.dat");
+  StreamVolume volume(player->level(), level);
+  const auto master = systemMasterVolume();
+  MixerStandIn mixer(*master);
+  const SoundSetup deckSound = makeSound(options.audio == "default" ? options.audio : "null");
+  WavePlayer sounds(*deckSound.outputs, [] { QApplication::beep(); });
+  Ports ports{device, tray, clock, dialogs, files, processes, screen, system, volume, mixer, sounds, desktop};
   auto orvanta = std::make_unique<Orvanta>(ports);
 
   // The start-up form first: it takes the hand-over file away, upon which a process that made way for
@@ -123,7 +132,7 @@ int run(int argc, char** argv) {
   }
   const int code = gate.ended() ? 0 : QApplication::exec();
   if (player->state() == PlayState::Playing) {
-    handOn(*player, player->playEnd(), path, joinPath(system.windowsDir(), "orvplayon"), {path, memory, options.audio});
+    handOn(*player, player->playEnd(), path, joinPath(system.windowsDir(), "orvplayon"), {path, memory, options.audio, level});
   }
   // A drive that hangs must not hold up the end.
   if (!player->finish(kFarewell)) std::_Exit(code);

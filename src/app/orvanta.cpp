@@ -17,12 +17,17 @@ Orvanta::Orvanta(Ports& ports)
       buttons_(engine_, modes_, display_, form, state, *this),
       clock_(ports, layer_, discLoad_, engine_, modes_, buttons_, display_, form, state, *this),
       position_(ports.files, ports.screen, form, state),
+      layout_(ports.screen, position_, form, state),
+      sounds_(ports, state),
+      mixer_(ports, form, state),
+      volume_(ports, layout_, mixer_, sounds_, form, state),
+      colours_(ports.files, ports.screen, layout_, form, state),
       records_(ports.files, state.disc, state.settings, state.program),
-      drawer_(ports.clock, ports.files, ports.screen, engine_, form, state, *this),
-      exit_(ports, engine_, form, state),
-      restart_(ports, state),
-      record_(ports, position_, form, state),
-      faceplate_(ports, discLoad_, layer_, engine_, modes_, clock_, buttons_, colours_, position_, form, state, *this) {
+      drawer_(ports, engine_, sounds_, form, state, *this),
+      exit_(ports, volume_, sounds_, form, state),
+      restart_(ports, volume_, state),
+      record_(ports, position_, volume_, form, state),
+      faceplate_(ports, {discLoad_, layer_, engine_, modes_, clock_, buttons_, colours_, position_, layout_, volume_, sounds_}, form, state, *this) {
   form.setEvents(&faceplate_);
 }
 
@@ -40,6 +45,23 @@ bool Orvanta::readCdRecord(const std::string& /*cdFilePath*/) {
   return true;
 }
 
+/// Without sliders the keys for the level open the mixer.
+void Orvanta::muteKey() {
+  if (state.settings.soundMode == kNoSliders) {
+    runMixer();
+  } else {
+    volume_.Image2_MouseUp(volume_.muted() ? 0 : 1);
+  }
+}
+
+void Orvanta::volumeKey(bool up) {
+  if (state.settings.soundMode == kNoSliders) {
+    runMixer();
+  } else {
+    volume_.stepBoth(up ? 1 : -1);
+  }
+}
+
 void Orvanta::runSetup() {
   form.minimised = true;
   ports_.processes.runAndWait({{joinPath(state.process.windowsDir, "orvsetup"), "ACTIVELX"}, state.settings.appDir, WindowStyle::Normal});
@@ -47,6 +69,7 @@ void Orvanta::runSetup() {
     readSettings(file, ports_.files, state.settings.appDir, state.settings);
   }
   colours_.loadorvanta1();
+  colours_.loadorvanta1b();
   if (state.disc.noDiscState == 0 && state.disc.drawerOpen == kOff) colours_.loadorvanta1a();
   form.minimised = false;
 }

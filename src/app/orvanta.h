@@ -7,6 +7,10 @@
 #include "app/start_up.h"
 #include "faceplate/drawer.h"
 #include "faceplate/faceplate.h"
+#include "faceplate/interface_sounds.h"
+#include "faceplate/layout.h"
+#include "faceplate/mixer_driver.h"
+#include "faceplate/volume.h"
 #include "library/cd_records.h"
 #include "platform/ports/ports.h"
 #include "playback/upward.h"
@@ -33,14 +37,14 @@ class Orvanta : private PlaybackUpward {
   void restartForDisc() override { restart_.forDisc(); }
   void runSetup() override;
   void record() override { record_.run(); }
+  void runMixer() override { sounds_.runMixer(); }
+  void muteKey() override;
+  void volumeKey(bool up) override;
   bool readCdRecord(const std::string& cdFilePath) override;
   int16_t readTimeCorrection() override { return records_.readTimeCorrection(); }
   std::optional<std::vector<int>> readProgram() override { return records_.readProgram(); }
 
   // Windows and programs that are still to come aboard; their keys do nothing yet.
-  void runMixer() override {}
-  void muteKey() override {}
-  void volumeKey(bool /*up*/) override {}
   void showHelp(int /*topic*/) override {}
   void showMenu() override {}
   void showCdData() override {}
@@ -59,8 +63,12 @@ class Orvanta : private PlaybackUpward {
   Modes modes_;
   Buttons buttons_;
   PlaybackClock clock_;
-  DisplayColours colours_{form, state};
   Position position_;
+  Layout layout_;
+  InterfaceSounds sounds_;
+  MixerDriver mixer_;
+  Volume volume_;
+  DisplayColours colours_;
   CdRecords records_;
   Drawer drawer_;
   Exit exit_;

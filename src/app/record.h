@@ -2,6 +2,7 @@
 #pragma once
 
 #include "faceplate/position.h"
+#include "faceplate/volume.h"
 #include "platform/ports/ports.h"
 #include "state/shared_state.h"
 #include "windows/cdform.h"
@@ -10,8 +11,8 @@ namespace orvanta {
 
 class RecorderLaunch {
  public:
-  RecorderLaunch(Ports& ports, Position& position, CDForm& form, SharedState& state)
-      : ports_(ports), position_(position), form_(form), state_(state) {}
+  RecorderLaunch(Ports& ports, Position& position, Volume& volume, CDForm& form, SharedState& state)
+      : ports_(ports), position_(position), volume_(volume), form_(form), state_(state) {}
   /// Saves, lets go of the drive, starts the recorder with the disc's texts, and ends the process.
   [[noreturn]] void run();
 
@@ -20,6 +21,7 @@ class RecorderLaunch {
 
   Ports& ports_;
   Position& position_;
+  Volume& volume_;
   CDForm& form_;
   SharedState& state_;
 };

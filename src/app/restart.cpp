@@ -15,6 +15,7 @@ namespace orvanta {
 void Restart::forDisc() {
   const std::string& folder = state_.settings.appDir;
   const std::string handOver = joinPath(folder, kHandOverMarker);
+  volume_.releaseMute();
   writeSettings(SettingsFile::SettingsDat, ports_.files, folder, state_.settings);
   setMarker(ports_.files, folder, kHandOverMarker);
   ProcessRequest request{{joinPath(state_.process.windowsDir, "orvanlx")}, folder, WindowStyle::Normal};

@@ -1,6 +1,7 @@
 // The change to a new process: for another disc, and for the setup program's answers.
 #pragma once
 
+#include "faceplate/volume.h"
 #include "platform/ports/ports.h"
 #include "state/shared_state.h"
 
@@ -8,7 +9,7 @@ namespace orvanta {
 
 class Restart {
  public:
-  Restart(Ports& ports, SharedState& state) : ports_(ports), state_(state) {}
+  Restart(Ports& ports, Volume& volume, SharedState& state) : ports_(ports), volume_(volume), state_(state) {}
 
   /// Saves, starts a new process and ends this one once the new one has taken the hand-over file
   /// away. Comes back when the new one died before that, or cannot be started.
@@ -16,6 +17,7 @@ class Restart {
 
  private:
   Ports& ports_;
+  Volume& volume_;
   SharedState& state_;
 };
 

@@ -103,7 +103,7 @@ void StartUp::readSettingsFiles() {
   // A mixer beside the programs, or in their subfolder, serves where none was chosen.
   std::string mixer = joinPath(state_.process.windowsDir, "sndvol32.exe");
   if (!ports_.files.exists(mixer)) mixer = joinPath(state_.process.windowsDir, "system32/sndvol32.exe");
-  if (settings.mixerPath.empty() && ports_.files.exists(mixer)) settings.mixerPath = mixer;
+  if (settings.mixerPath.empty()) settings.mixerPath = ports_.files.exists(mixer) ? mixer : ports_.system.mixerProgram();
 }
 
 void StartUp::takeWord(const std::string& line) {

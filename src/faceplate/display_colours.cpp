@@ -3,6 +3,11 @@
 
 #include <algorithm>
 
+#include "base/text.h"
+#include "faceplate/layout.h"
+#include "platform/ports/files.h"
+#include "platform/ports/screen.h"
+
 namespace orvanta {
 
 namespace {
@@ -11,6 +16,9 @@ constexpr Colour kGreen = 0x00FF00;
 constexpr Colour kCyan = 0xFFFF00;
 constexpr Colour kDarkGreen = 0x004000;
 constexpr Colour kDarkYellow = 0x004040;
+constexpr Colour kSpareCell = 0x2F2F2F;
+constexpr Colour kDarkCell = 0x4F4F4F;
+constexpr Colour kModelOnPicture = 0xCAC1AC;
 
 void fore(std::initializer_list<forms::Label*> labels, Colour colour) {
   for (auto* label : labels) label->foreColor = colour;
@@ -19,18 +27,152 @@ void fore(std::initializer_list<forms::Label*> labels, Colour colour) {
 }  // namespace
 
 void DisplayColours::loadorvanta1() {
-  if (state_.settings.showLights == 0) {
-    for (auto& lamp : form_.Shape15) lamp.visible = false;
-  }
+  for (auto& lamp : form_.Shape15) lamp.visible = state_.settings.showLights != 0;
+  fonts();
+  legendFonts();
   if (state_.settings.lcdCustom == 1) {
     customDisplay();
   } else {
     plainDisplay();
   }
+  spareLamps();
   form_.Label21.foreColor = state_.settings.lcdColor[state_.settings.repeatOn == kOn ? kLcdRepeatOn : kLcdRepeatOff];
   form_.CDStatusBar.visible = true;
   form_.VbarbtmL.backColor = state_.settings.customColor[4];
   form_.VbarbtmR.backColor = state_.settings.customColor[4];
+  titleFonts();
+  background();
+  pictures();
+}
+
+/// Without the display's font plain digits serve, and the time key's caption goes a little up.
+void DisplayColours::fonts() {
+  const bool coarse = state_.process.smallFonts == kOn;
+  if (screen_.hasFont(form_.Label8.font.get().family) && state_.settings.noLcdFont != 1) {
+    if (!coarse) return;
+    form_.Label24.move(5330, 2320);
+    form_.Label33.top = 360;
+    return;
+  }
+  form_.Label8.font = forms::Font{"Arial", 19, true};
+  form_.Label33.font = forms::Font{"Arial", 19};
+  form_.Label10.font = forms::Font{"Arial", 12, coarse || form_.Label10.font.get().bold};
+  form_.Label24.font = coarse ? forms::Font{"Arial", 8, true} : forms::Font{"Arial", form_.Label24.font.get().points, form_.Label24.font.get().bold};
+  if (coarse) {
+    form_.Label24.move(5370, 2280);
+  } else {
+    form_.Label24.move(5380, 2290);
+  }
+  form_.Label24.width = 375;
+  form_.Label24.height = 195;
+}
+
+void DisplayColours::legendFonts() {
+  if (screen_.hasFont(form_.Label77[0].font.get().family)) return;
+  const auto plain = [](forms::Label& label) {
+    forms::Font font = label.font;
+    font.family = "Arial";
+    label.font = font;
+  };
+  for (auto& label : form_.Label77) plain(label);
+  for (auto& label : form_.Label78) plain(label);
+}
+
+/// Cells of the calendar without a track stay dark.
+void DisplayColours::spareLamps() {
+  const int tracks = state_.disc.trackCount;
+  if (tracks <= 10) {
+    for (size_t lamp = 1; lamp <= 25; ++lamp) form_.Label22[lamp].foreColor = kSpareCell;
+    return;
+  }
+  for (int i = 1; i <= 15; ++i) {
+    auto& label = form_.Label22[static_cast<size_t>(i + 10)];
+    if (i > tracks) {
+      label.foreColor = kSpareCell;
+    } else if (state_.settings.lcdCustom == 1) {
+      label.foreColor = kDarkCell;
+    }
+  }
+}
+
+/// The user's fonts for the two title lines, when the first is named.
+void DisplayColours::titleFonts() {
+  if (state_.settings.fonts[0].fontName.empty()) return;
+  forms::Label* labels[] = {&form_.Label12, &form_.Label13};
+  for (size_t i = 0; i < 2; ++i) {
+    const FontGroup& group = state_.settings.fonts[i];
+    forms::Font font = labels[i]->font;
+    if (!group.fontName.empty()) font.family = group.fontName;
+    if (group.fontSize > 0) font.points = group.fontSize;
+    font.bold = group.fontBold != 0;
+    font.italic = group.fontItalic != 0;
+    font.underline = group.fontUnderline != 0;
+    labels[i]->font = font;
+    if (state_.settings.lcdCustom != 1) labels[i]->foreColor = group.fontColor;
+  }
+  layout_.layTitles();
+}
+
+/// The picture that the user has put behind it all; it takes the window's own colour away.
+void DisplayColours::background() {
+  Settings& settings = state_.settings;
+  const bool border = settings.faceplateBorder == 1;
+  const bool large = form_.width > form_.designPlace(form_.Image8).width - 100;
+  for (auto* line : {&form_.Line2, &form_.Line3, &form_.Line4, &form_.Line5}) line->visible = border && large;
+  const bool picture = settings.faceplateBitmapOn > 0 && !settings.faceplateBitmap.empty() && files_.exists(settings.faceplateBitmap);
+  form_.Image8.picture = picture ? settings.faceplateBitmap : std::string();
+  if (!picture) return;
+  settings.customColor[1] = 0;
+  if (border) return;
+  form_.Label41.foreColor = kModelOnPicture;
+  if (large) layout_.sizeLarge();
+}
+
+/// Pictures in the data folder's "system" take the place of the deck's own drawings, one by one.
+void DisplayColours::pictures() {
+  if (state_.process.smallFonts != kOn) return;
+  const auto load = [this](forms::Image& image, const char* name) {
+    const std::string path = joinPath(joinPath(state_.settings.appDir, "system"), name);
+    image.picture = files_.exists(path) ? path : std::string();
+    return !image.picture.get().empty();
+  };
+  load(form_.Image5, "apower1.bmp");
+  for (auto* pair : {&form_.Image9, &form_.Image19, &form_.Image20}) {
+    load((*pair)[0], "acblueds.bmp");
+    load((*pair)[1], "acbluels.bmp");
+  }
+  load(form_.Image2[0], "acredls.bmp");
+  load(form_.Image2[1], "acredds.bmp");
+  static constexpr const char* kTransport[] = {"zpreva.bmp", "znexta.bmp", "zplaya.bmp", "zpausea.bmp", "zstopa.bmp", "zrecorda.bmp"};
+  static constexpr const char* kScan[] = {"afrewa1.bmp", "ambtns1.bmp", "ambtns1.bmp", "affwda1.bmp"};
+  // The rows are a set: without its first picture none of it is taken.
+  if (!load(form_.icntla[Previous], kTransport[Previous])) return;
+  for (size_t key = Next; key <= Record; ++key) load(form_.icntla[key], kTransport[key]);
+  for (size_t key = 0; key < 4; ++key) load(form_.scntla[key], kScan[key]);
+  form_.Label17.left = 5910;
+  form_.Label17.width = 465;
+}
+
+void DisplayColours::loadorvanta1b() {
+  const auto& colour = state_.settings.customColor;
+  const auto paint = [](std::initializer_list<forms::Control*> controls, Colour back) {
+    for (auto* control : controls) control->backColor = back;
+  };
+  if (colour[1] + uint64_t{colour[2]} + colour[3] + colour[4] > 0) {
+    for (auto* line : {&form_.Line2, &form_.Line3, &form_.Line4, &form_.Line5}) line->foreColor = colour[0];
+    form_.backColor = colour[1];
+    paint({&form_.Label1, &form_.Label2, &form_.Label3, &form_.Label4, &form_.Label5}, colour[1]);
+    paint({&form_.Panel3D2, &form_.Panel3D6, &form_.Panel3D7, &form_.Panel3D8}, colour[2]);
+    paint({&form_.Panel3D3, &form_.SSPanel1}, colour[3]);
+  }
+  if (state_.settings.lcdCustom != 1 && colour[4] != state_.settings.lcdFore) form_.CDStatusBar.floodColor = colour[4];
+  if (!form_.Image2[0].visible) form_.VbarbtmL.backColor = form_.VbarbtmR.backColor = colour[4];
+  if (colour[9] != 0) fore({&form_.Label7, &form_.Label9, &form_.Label11}, colour[9]);
+  if (colour[10] != 0) fore({&form_.Label8, &form_.Label10}, colour[10]);
+  // A legend in the colour of its ground could not be read.
+  if (form_.Label1.foreColor == form_.Label1.backColor) {
+    fore({&form_.Label1, &form_.Label2, &form_.Label3, &form_.Label4, &form_.Label5, &form_.Label15}, colours::kBlack);
+  }
 }
 
 void DisplayColours::customDisplay() {

@@ -6,21 +6,38 @@
 
 namespace orvanta {
 
+class Files;
+class Layout;
+class Screen;
+
 class DisplayColours {
  public:
-  DisplayColours(CDForm& form, SharedState& state) : form_(form), state_(state) {}
+  DisplayColours(Files& files, Screen& screen, Layout& layout, CDForm& form, SharedState& state)
+      : files_(files), screen_(screen), layout_(layout), form_(form), state_(state) {}
 
-  /// All display colours, at the faceplate's load.
+  /// Fonts, all display colours and the background picture, at the faceplate's load and after a visit to
+  /// the setup program.
   void loadorvanta1();
+  /// The user's own colours, at each activation.
+  void loadorvanta1b();
   /// The track grid, once the track count is known.
   void loadorvanta1a();
   /// The look without an audio disc in the drive, with its prompt.
   void disabledLook();
 
  private:
+  void fonts();
+  void legendFonts();
   void customDisplay();
   void plainDisplay();
+  void spareLamps();
+  void titleFonts();
+  void background();
+  void pictures();
 
+  Files& files_;
+  Screen& screen_;
+  Layout& layout_;
   CDForm& form_;
   SharedState& state_;
 };

@@ -2,8 +2,10 @@
 #include "faceplate/drawer.h"
 
 #include "base/text.h"
+#include "faceplate/interface_sounds.h"
 #include "platform/ports/clock.h"
 #include "platform/ports/files.h"
+#include "platform/ports/ports.h"
 #include "platform/ports/screen.h"
 #include "playback/upward.h"
 #include "state/marker_files.h"
@@ -24,9 +26,8 @@ constexpr Spot kDoorFrame{1320, 480};
 constexpr Spot kDoorClosed{1320, 4920};
 constexpr Spot kTrayFrame{1260, 540};
 constexpr Spot kTrayClosed{1260, 5880};
-constexpr Spot kOpenMain{1200, 600};
+constexpr Spot kOpenMain{1200, kOpenTrayTop};
 constexpr Spot kOpenRight{4690, 840};
-constexpr int kOpenLowerTop = 1570;
 // Where the slices of the open tray wait, anywhere but at their open places.
 constexpr int kParkedMain = 7080;
 constexpr int kParkedRight = 7320;
@@ -45,12 +46,16 @@ void bevels(forms::Panel& panel, int style) {
 
 }  // namespace
 
+Drawer::Drawer(Ports& ports, Engine& engine, InterfaceSounds& sounds, CDForm& form, SharedState& state, PlaybackUpward& upward)
+    : clock_(ports.clock), files_(ports.files), screen_(ports.screen), engine_(engine), sounds_(sounds), form_(form), state_(state), upward_(upward) {}
+
 bool Drawer::isOpen() const { return form_.Panel3D7.top == kOpenMain.top; }
 
 bool Drawer::slides() const { return state_.settings.smallFaceplate == 0 && state_.settings.expandedDisplay == 0; }
 
 void Drawer::opendrawer() {
   if (isOpen()) return;
+  if (form_.Panel3D6.visible) sounds_.play(Sound::OpenDrawer);
   for (const size_t key : {0U, 3U}) form_.scntlb[key].visible = false;
   for (auto& mask : form_.icntlb) mask.visible = false;
   for (const size_t key : {Play, Pause, Stop}) form_.icntlc[key].visible = false;
@@ -84,9 +89,10 @@ void Drawer::openFrames() {
   form_.Panel3D8.visible = false;
   place(form_.Panel3D7, kOpenMain);
   place(form_.Panel3D9, kOpenRight);
-  place(form_.Panel3D10, {form_.Panel3D10.left, kOpenLowerTop});
+  place(form_.Panel3D10, {form_.Panel3D10.left, kOpenTrayLowerTop});
   form_.Panel3D1.refresh();
   form_.Panel3D2.refresh();
+  form_.Label1.refresh();
 }
 
 void Drawer::closedrawer() {

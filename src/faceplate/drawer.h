@@ -9,13 +9,17 @@ namespace orvanta {
 
 class Clock;
 class Files;
+class InterfaceSounds;
 class PlaybackUpward;
 class Screen;
 
+/// Panel3D7 and Panel3D10 at these tops: the drawer stands open.
+constexpr int kOpenTrayTop = 600;
+constexpr int kOpenTrayLowerTop = 1570;
+
 class Drawer {
  public:
-  Drawer(Clock& clock, Files& files, Screen& screen, Engine& engine, CDForm& form, SharedState& state, PlaybackUpward& upward)
-      : clock_(clock), files_(files), screen_(screen), engine_(engine), form_(form), state_(state), upward_(upward) {}
+  Drawer(Ports& ports, Engine& engine, InterfaceSounds& sounds, CDForm& form, SharedState& state, PlaybackUpward& upward);
 
   /// Nothing when it stands open. With option 2 and a disc it ejects and ends the process.
   void opendrawer();
@@ -34,6 +38,7 @@ class Drawer {
   Files& files_;
   Screen& screen_;
   Engine& engine_;
+  InterfaceSounds& sounds_;
   CDForm& form_;
   SharedState& state_;
   PlaybackUpward& upward_;

@@ -14,20 +14,13 @@
 
 namespace orvanta {
 
-Faceplate::Faceplate(Ports& ports, DiscLoad& discLoad, DeviceLayer& layer, Engine& engine, Modes& modes, PlaybackClock& clock,
-                     Buttons& buttons, DisplayColours& colours, Position& position, CDForm& form, SharedState& state, PlaybackUpward& upward)
+Faceplate::Faceplate(Ports& ports, const FaceplateParts& parts, CDForm& form, SharedState& state, PlaybackUpward& upward)
     : device_(ports.device),
       tray_(ports.tray),
       dialogs_(ports.dialogs),
       files_(ports.files),
-      discLoad_(discLoad),
-      layer_(layer),
-      engine_(engine),
-      modes_(modes),
-      clock_(clock),
-      buttons_(buttons),
-      colours_(colours),
-      position_(position),
+      on_(parts),
+      look_(form, state),
       form_(form),
       state_(state),
       upward_(upward) {}
@@ -37,30 +30,32 @@ void Faceplate::load() {
   // Tells the sibling programs that a player runs.
   setMarker(files_, state_.settings.appDir, kRunningMarker);
   state_.clearForLoad();
-  colours_.loadorvanta1();
-  position_.posfp1();
+  // The title lines are laid out by what they hold.
+  form_.Label12.tellsText = true;
+  on_.colours.loadorvanta1();
   if (state_.process.colourCount < 257) {
     form_.Panel3D2.backColor = form_.Panel3D3.backColor = 0x400000;
     form_.backColor = 0x400000;
   }
-  const bool disc = discLoad_.probe();
+  on_.layout.apply();
+  const bool disc = on_.discLoad.probe();
   setPlayState();
   if (disc) {
     const auto program = upward_.readProgram();
     state_.program.pgmStored = program && !program->empty() && program->front() >= 1 ? kOn : kOff;
     state_.disc.timeCorrection = upward_.readTimeCorrection();
   }
-  colours_.loadorvanta1a();
+  on_.colours.loadorvanta1a();
   if (disc && device_.mode() == DeviceMode::Playing) {
-    discLoad_.deferredTable();
-    engine_.adoptRunningDisc();
+    on_.discLoad.deferredTable();
+    on_.engine.adoptRunningDisc();
   }
   if (disc && leadingNumber(state_.process.commandWord) > 0) {
     playTrackOfCommandLine();
   } else if (state_.settings.appOptions[3] == 1) {
     upward_.runMixer();
   }
-  clock_.start();
+  on_.clock.start();
 }
 
 /// A number above the disc's tracks is passed over.
@@ -69,10 +64,10 @@ void Faceplate::playTrackOfCommandLine() {
   state_.process.commandWord.clear();
   state_.process.autoStartMode = kOff;
   if (track > state_.disc.trackCount) return;
-  state_.disc.discSum = layer_.sumOfTracks();
-  discLoad_.deferredTable();
+  state_.disc.discSum = on_.layer.sumOfTracks();
+  on_.discLoad.deferredTable();
   state_.transport.selTrack = static_cast<int16_t>(track - 1);
-  engine_.jump();
+  on_.engine.jump();
   state_.transport.curTrack = track;
 }
 
@@ -87,7 +82,9 @@ void Faceplate::setPlayState() {
 }
 
 void Faceplate::activate() {
-  if (state_.disc.noDiscState > 0) colours_.disabledLook();
+  on_.volume.activate();
+  on_.colours.loadorvanta1b();
+  if (state_.disc.noDiscState > 0) on_.colours.disabledLook();
 }
 
 void Faceplate::unload() {
@@ -97,20 +94,36 @@ void Faceplate::unload() {
 }
 
 void Faceplate::mouseDown(forms::Control* control, const forms::Mouse& mouse) {
+  if (control != nullptr && on_.volume.mouseDown(*control, mouse)) return;
   if (mouse.button != forms::MouseButton::Left) return;
   if (control == nullptr || control == &form_.Image8) {
     if (form_.view() != nullptr) form_.view()->drag();
-  } else if (control->name() == "icntla") {
-    const auto key = static_cast<size_t>(control->index());
-    keyTaken_ = buttons_.accepts(key);
-    if (keyTaken_) buttons_.icntla_MouseDown(key);
-  } else if (control->name() == "scntla") {
-    buttons_.scntla_MouseDown(static_cast<size_t>(control->index()));
+  } else {
+    pressed(*control);
   }
 }
 
+void Faceplate::pressed(forms::Control& control) {
+  const auto index = static_cast<size_t>(std::max(control.index(), 0));
+  if (control.name() == "icntla") {
+    keyTaken_ = on_.buttons.accepts(index);
+    if (!keyTaken_) return;
+    on_.sounds.play(Sound::Click);
+    on_.buttons.icntla_MouseDown(index);
+    return;
+  }
+  if (control.tabStop) on_.sounds.play(Sound::Click1);
+  look_.down(control);
+  if (control.name() == "scntla") on_.buttons.scntla_MouseDown(index);
+}
+
+void Faceplate::mouseMove(forms::Control* control, const forms::Mouse& mouse) {
+  if (control != nullptr && form_.pressed() == control) on_.volume.mouseMove(*control, mouse);
+}
+
 void Faceplate::mouseUp(forms::Control* control, const forms::Mouse& mouse) {
-  if (control == nullptr) return;
+  look_.up();
+  if (control == nullptr || on_.volume.mouseUp(*control)) return;
   if (mouse.button == forms::MouseButton::Right) {
     rightReleased(*control);
   } else {
@@ -118,35 +131,79 @@ void Faceplate::mouseUp(forms::Control* control, const forms::Mouse& mouse) {
   }
 }
 
+/// The wheel moves a slider, and the place on the bar.
+void Faceplate::wheel(forms::Control& control, int notches) {
+  constexpr int kStep = 5;  // percent of the track
+  if (on_.volume.step(control, notches) || &control != &form_.CDStatusBar) return;
+  const int percent = form_.CDStatusBar.floodPercent + notches * kStep;
+  if (percent > 0 && percent < 100) on_.buttons.CDStatusBar_Click(form_.CDStatusBar.width * percent / 100 + kBarMargin);
+}
+
+void Faceplate::textChanged(forms::Control& control) {
+  if (&control == &form_.Label12) on_.layout.layTitles();
+}
+
+/// Arrows move the slider that has the focus.
+bool Faceplate::sliderKey(const forms::KeyPress& key) {
+  const bool up = key.code == forms::key::kUp || key.code == forms::key::kRight;
+  const bool down = key.code == forms::key::kDown || key.code == forms::key::kLeft;
+  if (form_.activeControl() == nullptr || (!up && !down)) return false;
+  return on_.volume.step(*form_.activeControl(), up ? 1 : -1);
+}
+
+bool Faceplate::panelReleased(const std::string& name, size_t index) {
+  if (name == "Image2") {
+    on_.volume.Image2_MouseUp(index);
+  } else if (name == "Image9") {
+    on_.volume.Image9_MouseUp(index);
+  } else if (name == "PctL") {
+    on_.volume.PctL_Click();
+  } else if (name == "PctR") {
+    on_.volume.PctR_Click();
+  } else if (name == "Image19" || name == "Command3D16") {
+    upward_.runMixer();
+  } else if (name == "Image20") {
+    on_.layout.Image20_MouseUp();
+  } else if (name == "Image11") {
+    on_.layout.Image11_Click();
+  } else if (name == "Image13") {
+    on_.layout.Image13_Click();
+  } else {
+    return false;
+  }
+  return true;
+}
+
 void Faceplate::released(const std::string& name, size_t index, const forms::Mouse& mouse) {
+  if (panelReleased(name, index)) return;
   if (name == "icntla") {
-    if (keyTaken_) buttons_.icntla_MouseUp(index);
+    if (keyTaken_) on_.buttons.icntla_MouseUp(index);
     keyTaken_ = false;
   } else if (name == "scntla") {
-    buttons_.scntla_MouseUp(index);
+    on_.buttons.scntla_MouseUp(index);
   } else if (name == "Image17") {
-    buttons_.Image17_MouseUp(index);
+    on_.buttons.Image17_MouseUp(index);
   } else if (name == "Image16") {
-    buttons_.Image16_MouseUp(index);
+    on_.buttons.Image16_MouseUp(index);
   } else if (name == "Image4") {
-    modes_.Image4_MouseUp(index);
+    on_.modes.Image4_MouseUp(index);
     // A person who picks Pgm wants to make a program.
     if (index == PgmKey && state_.disc.noDiscState == 0 && state_.disc.drawerOpen == kOff) upward_.showPlaylist();
   } else if (name == "Image10") {
     if (index == 1) upward_.showCdData();
     if (index == 2) upward_.showPlaylist();
   } else if (name == "Label6") {
-    modes_.nextMode();
+    on_.modes.nextMode();
   } else if (name == "Label9") {
-    buttons_.Label9_Click();
+    on_.buttons.Label9_Click();
   } else if (name == "Label30") {
-    modes_.Label30_Click();
+    on_.modes.Label30_Click();
   } else if (name == "Label14" || name == "Image12") {
     upward_.launchEnhancedDisc();
   } else if (name == "CDStatusBar") {
-    buttons_.CDStatusBar_Click(mouse.x);
+    on_.buttons.CDStatusBar_Click(mouse.x);
   } else if (name == "Panel3D2") {
-    if (state_.disc.drawerOpen != kOn && state_.disc.noDiscState == 0) engine_.mmcontrol1_EjectClick();
+    if (state_.disc.drawerOpen != kOn && state_.disc.noDiscState == 0) on_.engine.mmcontrol1_EjectClick();
   } else if (name == "Panel3D7" || name == "Panel3D9" || name == "Panel3D10") {
     askForDisc();
   } else if (name == "Image5" || name == "Image6") {
@@ -155,14 +212,16 @@ void Faceplate::released(const std::string& name, size_t index, const forms::Mou
 }
 
 void Faceplate::rightReleased(const forms::Control& control) {
-  if (&control == &form_.Image10[2] && state_.program.pgmStored == kOn) modes_.Label30_Click();
+  if (&control == &form_.SSPanel1) on_.volume.SSPanel1_RightClick();
+  if (&control == &form_.Command3D16) on_.volume.Command3D16_RightClick();
+  if (&control == &form_.Image10[2] && state_.program.pgmStored == kOn) on_.modes.Label30_Click();
 }
 
 void Faceplate::doubleClick(forms::Control* control) {
-  if (control == nullptr || control == &form_.Image8) position_.Form_DblClick();
+  if (control == nullptr || control == &form_.Image8) on_.position.Form_DblClick();
 }
 
-void Faceplate::dragged() { position_.saveposn1(); }
+void Faceplate::dragged() { on_.position.saveposn1(); }
 
 /// A click on the open tray: a real one is pushed shut, the tray of images asks which one to take.
 void Faceplate::askForDisc() {
@@ -179,7 +238,7 @@ void Faceplate::askForDisc() {
 
 void Faceplate::fileDropped(const std::string& path) { tray_.offer(path); }
 
-bool Faceplate::keyDown(const forms::KeyPress& key) { return buttons_.keyDown(key); }
+bool Faceplate::keyDown(const forms::KeyPress& key) { return on_.buttons.keyDown(key) || sliderKey(key); }
 
 void Faceplate::closeAsked() { upward_.exitProgram(); }
 

@@ -2,23 +2,44 @@
 #pragma once
 
 #include "faceplate/display_colours.h"
+#include "faceplate/interface_sounds.h"
+#include "faceplate/layout.h"
 #include "faceplate/position.h"
+#include "faceplate/pressed_look.h"
+#include "faceplate/volume.h"
 #include "platform/forms/form.h"
 #include "playback/buttons.h"
 #include "playback/clock.h"
 
 namespace orvanta {
 
+/// The parts of the core that the faceplate's events reach.
+struct FaceplateParts {
+  DiscLoad& discLoad;
+  DeviceLayer& layer;
+  Engine& engine;
+  Modes& modes;
+  PlaybackClock& clock;
+  Buttons& buttons;
+  DisplayColours& colours;
+  Position& position;
+  Layout& layout;
+  Volume& volume;
+  InterfaceSounds& sounds;
+};
+
 class Faceplate : public forms::FormEvents {
  public:
-  Faceplate(Ports& ports, DiscLoad& discLoad, DeviceLayer& layer, Engine& engine, Modes& modes, PlaybackClock& clock, Buttons& buttons,
-            DisplayColours& colours, Position& position, CDForm& form, SharedState& state, PlaybackUpward& upward);
+  Faceplate(Ports& ports, const FaceplateParts& parts, CDForm& form, SharedState& state, PlaybackUpward& upward);
 
   void load() override;
   void activate() override;
   void unload() override;
   void mouseDown(forms::Control* control, const forms::Mouse& mouse) override;
+  void mouseMove(forms::Control* control, const forms::Mouse& mouse) override;
   void mouseUp(forms::Control* control, const forms::Mouse& mouse) override;
+  void wheel(forms::Control& control, int notches) override;
+  void textChanged(forms::Control& control) override;
   void doubleClick(forms::Control* control) override;
   void dragged() override;
   bool keyDown(const forms::KeyPress& key) override;
@@ -27,8 +48,11 @@ class Faceplate : public forms::FormEvents {
 
  private:
   void setPlayState();
+  void pressed(forms::Control& control);
   void released(const std::string& name, size_t index, const forms::Mouse& mouse);
+  bool panelReleased(const std::string& name, size_t index);
   void rightReleased(const forms::Control& control);
+  bool sliderKey(const forms::KeyPress& key);
   void playTrackOfCommandLine();
   void askForDisc();
 
@@ -36,14 +60,8 @@ class Faceplate : public forms::FormEvents {
   DiscTray& tray_;
   Dialogs& dialogs_;
   Files& files_;
-  DiscLoad& discLoad_;
-  DeviceLayer& layer_;
-  Engine& engine_;
-  Modes& modes_;
-  PlaybackClock& clock_;
-  Buttons& buttons_;
-  DisplayColours& colours_;
-  Position& position_;
+  FaceplateParts on_;
+  PressedLook look_;
   CDForm& form_;
   SharedState& state_;
   PlaybackUpward& upward_;

@@ -103,6 +103,8 @@ void Engine::mmcontrol1_EjectClick() {
     lightMode(Cont);
     form_.Label30.caption = "Pgm Stored";
   }
+  state_.volume.leftAttenPrev = state_.volume.leftAtten;
+  state_.volume.rightAttenPrev = state_.volume.rightAtten;
   state_.transport.playingFlag = kOff;
   state_.transport.pausedFlag = kOff;
   display_.showTrack(0);
@@ -166,11 +168,10 @@ void Engine::seekFraction(std::string_view length, double x) {
 
 /// The loop of A-B comes this way too, with its own places; the offset shifts its return a little.
 void Engine::CDStatusBar_Click(double x) {
-  constexpr double kOffset = 84;
   const int16_t track = state_.transport.curTrack;
   if (state_.transport.playingFlag != kOn || state_.disc.drawerOpen == kOn || track < 1 || track > 100) return;
   state_.display.lastShownTrack = state_.display.lastShownSec = 0;
-  seekFraction(state_.disc.trackLengths[static_cast<size_t>(track)], std::abs(x - kOffset));
+  seekFraction(state_.disc.trackLengths[static_cast<size_t>(track)], std::abs(x - kBarMargin));
 }
 
 void Engine::clrpgm() {

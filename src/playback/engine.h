@@ -16,6 +16,9 @@ class PlaybackUpward;
 class Screen;
 class Timer;
 
+/// Twips that a click on the bar counts to the right of its place.
+constexpr int kBarMargin = 84;
+
 class Engine {
  public:
   Engine(Ports& ports, TimeDisplay& display, CDForm& form, SharedState& state, PlaybackUpward& upward);

@@ -251,6 +251,11 @@ Settings defaultSettings(const std::string& appDir, const std::string& drive) {
   settings.soundMode = 3;
   settings.appOptions[4] = 7;
   settings.showLights = 1;
+  // The deck's own metal: black where these are 0.
+  settings.customColor[0] = 0xA8A29C;
+  settings.customColor[1] = 0x332E2B;
+  settings.customColor[2] = 0x3D3733;
+  settings.customColor[3] = 0x2B2724;
   settings.customColor[4] = 0x60D818;
   settings.fonts[0].fontColor = 0x50C8FF;
   settings.fonts[1].fontColor = 0x00FF00;

@@ -80,9 +80,31 @@ struct DisplayState {
   int16_t lastShownTrack = 0;
   int16_t holdTrackLabel = kOff;  ///< right after a jump: the clock leaves the track label alone once
   int16_t positionKnown = kOff;  ///< the faceplate stands where the user put it
+  int16_t quietOnce = kOff;      ///< no interface sound for now
   int16_t popupOpen = kOff;
   int16_t popupLayout = 0;
 };
+
+/// The two sliders and the level they set. Attenuations are 0 (full volume) to 100.
+struct VolumeState {
+  int16_t auxDeviceId = 0;
+  int16_t volBlocked = -1;  ///< -1 until the device was read: no slider reaches it; then 0
+  int32_t leftRaw = 0;      ///< 0 to 65535, as the device has it
+  int32_t rightRaw = 0;
+  int16_t leftAtten = 0;
+  int16_t rightAtten = 0;
+  int16_t leftAttenPrev = 0;  ///< last applied to the raw value
+  int16_t rightAttenPrev = 0;
+  int32_t muteLeft = 0;   ///< raw values kept during mute
+  int32_t muteRight = 0;  ///< with the mixer program instead: where its slider stands, 0 to 250
+  int16_t volDrag = 0;    ///< VolumeDrag; reading the device leaves Area behind
+  int16_t mixerBusy = 0;  ///< 3 while the mixer program is driven
+};
+
+enum VolumeDrag : int16_t { kNoDrag = 0, kUpperBar = 1, kLowerBar = 2, kArea = 3 };
+
+/// Values of soundMode; 1 and 2 count as OwnVolume.
+enum SoundMode : int16_t { kNoSliders = 0, kOwnVolume = 3, kMixerProgram = 4 };
 
 /// How this process was started, and where its files are.
 struct ProcessState {
@@ -103,6 +125,7 @@ struct SharedState {
   TransportState transport;
   ProgramState program;
   DisplayState display;
+  VolumeState volume;
   ProcessState process;
   Settings settings;
 
@@ -113,6 +136,7 @@ struct SharedState {
     transport = {};
     program = {};
     display = {};
+    volume = {};
   }
 };
 

@@ -24,8 +24,11 @@ struct CoreRig {
   FakeScreen screen;
   FakeSystem system;
   FakeDesktop desktop;
+  FakeAuxVolume auxVolume;
+  FakeMixer mixer;
+  FakeSounds sounds;
   DriveTray tray{player, "/drive"};
-  Ports ports{device, tray, clock, dialogs, files, processes, screen, system, desktop};
+  Ports ports{device, tray, clock, dialogs, files, processes, screen, system, auxVolume, mixer, sounds, desktop};
   Orvanta orvanta{ports};
   CDForm& form = orvanta.form;
   SharedState& state = orvanta.state;

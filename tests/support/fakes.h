@@ -5,6 +5,7 @@
 #include <functional>
 #include <map>
 #include <set>
+#include <utility>
 
 #include "base/text.h"
 #include "platform/forms/form.h"
@@ -120,6 +121,9 @@ class FakeScreen : public Screen {
   int bitsPerPixel() const override { return bits; }
   int planes() const override { return 1; }
   bool hasFont(const std::string& family) const override { return missing.count(family) == 0; }
+  int textWidthTwips(const std::string& text, const std::string& /*family*/, double points, bool /*bold*/) const override {
+    return static_cast<int>(static_cast<double>(text.size()) * points * 10);
+  }
   Taskbar taskbar() const override { return bar; }
   void setPointer(Pointer now) override { pointer = now; }
 
@@ -137,6 +141,7 @@ class FakeSystem : public System {
   std::string systemDir() const override { return "/system"; }
   std::string windowsDir() const override { return "/programs"; }
   std::string defaultDataDir() const override { return "/usual"; }
+  std::string mixerProgram() const override { return ""; }
   int16_t platformId() const override { return 1; }
   std::vector<std::string> handedOn() const override { return {}; }
 };
@@ -163,29 +168,50 @@ class FakeDesktop : public forms::Desktop {
   Tape tape;
 };
 
-// ---- ports whose users are still to come
-
 class FakeAuxVolume : public AuxVolume {
  public:
   int devices() const override { return 1; }
-  std::string name(int device) const override { return device == 0 ? "CD Audio" : ""; }
+  AuxCaps caps(int /*device*/) const override { return {capsError, "CD Audio"}; }
   AuxReading volume(int /*device*/) const override { return reading; }
   int setVolume(int /*device*/, uint32_t volume) override {
-    if (reading.error == 0) reading.volume = volume;
-    return reading.error;
+    if (writeError == 0) reading.volume = volume;
+    written.push_back(volume);
+    return writeError;
   }
+  int capsError = 0;
+  int writeError = 0;
+  std::vector<uint32_t> written;
   AuxReading reading{0, 0xFFFFFFFF};
 };
 
-/// One tape for everything that is only told to do something.
 class FakeMixer : public MixerApplication {
  public:
-  bool startHidden() override { return tape.emplace_back("start"), true; }
+  bool startHidden(const std::string& program) override {
+    tape.push_back("start " + program);
+    return open = true;
+  }
   bool activate(const std::string& title) override { return tape.push_back("activate " + title), true; }
-  void sendKeys(const std::string& keys) override { tape.push_back(keys); }
-  bool close(const std::string& title) override { return tape.push_back("close " + title), true; }
+  void sendKeys(const std::string& keys) override {
+    tape.push_back(keys);
+    if (onKeys) onKeys();
+  }
+  bool close(const std::string& title) override {
+    tape.push_back("close " + title);
+    return std::exchange(open, false);
+  }
+  Tape tape;
+  bool open = false;  ///< a window of it stands
+  std::function<void()> onKeys;
+};
+
+class FakeSounds : public Sounds {
+ public:
+  void play(const std::string& path) override { tape.push_back(path); }
+  void beep() override { tape.emplace_back("beep"); }
   Tape tape;
 };
+
+// ---- ports whose users are still to come
 
 class FakeTray : public Tray {
  public:
@@ -247,12 +273,6 @@ class FakePrinter : public Printer {
   void newLine() override { tape.emplace_back(""); }
   void endDocument() override { tape.emplace_back("end"); }
   bool accepted = true;
-  Tape tape;
-};
-
-class FakeSounds : public Sounds {
- public:
-  void play(const std::string& path) override { tape.push_back(path); }
   Tape tape;
 };
 

@@ -27,6 +27,7 @@ void Control::refresh() {
 
 void Control::propertyChanged(Change change) {
   if (form_.view() != nullptr) form_.view()->changed(*this, change);
+  if (change == Change::Text && tellsText) form_.textChanged(*this);
 }
 
 bool Control::insideForm() const {

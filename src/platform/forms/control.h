@@ -50,6 +50,7 @@ class Control : protected PropertyOwner {
   std::string says;           ///< accessible name where there is no caption
   bool passesMouse = false;   ///< a press goes to what lies below, as on a key's caption
   bool tabStop = false;       ///< Tab halts here while it is visible and enabled
+  bool tellsText = false;     ///< a new caption is told to the form's handlers, whoever wrote it
 
   Property<int> left{*this, Change::Geometry};
   Property<int> top{*this, Change::Geometry};
@@ -90,11 +91,16 @@ class Simple : public Control {
 };
 
 using Label = Simple<Kind::Label>;
-using Image = Simple<Kind::Image>;
 using Line = Simple<Kind::Line>;
 using Shape = Simple<Kind::Shape>;
 using TextBox = Simple<Kind::TextBox>;
 using Button = Simple<Kind::Button>;
+
+class Image : public Simple<Kind::Image> {
+ public:
+  using Simple::Simple;
+  Property<std::string> picture{*this, Change::Look};  ///< a picture file of the user's in place of the drawing; "" for none
+};
 
 /// A panel with two bevels: 0 none, 1 inset, 2 raised.
 class Panel : public Simple<Kind::Panel> {

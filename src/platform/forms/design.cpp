@@ -29,6 +29,8 @@ void applyRow(Control& control, const DesignRow& row, const Place& place, Form& 
     bar->floodColor = row.fore;
     bar->floodPercent = 0;
   }
+  control.tellsText = false;
+  if (auto* image = dynamic_cast<Image*>(&control)) image->picture = std::string();
   control.font = Font{row.font, row.points, row.bold};
   control.align = row.align;
   control.wordWrap = row.wrap;

@@ -7,13 +7,6 @@
 
 namespace orvanta::forms {
 
-struct Place {
-  int left = 0;
-  int top = 0;
-  int width = 0;
-  int height = 0;
-};
-
 struct DesignRow {
   const char* name;
   int index;  ///< Control::kNoIndex for a single control; the row of the form itself bears its name

@@ -42,6 +42,13 @@ void Form::load(Desktop& desktop) {
   events_->load();
 }
 
+Place Form::designPlace(const Control& control) const {
+  for (const DesignRow& row : design()) {
+    if (row.index == control.index() && row.name == control.name()) return smallFonts ? row.coarse : row.fine;
+  }
+  return {};
+}
+
 void Form::show(Desktop& desktop) {
   load(desktop);
   if (view_) {
@@ -115,6 +122,10 @@ void Form::mouseUp(const Mouse& mouse) {
 }
 
 void Form::doubleClick(Control* control) { events_->doubleClick(control); }
+
+void Form::wheel(Control* control, int notches) {
+  if (control != nullptr && control->enabled) events_->wheel(*control, notches);
+}
 
 void Form::press(Control& control) {
   const Mouse middle{MouseButton::Left, control.width / 2, control.height / 2};

@@ -44,6 +44,10 @@ class FormEvents {
   virtual void doubleClick(Control* /*control*/) {}
   /// True when the key is used; Tab, Space and ENTER are otherwise the form's.
   virtual bool keyDown(const KeyPress& /*key*/) { return false; }
+  /// Notches of the wheel over a control, above 0 away from the user.
+  virtual void wheel(Control& /*control*/, int /*notches*/) {}
+  /// The caption of a control that tells of it has changed.
+  virtual void textChanged(Control& /*control*/) {}
   virtual void lostFocus(Control& /*control*/) {}
   virtual void gotFocus(Control& /*control*/) {}
   /// The window was dragged by the user; left and top are the new ones.
@@ -62,6 +66,13 @@ class Desktop {
 };
 
 struct DesignRow;
+
+struct Place {
+  int left = 0;
+  int top = 0;
+  int width = 0;
+  int height = 0;
+};
 
 class Form : private PropertyOwner {
  public:
@@ -92,6 +103,8 @@ class Form : private PropertyOwner {
   /// Puts the design values back, makes the view and runs the load handler. Nothing when loaded.
   void load(Desktop& desktop);
   bool loaded() const { return desktop_ != nullptr; }
+  /// Where the design puts a control in the present metric variant; a control of no row is at 0, 0.
+  Place designPlace(const Control& control) const;
   /// Loads if need be, shows and raises; activates unless it was the last one shown.
   void show(Desktop& desktop);
   void hide();
@@ -109,6 +122,7 @@ class Form : private PropertyOwner {
   /// The release of the last press, whichever control lies under the mouse now: one for each press.
   void mouseUp(const Mouse& mouse);
   void doubleClick(Control* control);
+  void wheel(Control* control, int notches);
   bool keyDown(const KeyPress& key);
   void keyUp(const KeyPress& key);
   /// Press and release in the middle of a control, as Space or a screen reader does.
@@ -126,6 +140,7 @@ class Form : private PropertyOwner {
   friend class Control;
   void add(Control& control) { controls_.push_back(&control); }
   void propertyChanged(Change change) final;
+  void textChanged(Control& control) { events_->textChanged(control); }
   void moveFocus(bool backwards);
 
   std::string name_;

@@ -2,6 +2,8 @@
 #include "platform/linux/host_processes.h"
 
 #include <fcntl.h>
+#include <poll.h>
+#include <signal.h>
 #include <spawn.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -12,6 +14,7 @@
 #include <thread>
 
 #include "base/text.h"
+#include "platform/linux/unique_fd.h"
 
 namespace orvanta {
 
@@ -55,6 +58,42 @@ bool HostProcesses::nameRuns(const std::string& program) const {
     if (std::getline(file, name) && name == program.substr(0, 15)) return true;
   }
   return false;
+}
+
+std::optional<std::string> outputOf(const std::vector<std::string>& arguments) {
+  constexpr int kPatience = 2000;
+  int ends[2];
+  if (::pipe2(ends, O_CLOEXEC) != 0) return std::nullopt;
+  const UniqueFd out(ends[0]);
+  UniqueFd in(ends[1]);
+  std::vector<char*> words;
+  for (const std::string& argument : arguments) words.push_back(const_cast<char*>(argument.c_str()));
+  words.push_back(nullptr);
+  posix_spawn_file_actions_t actions;
+  posix_spawn_file_actions_init(&actions);
+  posix_spawn_file_actions_adddup2(&actions, in.get(), STDOUT_FILENO);
+  posix_spawn_file_actions_addopen(&actions, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
+  pid_t pid = 0;
+  const int error = posix_spawnp(&pid, words[0], &actions, nullptr, words.data(), environ);
+  posix_spawn_file_actions_destroy(&actions);
+  if (error != 0) return std::nullopt;
+  in = UniqueFd();
+  std::string text;
+  char bytes[512];
+  pollfd wait{out.get(), POLLIN, 0};
+  ssize_t got = 1;
+  while (got > 0) {
+    if (::poll(&wait, 1, kPatience) <= 0) {
+      ::kill(pid, SIGKILL);
+      break;
+    }
+    got = ::read(out.get(), bytes, sizeof bytes);
+    if (got > 0) text.append(bytes, static_cast<size_t>(got));
+  }
+  int status = 0;
+  ::waitpid(pid, &status, 0);
+  if (!WIFEXITED(status) || WEXITSTATUS(status) != 0) return std::nullopt;
+  return text;
 }
 
 }  // namespace orvanta

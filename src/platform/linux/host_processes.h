@@ -3,6 +3,9 @@
 
 #include <functional>
 #include <map>
+#include <optional>
+#include <string>
+#include <vector>
 
 #include "platform/ports/processes.h"
 
@@ -21,5 +24,9 @@ class HostProcesses : public Processes {
   std::function<void()> yield_;
   mutable std::map<Id, bool> ended_;  ///< what waitpid() has already told
 };
+
+/// What a short-lived program writes to its standard output; nullopt when it cannot be run, fails, or
+/// takes more than two seconds.
+std::optional<std::string> outputOf(const std::vector<std::string>& arguments);
 
 }  // namespace orvanta

@@ -3,6 +3,7 @@
 
 #include <cstdlib>
 #include <filesystem>
+#include <sstream>
 
 #include "base/text.h"
 
@@ -27,6 +28,19 @@ std::string HostSystem::defaultDataDir() const { return joinPath(xdgFolder("XDG_
 std::string HostSystem::windowsDir() const {
   std::error_code error;
   return std::filesystem::read_symlink("/proc/self/exe", error).parent_path().string();
+}
+
+std::string HostSystem::mixerProgram() const {
+  const char* path = std::getenv("PATH");
+  std::error_code error;
+  for (const char* name : {"pavucontrol", "pavucontrol-qt", "kmix", "mate-volume-control", "xfce4-mixer", "alsamixergui"}) {
+    std::istringstream folders(path != nullptr ? path : "");
+    for (std::string folder; std::getline(folders, folder, ':');) {
+      const std::string program = joinPath(folder, name);
+      if (!folder.empty() && std::filesystem::is_regular_file(program, error)) return program;
+    }
+  }
+  return {};
 }
 
 std::string HostSystem::usualDrive(const std::string& dataDir) const {

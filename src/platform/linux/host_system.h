@@ -11,6 +11,7 @@ class HostSystem : public System {
   std::string systemDir() const override;
   std::string windowsDir() const override;
   std::string defaultDataDir() const override;
+  std::string mixerProgram() const override;
   /// The demo disc of this installation; without it a folder of the data folder, to put images in.
   std::string usualDrive(const std::string& dataDir) const;
   int16_t platformId() const override { return 1; }

@@ -12,6 +12,7 @@
 
 #include "platform/linux/disc_player.h"
 #include "platform/linux/disc_source.h"
+#include "platform/linux/level.h"
 #include "platform/linux/sample_ring.h"
 #include "platform/linux/sound_output.h"
 
@@ -45,6 +46,9 @@ class Player : public DiscPlayer, private SampleFeed {
   void offer(const std::string& imagePath) override;
   TrayOffer takeAnswer() override;
   void closeTray() override;
+
+  /// What goes out is made that much softer, from the next sample on.
+  Level& level() { return level_; }
 
   /// Where the play under way is to end.
   int playEnd() const;
@@ -87,12 +91,17 @@ class Player : public DiscPlayer, private SampleFeed {
   std::chrono::milliseconds nap() const;
 
   // SampleFeed, the output's thread.
-  size_t pull(int16_t* pairs, size_t count) override { return ring_.read(pairs, count); }
+  size_t pull(int16_t* pairs, size_t count) override {
+    const size_t got = ring_.read(pairs, count);
+    level_.apply(pairs, got);
+    return got;
+  }
   bool finished() const override { return readAll_; }
 
   DiscSource& source_;
   SoundOutputs& outputs_;
   SampleRing ring_;
+  Level level_;
   std::vector<int16_t> scratch_;
   std::atomic<bool> readAll_{false};
   std::atomic<int> skipped_{0};

@@ -8,8 +8,8 @@ namespace orvanta {
 
 bool isDevice(const std::string& drivePath) { return drivePath.rfind("/dev/", 0) == 0; }
 
-Sound makeSound(const std::string& audio) {
-  Sound sound;
+SoundSetup makeSound(const std::string& audio) {
+  SoundSetup sound;
   if (audio == "default") {
     sound.outputs = std::make_unique<CubebOutputs>();
     return sound;

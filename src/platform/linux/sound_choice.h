@@ -12,12 +12,12 @@ namespace orvanta {
 /// A drive path that names a device; any other is a folder with disc images.
 bool isDevice(const std::string& drivePath);
 
-struct Sound {
+struct SoundSetup {
   std::unique_ptr<WavFile> wav;
   std::unique_ptr<SoundOutputs> outputs;
 };
 
 /// "default", "null" or "file:PATH".
-Sound makeSound(const std::string& audio);
+SoundSetup makeSound(const std::string& audio);
 
 }  // namespace orvanta

@@ -11,12 +11,16 @@ struct AuxReading {
   uint32_t volume = 0;  ///< left in the low word, right in the high word, 0 to 65535 each
 };
 
+struct AuxCaps {
+  int error = 0;     ///< as in AuxReading
+  std::string name;  ///< the product's, at most 80 characters
+};
+
 class AuxVolume {
  public:
   virtual ~AuxVolume() = default;
   virtual int devices() const = 0;
-  /// Product name; "" out of range.
-  virtual std::string name(int device) const = 0;
+  virtual AuxCaps caps(int device) const = 0;
   virtual AuxReading volume(int device) const = 0;
   /// 0, else an error number and the level stays.
   virtual int setVolume(int device, uint32_t volume) = 0;

@@ -8,8 +8,8 @@ namespace orvanta {
 class MixerApplication {
  public:
   virtual ~MixerApplication() = default;
-  /// Starts it without showing a window; false when there is none.
-  virtual bool startHidden() = 0;
+  /// Starts `program` without showing a window; false when there is none. A stand-in may know no programs.
+  virtual bool startHidden(const std::string& program) = 0;
   virtual bool activate(const std::string& title) = 0;
   /// Key texts as "{TAB}", "{PGUP 2}", "{+}"; what is not understood is passed over.
   virtual void sendKeys(const std::string& keys) = 0;

@@ -4,13 +4,16 @@
 
 namespace orvanta {
 
+class AuxVolume;
 class CdDevice;
 class Clock;
 class Dialogs;
 class DiscTray;
 class Files;
+class MixerApplication;
 class Processes;
 class Screen;
+class Sounds;
 class System;
 namespace forms {
 class Desktop;
@@ -25,6 +28,9 @@ struct Ports {
   Processes& processes;
   Screen& screen;
   System& system;
+  AuxVolume& auxVolume;
+  MixerApplication& mixer;
+  Sounds& sounds;
   forms::Desktop& desktop;  ///< gives loaded forms their views
 };
 

@@ -33,6 +33,8 @@ class Screen {
   virtual int planes() const = 0;
   /// True for a family that is drawn as asked for, also one that an alias of ours answers for.
   virtual bool hasFont(const std::string& family) const = 0;
+  /// How wide one line of text would be drawn.
+  virtual int textWidthTwips(const std::string& text, const std::string& family, double points, bool bold) const = 0;
   virtual Taskbar taskbar() const = 0;
   /// One pointer for the whole program, last write wins; it never blocks input.
   virtual void setPointer(Pointer pointer) = 0;

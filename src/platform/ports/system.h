@@ -16,6 +16,8 @@ class System {
   virtual std::string windowsDir() const = 0;
   /// Where data lies unless the settings say otherwise: $XDG_DATA_HOME/orvanta.
   virtual std::string defaultDataDir() const = 0;
+  /// The desktop's own mixer program; "" when none is installed.
+  virtual std::string mixerProgram() const = 0;
   /// 1: interface sounds and centring in the free area are wanted.
   virtual int16_t platformId() const = 0;
   /// Arguments of the host (`--data`, `--drive`, `--audio`, `--scale`) to hand on at a restart.

@@ -273,6 +273,16 @@ void FormWindow::mouseDoubleClickEvent(QMouseEvent* event) {
   gate_.enter([&] { form_.doubleClick(hit(event->position().toPoint())); });
 }
 
+void FormWindow::wheelEvent(QWheelEvent* event) {
+  constexpr int kNotch = 120;
+  // Fine wheels and touch pads come in parts of a notch.
+  wheel_ += event->angleDelta().y();
+  const int notches = wheel_ / kNotch;
+  wheel_ %= kNotch;
+  if (notches == 0) return;
+  gate_.enter([&] { form_.wheel(hit(event->position().toPoint()), notches); });
+}
+
 void FormWindow::keyPressEvent(QKeyEvent* event) {
   const forms::KeyPress key = keyPress(*event);
   const bool repeats = key.code >= forms::key::kLeft && (key.code <= forms::key::kDown || key.code >= forms::key::kF1);

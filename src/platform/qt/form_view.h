@@ -67,6 +67,7 @@ class FormWindow : public QWidget, public forms::FormView {
   void mouseMoveEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void keyReleaseEvent(QKeyEvent* event) override;
   bool focusNextPrevChild(bool next) override;
@@ -87,6 +88,7 @@ class FormWindow : public QWidget, public forms::FormView {
   Scale scale_;
   std::map<const forms::Control*, ControlWidget*> widgets_;
   ControlWidget* focused_ = nullptr;
+  int wheel_ = 0;  ///< of a notch, in Qt's eighths of a degree
   QTimer dragEnd_;
   QPoint grip_;           ///< of a drag without a window manager
   bool dragging_ = false;

@@ -7,11 +7,11 @@
 #include <algorithm>
 #include <cmath>
 
-#include "platform/qt/fonts.h"
-
 namespace orvanta {
 
 namespace {
+
+constexpr int kTwipsPerPoint = 20;
 
 QScreen& primary() { return *QGuiApplication::primaryScreen(); }
 
@@ -26,6 +26,16 @@ int QtScreen::heightPixels() const { return static_cast<int>(primary().geometry(
 int QtScreen::bitsPerPixel() const { return primary().depth(); }
 
 bool QtScreen::hasFont(const std::string& family) const { return Fonts::has(family); }
+
+int QtScreen::textWidthTwips(const std::string& text, const std::string& family, double points, bool bold) const {
+  constexpr double kMeasured = 64;  // pixels to an em
+  const QRawFont& face = fonts_.face({family, points, bold}, kMeasured);
+  double width = 0;
+  for (const QPointF& advance : face.advancesForGlyphIndexes(face.glyphIndexesForString(QString::fromStdString(text)), QRawFont::KernedAdvances)) {
+    width += advance.x();
+  }
+  return static_cast<int>(width / kMeasured * points * kTwipsPerPoint);
+}
 
 /// What the free area leaves of the screen along its widest taken edge.
 Taskbar QtScreen::taskbar() const {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/ports/screen.h"
+#include "platform/qt/fonts.h"
 #include "platform/qt/scale.h"
 
 namespace orvanta {
@@ -15,6 +16,7 @@ class QtScreen : public Screen {
   int bitsPerPixel() const override;
   int planes() const override { return 1; }
   bool hasFont(const std::string& family) const override;
+  int textWidthTwips(const std::string& text, const std::string& family, double points, bool bold) const override;
   Taskbar taskbar() const override;
   void setPointer(Pointer pointer) override;
 
@@ -23,6 +25,7 @@ class QtScreen : public Screen {
 
  private:
   Scale scale_;
+  mutable Fonts fonts_;
   Pointer pointer_ = Pointer::Normal;
 };
 

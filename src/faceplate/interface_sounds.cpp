@@ -1,0 +1,52 @@
+// Sounds lie in the data folder, where a user may put others in their place.
+#include "faceplate/interface_sounds.h"
+
+#include <array>
+
+#include "base/text.h"
+#include "platform/ports/dialogs.h"
+#include "platform/ports/files.h"
+#include "platform/ports/ports.h"
+#include "platform/ports/processes.h"
+#include "platform/ports/sounds.h"
+
+namespace orvanta {
+
+namespace {
+
+constexpr std::array<std::string_view, 6> kFiles = {"click.wav", "minimize.wav", "XXXXXXXX.wav", "click1.wav", "mixer.wav", "opendraw.wav"};
+
+constexpr const char* kNoMixer =
+    "NOTE: to use the Audio Mixer option, you must locate the mixer application written specifically for your sound board.\n\n"
+    "This is usually a Windows application named something similar to JAZZPMIX.EXE, SB32WMIX.EXE or AUDIOMIX.EXE. Common subdirectory names "
+    "in which the mixer application may be found include: JAZZ, SB32, SBPRO, VOYETRA, etc.\n\n"
+    "Once the proper mixer application is located, it will be automatically used by Orvanta to allow you to change the Volume, Balance, Bass "
+    "& Treble tone control settings, etc. "
+    "You may also use the standard Windows Volume Control Application SNDVOL32.EXE located in your Windows directory.\n\n"
+    "Note:  Access the Orvanta Setup Section to enter or change mixer settings.";
+
+std::string programOf(const std::string& path) { return path.substr(path.rfind('/') + 1); }
+
+}  // namespace
+
+void InterfaceSounds::play(Sound sound) {
+  if (state_.process.osFamily > 1) return;
+  if (state_.settings.soundsOff == kOn || state_.display.quietOnce == kOn || state_.settings.smallFaceplate == kOn) return;
+  ports_.sounds.play(joinPath(joinPath(state_.settings.appDir, "system"), kFiles[static_cast<size_t>(sound)]));
+}
+
+void InterfaceSounds::beep() { ports_.sounds.beep(); }
+
+void InterfaceSounds::runMixer() {
+  const std::string& command = state_.settings.mixerPath;
+  if (command.empty()) {
+    ports_.dialogs.message(BoxStyle::Warning, "Orvanta", kNoMixer);
+    return;
+  }
+  const auto arguments = splitCommand(command, ports_.files.exists(command));
+  if (arguments.empty() || ports_.processes.nameRuns(programOf(arguments.front()))) return;
+  play(Sound::Mixer);
+  ports_.processes.start({arguments, "", WindowStyle::Normal});
+}
+
+}  // namespace orvanta

@@ -1,0 +1,30 @@
+// Keys that give way under the mouse: the picture goes right and down with its caption, its hole stays.
+#pragma once
+
+#include "state/shared_state.h"
+#include "windows/cdform.h"
+
+namespace orvanta {
+
+class PressedLook {
+ public:
+  PressedLook(CDForm& form, const SharedState& state) : form_(form), state_(state) {}
+
+  /// Nothing for a control that is no such key. The transport keys have their own ways.
+  void down(forms::Control& control);
+  void up();
+
+ private:
+  forms::Label* captionOf(const forms::Control& control);
+  forms::Shape* holeOf(const forms::Control& control);
+  void showPair(forms::ControlArray<forms::Image, 2>& pair, bool pressed);
+
+  CDForm& form_;
+  const SharedState& state_;
+  forms::Control* key_ = nullptr;
+  forms::Label* caption_ = nullptr;
+  forms::Shape* hole_ = nullptr;
+  int depth_ = 0;
+};
+
+}  // namespace orvanta

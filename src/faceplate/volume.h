@@ -1,0 +1,96 @@
+// The two volume sliders: from a place to percent, attenuation and the device's value.
+#pragma once
+
+#include "faceplate/interface_sounds.h"
+#include "faceplate/layout.h"
+#include "faceplate/mixer_driver.h"
+#include "platform/forms/input.h"
+#include "state/shared_state.h"
+#include "windows/cdform.h"
+
+namespace orvanta {
+
+class AuxVolume;
+class Dialogs;
+
+/// The device's word: left channel in the low half, right in the high one.
+uint32_t packedVolume(int32_t left, int32_t right);
+
+class Volume {
+ public:
+  Volume(Ports& ports, Layout& layout, MixerDriver& mixer, InterfaceSounds& sounds, CDForm& form, SharedState& state);
+
+  /// At each activation of the faceplate.
+  void activate();
+  /// Reads the device and sets the sliders. A device that cannot be read takes them away for this session.
+  void cdvol();
+  /// Bring to the device what PctL or PctR shows.
+  void setVolumeL() { setVolume(left_); }
+  void setVolumeR() { setVolume(right_); }
+
+  /// A press, move or release on a slider; `control` is one of its parts. False when it is none.
+  bool mouseDown(const forms::Control& control, const forms::Mouse& mouse);
+  bool mouseMove(const forms::Control& control, const forms::Mouse& mouse);
+  bool mouseUp(const forms::Control& control);
+  /// The slider under the control a step up (above 0) or down; false when it is no slider.
+  bool step(const forms::Control& control, int steps);
+  /// Both sliders.
+  void stepBoth(int steps);
+
+  /// A click on a percent silences its channel.
+  void PctL_Click() { silence(left_); }
+  void PctR_Click() { silence(right_); }
+  /// 1 mutes, 0 brings the sound back.
+  void Image2_MouseUp(size_t index);
+  void Image9_MouseUp(size_t index);
+  /// The right mouse button takes the sliders away, or back.
+  void SSPanel1_RightClick();
+  void Command3D16_RightClick();
+
+  bool muted() const { return form_.Image2[0].visible; }
+  /// Sound as it was, before the process goes.
+  void releaseMute();
+  MixerDriver& mixer() { return mixer_; }
+
+ private:
+  /// One channel: its controls and its numbers.
+  struct Channel {
+    forms::Label& pct;
+    forms::Panel& area;
+    forms::Panel& upper;
+    forms::Panel& lower;
+    forms::Shape& thumb;
+    forms::ControlArray<forms::Line, 2>& lines;
+    int32_t& raw;
+    int16_t& atten;
+    int16_t& attenPrev;
+  };
+
+  Channel& other(const Channel& channel) { return &channel == &left_ ? right_ : left_; }
+  Channel* channelOf(const forms::Control& control);
+  bool linked() const { return form_.Image9[1].visible; }
+  void press(Channel& channel, const forms::Control& part, const forms::Mouse& mouse);
+  void moveTo(Channel& channel, int y);
+  void put(Channel& channel, int place);
+  void paintThumb(Channel& channel, Colour colour);
+  void setVolume(Channel& channel);
+  void silence(Channel& channel);
+  void unmuted();
+  void write();
+  bool findDevice();
+  void report(int error);
+  void slidersOff();
+
+  AuxVolume& aux_;
+  Dialogs& dialogs_;
+  Layout& layout_;
+  MixerDriver& mixer_;
+  InterfaceSounds& sounds_;
+  CDForm& form_;
+  SharedState& state_;
+  Channel left_;
+  Channel right_;
+  bool fresh_ = true;  ///< not yet activated since the load
+};
+
+}  // namespace orvanta

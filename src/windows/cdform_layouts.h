@@ -1,0 +1,53 @@
+// The faceplate's layouts beside the design: expanded or normal display, small faceplate. Twips.
+#pragma once
+
+#include <cstddef>
+#include <span>
+
+namespace orvanta::layouts {
+
+/// Of the right pane and what lies on it.
+struct DisplayRow {
+  const char* name;
+  int expanded;
+  int normal;
+  int small;
+};
+std::span<const DisplayRow> displayLefts();
+std::span<const DisplayRow> displayWidths();
+
+struct Spot {
+  int left;
+  int top;
+};
+/// Where the small faceplate has a control, at 12 and at 15 twips a pixel. On the large one it stands
+/// where the design puts it.
+struct SmallRow {
+  const char* name;
+  int index;
+  Spot fine;
+  Spot coarse;
+};
+std::span<const SmallRow> smallSpots();
+
+struct Size {
+  int width;
+  int height;
+};
+constexpr Size kLargeFine{9534, 3474};
+constexpr Size kLargeFineBorder{9552, 3492};
+constexpr Size kLargeCoarse{9554, 3494};
+constexpr Size kSmall{5852, 2682};
+
+/// "Online" on the pane, by metric variant.
+struct OnlineLefts {
+  int expanded;
+  int normal;
+};
+constexpr OnlineLefts kOnlineFine{5172, 2052};
+constexpr OnlineLefts kOnlineCoarse{5070, 1950};
+
+/// Past the lower edge: where the volume panel goes when it is not wanted.
+constexpr int kPanelAway = 99999;
+
+}  // namespace orvanta::layouts

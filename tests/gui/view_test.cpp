@@ -11,35 +11,10 @@
 #include "platform/qt/form_view.h"
 #include "platform/qt/qt_clock.h"
 #include "platform/qt/qt_screen.h"
-#include "tests/support/core_rig.h"
+#include "tests/gui/deck.h"
 
 namespace orvanta::test {
 namespace {
-
-/// The core over fakes, with the real view.
-struct Deck : CoreRig {
-  explicit Deck(double factor = 1, int twips = 15) : scale{factor, twips}, qtDesktop(gate, scale) {
-    screen.twips = twips;
-    install();
-    player.insert(discA());
-    gate.enter([&] {
-      core.startUp({});
-      core.showFaceplate();
-    });
-    clock.advance(100);
-    window = dynamic_cast<FormWindow*>(core.form.view());
-  }
-  QRect inWindow(const forms::Control& control) const {
-    const ControlWidget* widget = window->widgetOf(control);
-    return {widget->mapTo(window, widget->controlRect().topLeft()), widget->controlRect().size()};
-  }
-  QImage picture() const { return window->grab().toImage(); }
-  Scale scale;
-  QtDesktop qtDesktop;
-  Ports realPorts{device, tray, clock, dialogs, files, processes, screen, system, auxVolume, mixer, sounds, qtDesktop};
-  Orvanta core{realPorts};
-  FormWindow* window = nullptr;
-};
 
 TEST(View, EdgesMeetAtEveryScale) {
   for (const int twips : {15, 12}) {

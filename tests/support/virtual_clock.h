@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
 #include <vector>
 
 #include "platform/ports/clock.h"
@@ -17,7 +18,10 @@ class VirtualClock : public Clock {
   double secondsToday() const override { return std::fmod(startOfDay + static_cast<double>(now_) / 1000, 86400.0); }
   int64_t milliseconds() const override { return now_; }
   /// Time passes, nothing is delivered: what fell due is delivered late, once.
-  void delaySeconds(double seconds) override { now_ += std::llround(seconds * 1000); }
+  void delaySeconds(double seconds) override {
+    if (onDelay) onDelay();
+    now_ += std::llround(seconds * 1000);
+  }
   void yield() override { advance(0); }
 
   std::unique_ptr<Timer> makeTimer(std::function<void()> onTick) override {
@@ -37,6 +41,7 @@ class VirtualClock : public Clock {
   }
 
   double startOfDay = 36000;  ///< seconds since midnight at the clock's zero
+  std::function<void()> onDelay;  ///< at each pause, before it
 
  private:
   class VirtualTimer : public Timer {

@@ -5,12 +5,21 @@
 #include <QAccessibleWidget>
 
 #include "platform/qt/form_view.h"
+#include "platform/qt/to_qt.h"
 
 namespace orvanta {
 
 namespace {
 
+/// A slider is a panel that names the label with its percent; nullptr for all else.
+const forms::Control* percentOf(const forms::Control& control) {
+  constexpr std::string_view kSlider = "clear:";
+  return control.art.rfind(kSlider, 0) == 0 ? control.form().find(control.art.substr(kSlider.size())) : nullptr;
+}
+
 QAccessible::Role roleOf(const forms::Control& control) {
+  if (percentOf(control) != nullptr) return QAccessible::Slider;
+  if (control.kind() == forms::Kind::Panel && control.tabStop) return QAccessible::PushButton;
   switch (control.kind()) {
     case forms::Kind::Label: return QAccessible::StaticText;
     case forms::Kind::Bar: return QAccessible::ProgressBar;
@@ -31,6 +40,8 @@ class AccessibleControl : public QAccessibleWidget {
     if (const auto* bar = dynamic_cast<const forms::Bar*>(&widget_.control()); bar != nullptr && kind == QAccessible::Value) {
       return QString::number(bar->floodPercent) + QLatin1Char('%');
     }
+    const forms::Control* percent = percentOf(widget_.control());
+    if (percent != nullptr && kind == QAccessible::Value) return toQt(percent->caption) + QLatin1Char('%');
     return QAccessibleWidget::text(kind);
   }
 

@@ -1,11 +1,26 @@
 // Which drawing serves a control.
 #include "platform/qt/art.h"
 
+#include <algorithm>
+#include <array>
+
+#include "platform/forms/form.h"
 #include "platform/qt/art_tools.h"
 
 namespace orvanta {
 
 namespace {
+
+struct Name {
+  std::string_view art;
+  std::string_view detail;
+};
+
+Name nameOf(const forms::Control& control) {
+  const std::string_view whole = control.art;
+  const auto colon = whole.find(':');
+  return {whole.substr(0, colon), colon == std::string_view::npos ? std::string_view{} : whole.substr(colon + 1)};
+}
 
 /// For a control without art of its own.
 void paintPlain(Art& art) {
@@ -25,11 +40,58 @@ void paintPlain(Art& art) {
 
 }  // namespace
 
+const QImage& ArtCache::keep(const std::string& key, QImage picture) {
+  const auto cost = static_cast<int>(picture.sizeInBytes() >> 10) + 1;
+  if (cost > kLimit / 2) {
+    last_ = std::move(picture);
+    return last_;
+  }
+  pictures_.insert(key, new QImage(std::move(picture)), cost);
+  return *pictures_.object(key);
+}
+
+const forms::Control* colourSource(const forms::Control& control) {
+  const Name name = nameOf(control);
+  return name.art == "power" ? control.form().find(name.detail) : nullptr;
+}
+
+double bleedOf(const forms::Control& control) {
+  constexpr double kShadow = 4;
+  constexpr double kPoolOfLight = 20;
+  const Name name = nameOf(control);
+  return name.art == "lit" && !name.detail.empty() ? kPoolOfLight : kShadow;
+}
+
+std::string surfaceKey(const forms::Control& control) {
+  static constexpr std::array<std::string_view, 7> kKept = {"faceplate", "metal", "door", "tray", "glass", "emblem", "power"};
+  const Name name = nameOf(control);
+  if (std::find(kKept.begin(), kKept.end(), name.art) == kKept.end()) return {};
+  std::string key = control.fullName() + ' ' + std::to_string(control.backColor) + ' ' + std::to_string(control.form().backColor);
+  if (const auto* panel = dynamic_cast<const forms::Panel*>(&control)) key += ' ' + std::to_string(panel->bevelInner);
+  if (const auto* image = dynamic_cast<const forms::Image*>(&control)) key += ' ' + image->picture.get();
+  if (const auto* source = colourSource(control)) key += ' ' + std::to_string(source->backColor);
+  // The panes' joint shows only where no line covers it.
+  const forms::Control* joint = control.form().find("Line1");
+  if (name.art == "glass" && joint != nullptr) key += joint->visible ? " over" : " beside";
+  return key;
+}
+
+QImage drawingOf(const forms::Control& control, double factor) {
+  const Scale scale{factor, control.form().smallFonts ? 15 : 12};
+  QImage picture(scale.rect(0, 0, control.width, control.height).size(), QImage::Format_RGB32);
+  picture.fill(Qt::black);
+  QPainter painter(&picture);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.scale(factor, factor);
+  Fonts fonts;
+  ArtCache cache;
+  Art art{painter, control, fonts, cache, {}, factor, 15.0 / scale.twipsPerPixel, picture.width() / factor, picture.height() / factor, 0, 0};
+  paintControl(art);
+  return picture;
+}
+
 void paintControl(Art& art) {
-  const std::string_view whole = art.control.art;
-  const auto colon = whole.find(':');
-  std::string_view name = whole.substr(0, colon);
-  const std::string_view detail = colon == std::string_view::npos ? std::string_view{} : whole.substr(colon + 1);
+  auto [name, detail] = nameOf(art.control);
   // A lit symbol on a key, not lit text on the glass.
   if (name == "lit" && !detail.empty()) name = "lit-symbol";
   if (!paintSurface(art, name, detail) && !paintKey(art, name, detail) && !paintDisplay(art, name, detail)) paintPlain(art);

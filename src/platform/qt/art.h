@@ -1,7 +1,10 @@
 // Drawing of controls, by the name of their art. Units are design pixels (15 or 12 twips).
 #pragma once
 
+#include <QCache>
+#include <QImage>
 #include <QPainter>
+#include <string>
 
 #include "platform/forms/control.h"
 #include "platform/qt/fonts.h"
@@ -9,10 +12,26 @@
 
 namespace orvanta {
 
+/// Pictures that need not be made anew at each paint: glows, large surfaces, the user's own. By a text that
+/// names all that a picture depends on.
+class ArtCache {
+ public:
+  ArtCache() : pictures_(kLimit) {}
+  /// nullptr when it is not there yet.
+  const QImage* find(const std::string& key) const { return pictures_.object(key); }
+  const QImage& keep(const std::string& key, QImage picture);
+
+ private:
+  static constexpr int kLimit = 24 << 10;  ///< KiB
+  QCache<std::string, QImage> pictures_;
+  QImage last_;  ///< one too large to be kept
+};
+
 struct Art {
   QPainter& painter;  ///< scaled to design pixels, origin at the control's corner
   const forms::Control& control;
   Fonts& fonts;
+  ArtCache& cache;
   QTransform plain;  ///< the painter's transform before scaling, for text
   double factor;     ///< device pixels to a design pixel
   double k;          ///< size of symbols and fonts: 1 at 15 twips a pixel
@@ -23,6 +42,18 @@ struct Art {
 };
 
 void paintControl(Art& art);
+
+/// A control's drawing alone, on black, so many device pixels to a design pixel.
+QImage drawingOf(const forms::Control& control, double factor);
+
+/// What a drawing depends on when it is worth keeping; "" when it is not.
+std::string surfaceKey(const forms::Control& control);
+
+/// How far a drawing reaches beyond its control, for glow and shadow; design pixels.
+double bleedOf(const forms::Control& control);
+
+/// The control that a drawing takes a colour from; nullptr for its own alone.
+const forms::Control* colourSource(const forms::Control& control);
 
 // The families of drawings; each returns false for an art that is not its own.
 bool paintSurface(Art& art, std::string_view name, std::string_view detail);

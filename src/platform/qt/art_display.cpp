@@ -1,63 +1,106 @@
 // The lit display: glass, digits over their unlit ghosts, glowing text, the segmented bar.
 #include <QPainterPath>
 
+#include <algorithm>
+
+#include "platform/forms/form.h"
 #include "platform/qt/art_tools.h"
 
 namespace orvanta {
 
 namespace {
 
+/// The user's own display colours, when they are set: the panes then have the back colour.
+struct OwnColours {
+  bool set = false;
+  QColor fore;
+  QColor back;
+};
+
+OwnColours ownColours(const forms::Control& control) {
+  const auto* pane = dynamic_cast<const forms::Panel*>(control.parent);
+  if (pane == nullptr) pane = dynamic_cast<const forms::Panel*>(&control);
+  const forms::Control* digits = control.form().find("Label8");
+  if (pane == nullptr || digits == nullptr || pane->bevelInner != 1) return {};
+  return {true, qColour(digits->foreColor), qColour(pane->backColor)};
+}
+
+/// What both panes lie on, in design pixels of the window.
+QRectF displayArea(const Art& art) {
+  const bool small = art.control.form().width < 6000;
+  const double unit = art.k / 15;
+  return {(small ? 110 : 1440) * unit, 360 * unit, 5652 * unit, (art.k == 1 ? 1660 : 1668) * unit};
+}
+
+/// Glass with two reflections that run on from pane to pane.
 void glass(Art& art) {
   QPainter& p = art.painter;
   const QRectF area(0, 0, art.w, art.h);
-  const QColor back = qColour(art.control.backColor);
-  if (art.control.backColor != colours::kBlack) {
-    fill(p, area, back);
-    return;
+  const OwnColours own = ownColours(art.control);
+  const QRectF display = displayArea(art).translated(-art.windowX, -art.windowY);
+  if (own.set) {
+    fill(p, area, own.back);
+    QRadialGradient vignette(QPointF(display.center().x(), display.top() + display.height() * .45), display.width() * .62);
+    vignette.setColorAt(0, alpha(Qt::white, .16));
+    vignette.setColorAt(.6, alpha(Qt::white, 0));
+    vignette.setColorAt(1, alpha(Qt::black, .22));
+    fill(p, area, vignette);
+  } else {
+    fill(p, area, blend(display.topLeft(), display.bottomLeft(), {{0, QColor(0x0B, 0x0F, 0x0F)}, {1, QColor(3, 5, 5)}}));
   }
-  const double top = 23 * art.k - art.windowY;
-  fill(p, area, blend({0, top}, {0, top + 112 * art.k}, {{0, QColor(0x0B, 0x0F, 0x0F)}, {1, QColor(3, 5, 5)}}));
-  // Two reflections that run on from pane to pane.
   p.save();
   p.setClipRect(area);
-  for (const double start : {250.0, 390.0}) {
-    const double x = start * art.k - art.windowX;
-    const double width = (start < 300 ? 26 : 14) * art.k;
-    const double slope = 60 * art.k;
-    const double y1 = 23 * art.k - art.windowY;
-    const double y2 = y1 + 112 * art.k;
-    QPainterPath band;
-    band.addPolygon(QPolygonF({{x + slope, y1}, {x + slope + width, y1}, {x + width, y2}, {x, y2}}));
-    p.fillPath(band, alpha(Qt::white, .04));
-  }
+  const double strength = own.set ? .10 : .045;
+  const auto band = [&](double from, double to, double lower, double opacity) {
+    QPainterPath path;
+    const auto x = [&](double part) { return display.left() + display.width() * part; };
+    const double width = to - from;
+    path.addPolygon(QPolygonF({{x(from), display.top()}, {x(to), display.top()}, {x(lower + width), display.bottom()}, {x(lower), display.bottom()}}));
+    p.fillPath(path, alpha(Qt::white, opacity));
+  };
+  band(.30, .52, .18, strength);
+  band(.55, .58, .43, strength * .8);
   p.restore();
+  const forms::Control* joint = art.control.form().find("Line1");
+  if (art.control.name() == "Panel3D5" && (joint == nullptr || !joint->visible)) {
+    const QColor line = own.set ? mix(own.back, Qt::black, .16) : mix(Qt::black, Qt::white, .10);
+    fill(p, QRectF(0, 0, art.w, .8), line);
+    fill(p, QRectF(art.w - .8, 0, .8, art.h), line);
+  }
+  if (art.control.name() != "Panel3D1") return;
+  // A hairline over the digits.
+  const double unit = art.k / 15;
+  const double left = joint != nullptr && joint->visible ? 3120 * unit : 0;
+  fill(p, QRectF(left + 4 * art.k, 936 * unit - .4, art.w - left - 8 * art.k, .8), own.set ? mix(own.back, own.fore, .28) : QColor(0, 0x32, 0x3A));
 }
 
-/// Bright text glows: faint copies around it.
+/// Text on the glass; bright text shines, a text in the colour of the user's glass is not there.
 void lit(Art& art, const Lettering& how, double points) {
   const forms::Control& c = art.control;
   const QColor colour = qColour(c.foreColor);
-  if (brightness(colour) > .35) {
-    for (const auto& [dx, dy] : {std::pair{-1.0, 0.0}, {1.0, 0.0}, {0.0, -1.0}, {0.0, 1.0}, {-.7, -.7}, {.7, .7}, {-.7, .7}, {.7, -.7}}) {
-      Lettering around = how;
-      around.dy += dy;
-      art.plain.translate(dx * art.factor, 0);
-      letters(art, c.caption, alpha(colour, .1), around, points);
-      art.plain.translate(-dx * art.factor, 0);
-    }
-  }
-  letters(art, c.caption, brightness(colour) > .35 ? mix(colour, Qt::white, .16) : colour, how, points);
+  const OwnColours own = ownColours(c);
+  if (own.set && colour == own.back) return;
+  const bool bright = brightness(colour) > .35;
+  const bool lightGlass = own.set && brightness(own.back) > brightness(own.fore);
+  forms::Font font = c.font;
+  if (points > 0) font.points = points;
+  const QRectF area(0, 0, art.w, art.h);
+  const QColor face = bright && !own.set ? mix(colour, Qt::white, .16) : colour;
+  if (bright && !lightGlass) glow(art, area, font, c.caption, face, how, .55);
+  letters(art, area, font, c.caption, face, how);
 }
 
 void digits(Art& art) {
   const forms::Control& c = art.control;
   const size_t length = c.caption.get().size();
   const bool time = c.width > 1000;
-  const double points = length > 7 ? 11.5 : c.font.get().points;
-  const Lettering how{c.align, 0, 0, c.align == forms::Align::Right};
-  if (c.align == forms::Align::Right) {
+  const double points = length > 7 ? std::min(11.5, c.font.get().points) : c.font.get().points;
+  const bool right = c.align == forms::Align::Right;
+  const Lettering how{c.align, 0, 0, right};
+  if (right && c.font.get().family == "LcdD") {
+    const OwnColours own = ownColours(c);
     const char* ghost = !time ? "88" : length <= 6 ? "-88:88" : "-8:88:88";
-    letters(art, ghost, QColor(0x0D, 0x26, 0x13), how, points);
+    letters(art, ghost, own.set ? mix(own.back, own.fore, .10) : QColor(0x0D, 0x26, 0x13), how, points);
   }
   lit(art, how, points);
 }
@@ -66,20 +109,36 @@ void segments(Art& art) {
   const auto& bar = static_cast<const forms::Bar&>(art.control);
   constexpr int kSegments = 48;
   const QColor colour = qColour(bar.floodColor);
-  const QColor dark = mix(qColour(bar.backColor), colour, .11);
+  const QColor back = qColour(bar.backColor);
+  const QColor dark = mix(back, colour, .11);
   const double step = art.w / kSegments;
   for (int i = 0; i < kSegments; ++i) {
     const bool on = (i + .5) / kSegments * 100 < bar.floodPercent;
-    fill(art.painter, QRectF(i * step + .35, art.h * .12, step - .9, art.h * .76), on ? colour : dark);
+    fill(art.painter, QRectF(i * step + .35, art.h * .12, step - .9, art.h * .76), on ? colour : dark, .5);
   }
-  if (bar.floodPercent > 0) fill(art.painter, QRectF(-1, -1.5, art.w * bar.floodPercent / 100.0 + 2, art.h + 3), alpha(colour, .1), 2);
+  const bool lightGlass = ownColours(bar).set && brightness(back) > .4;
+  if (bar.floodPercent > 0 && !lightGlass) soft(art.painter, QRectF(0, 0, art.w * bar.floodPercent / 100.0, art.h), 1, alpha(colour, .16), 3);
 }
 
+/// A cell of the calendar: lit numbers sit on a faint ground.
 void cell(Art& art) {
-  if (art.control.index() < 20 && brightness(qColour(art.control.foreColor)) > .35) {
-    fill(art.painter, QRectF(.7, .3, art.w - 1.4, art.h - .6), alpha(qColour(art.control.foreColor), .1), 1.4);
+  const forms::Control& c = art.control;
+  const QColor colour = qColour(c.foreColor);
+  const OwnColours own = ownColours(c);
+  if (own.set) {
+    letters(art, c.caption, mix(own.back, own.fore, .10), {c.align});
+  } else if (c.index() < 20 && brightness(colour) > .35) {
+    fill(art.painter, QRectF(.7, .3, art.w - 1.4, art.h - .6), alpha(colour, .1), 1.4);
   }
-  lit(art, {art.control.align}, 0);
+  lit(art, {c.align}, 0);
+}
+
+/// An indicator: unlit, the user's own glass still shows where it is.
+void indicator(Art& art) {
+  const OwnColours own = ownColours(art.control);
+  const Lettering how{art.control.align, .3};
+  if (own.set) letters(art, art.control.caption, mix(own.back, own.fore, .10), how);
+  lit(art, how, 0);
 }
 
 }  // namespace
@@ -92,18 +151,29 @@ bool paintDisplay(Art& art, std::string_view name, std::string_view /*detail*/) 
   } else if (name == "digits") {
     digits(art);
   } else if (name == "lit") {
-    lit(art, {c.align, c.font.get().points < 8 ? .3 : 0, 0, false, c.wordWrap}, 0);
+    const bool mark = &c == c.form().find("Label16") || &c == c.form().find("Label21") || &c == c.form().find("Label30");
+    if (mark) {
+      indicator(art);
+    } else {
+      lit(art, {c.align, c.font.get().points < 8 ? .3 : 0, 0, false, c.wordWrap}, 0);
+    }
   } else if (name == "cell") {
     cell(art);
   } else if (name == "segments") {
     segments(art);
   } else if (name == "percent") {
-    well(art.painter, area.adjusted(1, .5, -1, -.5), 1.2, art.k);
+    well(art.painter, area.adjusted(1, .5, -1, -.5), 1.2, QColor(3, 4, 4), art.k);
     lit(art, {c.align}, 0);
   } else if (name == "online") {
-    letters(art, area, {"Small Fonts", 7, true}, "ONLINE", QColor(0xFF, 0xC2, 0x47), {forms::Align::Right});
+    const forms::Font font{"Small Fonts", 7, true};
+    const QColor amber(0xFF, 0xC2, 0x47);
+    glow(art, area, font, "ONLINE", amber, {forms::Align::Right}, .6);
+    letters(art, area, font, "ONLINE", amber, {forms::Align::Right});
   } else if (name == "entry") {
     fill(art.painter, area, QColor(2, 3, 3), 1.5);
+    art.painter.setBrush(Qt::NoBrush);
+    art.painter.setPen(QPen(QColor(0x7A, 0x80, 0x87), .7));
+    art.painter.drawRoundedRect(area, 1.5, 1.5);
     lit(art, {c.align}, 0);
   } else {
     return false;

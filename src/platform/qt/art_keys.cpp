@@ -31,19 +31,25 @@ bool overlaid(const forms::Control& face) {
   return false;
 }
 
+bool isPressed(const forms::Control& control) { return control.form().pressed() == &control; }
+
 void transport(Art& art, Symbol which) {
+  if (ownPicture(art)) return;
   QPainter& p = art.painter;
-  graphite(p, QRectF(1, 1, art.w - 2, art.h - 2), 2.5);
+  graphite(p, QRectF(1, 1, art.w - 2, art.h - 2), 2.5, isPressed(art.control));
   const QRectF plateau(54 / 15.0 * art.k, 70 / 15.0 * art.k, 815 / 15.0 * art.k, 355 / 15.0 * art.k);
   fill(p, plateau, blend(plateau.topLeft(), plateau.bottomLeft(), {{0, QColor(0x1E, 0x21, 0x25)}, {.5, QColor(0x29, 0x2D, 0x32)}, {1, QColor(0x35, 0x3A, 0x40)}}), 2);
+  p.setBrush(Qt::NoBrush);
+  p.setPen(QPen(QBrush(blend(plateau.topLeft(), plateau.bottomLeft(), {{0, alpha(Qt::black, .6)}, {.49, alpha(Qt::black, .1)}, {.51, alpha(Qt::white, .03)}, {1, alpha(Qt::white, .22)}})), .8));
+  p.drawRoundedRect(plateau, 2, 2);
   const QPointF centre(art.w / 2, art.h / 2);
+  const bool covered = overlaid(art.control);
   if (which == Symbol::Record) {
-    p.setBrush(Qt::NoBrush);
-    p.setPen(QPen(QColor(0xAE, 0xB4, 0xBA), .9));
-    p.drawEllipse(centre, 6.6 * art.k, 6.6 * art.k);
+    QPainterPath ring;
+    ring.addEllipse(QPointF(0, 0), 6.6, 6.6);
+    sign(p, ring, centre, art.k, {.9, alpha(covered ? QColor(0x7A, 0x80, 0x87) : QColor(0xAE, 0xB4, 0xBA), .8), alpha(Qt::black, .7)});
   }
-  if (overlaid(art.control)) return;
-  symbol(p, which, centre, art.k, which == Symbol::Record ? QColor(0xD8, 0x54, 0x4A) : QColor(0xE3, 0xE7, 0xEA));
+  if (!covered) symbol(p, which, centre, art.k, which == Symbol::Record ? QColor(0xD8, 0x54, 0x4A) : QColor(0xE3, 0xE7, 0xEA));
 }
 
 /// A symbol over a face: dark for a dead key, glowing for a lit one.
@@ -51,35 +57,13 @@ void overlay(Art& art, Symbol which, bool lit) {
   const bool scan = which == Symbol::Rewind || which == Symbol::Forward;
   const QPointF centre(art.w / 2, art.h / 2);
   const double k = scan ? art.k * .92 : art.k;
-  if (!lit) {
+  if (lit && !scan) {
+    litSymbol(art, which, centre, k, litColour(which));
+  } else if (lit) {
+    symbol(art.painter, which, centre, k, litColour(which));
+  } else {
     symbol(art.painter, which, centre, k, scan ? QColor(0x86, 0x8B, 0x91) : which == Symbol::Record ? QColor(0x6E, 0x3A, 0x37) : QColor(0x66, 0x6C, 0x73));
-    return;
   }
-  const QColor colour = litColour(which);
-  if (!scan) {
-    QRadialGradient pool(QPointF(0, 0), 12 * k);
-    pool.setColorAt(0, alpha(colour, .42));
-    pool.setColorAt(.5, alpha(colour, .14));
-    pool.setColorAt(1, alpha(colour, 0));
-    art.painter.save();
-    art.painter.translate(centre);
-    art.painter.setPen(Qt::NoPen);
-    art.painter.setBrush(pool);
-    art.painter.drawEllipse(QPointF(0, 0), 12 * k, 10 * k);
-    art.painter.restore();
-  }
-  symbol(art.painter, which, centre, k, mix(colour, Qt::white, .35));
-}
-
-void strokes(Art& art, const QPainterPath& path, double width, const QColor& colour) {
-  QPainter& p = art.painter;
-  p.save();
-  p.translate(art.w / 2, art.h / 2);
-  p.scale(art.k, art.k);
-  p.setBrush(Qt::NoBrush);
-  p.setPen(QPen(colour, width, Qt::SolidLine, Qt::RoundCap));
-  p.drawPath(path);
-  p.restore();
 }
 
 QPainterPath lines(std::initializer_list<QLineF> all) {
@@ -91,80 +75,173 @@ QPainterPath lines(std::initializer_list<QLineF> all) {
   return path;
 }
 
-void loudspeaker(QPainterPath& path) { path.addPolygon(QPolygonF({{-5, -1.5}, {-3, -1.5}, {-.4, -3.8}, {-.4, 3.8}, {-3, 1.5}, {-5, 1.5}, {-5, -1.5}})); }
-
-void sign(Art& art, std::string_view name) {
-  const QColor dark(0x1C, 0x20, 0x24);
+QPainterPath boxes(std::initializer_list<QRectF> all) {
   QPainterPath path;
-  if (name == "mixer") {
-    path = lines({{-3.6, -3.6, -3.6, 3.6}, {0, -3.6, 0, 3.6}, {3.6, -3.6, 3.6, 3.6}, {-4.8, -1.3, -2.4, -1.3}, {-1.2, 1.8, 1.2, 1.8}, {2.4, -.2, 4.8, -.2}});
-  } else if (name == "display") {
-    path.addRect(-5.2, -3.4, 10.4, 6.8);
-    path.addPath(lines({{-2.4, 0, -3.9, 0}, {2.4, 0, 3.9, 0}}));
-  } else if (name == "linked" || name == "unlinked") {
-    const double gap = name == "linked" ? 1.1 : 2.3;
-    path.addEllipse(QRectF(-gap - 3.9, -2.1, 4.2, 4.2));
-    path.addEllipse(QRectF(gap - .3, -2.1, 4.2, 4.2));
-    if (name == "linked") path.addPath(lines({{-2.4, 0, 2.4, 0}}));
-  } else if (name == "mute") {
-    loudspeaker(path);
-    path.arcMoveTo(QRectF(-1.4, -2.4, 4, 4.8), 40);
-    path.arcTo(QRectF(-1.4, -2.4, 4, 4.8), 40, -80);
-    path.arcMoveTo(QRectF(-1.2, -3.8, 6, 7.6), 40);
-    path.arcTo(QRectF(-1.2, -3.8, 6, 7.6), 40, -80);
-  } else if (name == "muted") {
-    fill(art.painter, QRectF(.8, .8, art.w - 1.6, art.h - 1.6), QColor(0xFF, 0x3B, 0x30), 2);
-    loudspeaker(path);
-    path.addPath(lines({{1.6, -1.8, 5, 1.8}, {5, -1.8, 1.6, 1.8}}));
+  for (const QRectF& box : all) path.addRect(box);
+  return path;
+}
+
+QPainterPath loudspeaker() {
+  QPainterPath path;
+  path.addPolygon(QPolygonF({{-5, -1.5}, {-3, -1.5}, {-.4, -3.8}, {-.4, 3.8}, {-3, 1.5}, {-5, 1.5}}));
+  path.closeSubpath();
+  return path;
+}
+
+/// A chain's two links, open towards each other by `gap`; joined by a bar.
+QPainterPath chain(double gap, bool joined) {
+  QPainterPath path;
+  path.moveTo(-gap, -2.1);
+  path.lineTo(-gap - 1.8, -2.1);
+  path.arcTo(QRectF(-gap - 3.9, -2.1, 4.2, 4.2), 90, 180);
+  path.lineTo(-gap, 2.1);
+  path.moveTo(gap, -2.1);
+  path.lineTo(gap + 1.8, -2.1);
+  path.arcTo(QRectF(gap - .3, -2.1, 4.2, 4.2), 90, -180);
+  path.lineTo(gap, 2.1);
+  if (joined) {
+    path.moveTo(-2.4, 0);
+    path.lineTo(2.4, 0);
   }
-  strokes(art, path, 1.1, name == "muted" ? QColor(Qt::white) : dark);
+  return path;
+}
+
+QPainterPath waves() {
+  QPainterPath path;
+  const QRectF inner(-2.59, -2.4, 4.8, 4.8);
+  const QRectF outer(-4.4, -4.4, 8.8, 8.8);
+  path.arcMoveTo(inner, 42);
+  path.arcTo(inner, 42, -84);
+  path.arcMoveTo(outer, 43);
+  path.arcTo(outer, 43, -86);
+  return path;
+}
+
+/// The signs of the volume panel's keys, cut into their caps.
+void keySign(Art& art, std::string_view name) {
+  QPainter& p = art.painter;
+  const QPointF centre(art.w / 2, art.h / 2);
+  const QColor dark(0x1C, 0x20, 0x24);
+  const QColor below = alpha(Qt::white, .5);
+  if (name == "mixer") {
+    sign(p, lines({{-3.6, -3.6, -3.6, 3.6}, {0, -3.6, 0, 3.6}, {3.6, -3.6, 3.6, 3.6}}), centre, art.k, {.9, dark, below});
+    sign(p, boxes({{-5, -2.3, 2.8, 2}, {-1.4, .8, 2.8, 2}, {2.2, -1.2, 2.8, 2}}), centre, art.k, {0, dark, below});
+  } else if (name == "display") {
+    QPainterPath path = boxes({{-5.2, -3.4, 10.4, 6.8}});
+    path.addPath(lines({{-2.4, 0, -3.9, 0}, {-3, -1.2, -4.2, 0}, {-4.2, 0, -3, 1.2}, {2.4, 0, 3.9, 0}, {3, -1.2, 4.2, 0}, {4.2, 0, 3, 1.2}}));
+    sign(p, path, centre, art.k, {.95, dark, below});
+  } else if (name == "linked" || name == "unlinked") {
+    const bool joined = name == "linked";
+    sign(p, chain(joined ? 1.1 : 2.3, joined), centre, art.k, {1.3, joined ? QColor(0x0B, 0x3A, 0x1A) : QColor(0x3C, 0x41, 0x47), below});
+    if (joined) lamp(p, QRectF(centre.x() - 2 * art.k, art.h - 4.2 * art.k, 4 * art.k, 1.2 * art.k), QColor(0x3D, 0xFF, 0x7A), true, .6);
+  } else if (name == "mute") {
+    sign(p, loudspeaker(), centre, art.k, {0, dark, below});
+    sign(p, waves(), centre, art.k, {1.1, dark, below});
+  } else if (name == "muted") {
+    sign(p, loudspeaker(), centre, art.k, {0, Qt::white});
+    sign(p, lines({{1.6, -1.8, 5, 1.8}, {5, -1.8, 1.6, 1.8}}), centre, art.k, {1.1, Qt::white});
+  }
+}
+
+void panelKey(Art& art, std::string_view name, bool down) {
+  QPainter& p = art.painter;
+  const QRectF cap(.8, .8, art.w - 1.6, art.h - 1.6);
+  if (ownPicture(art)) {
+    // One picture serves several keys: the sign stays ours.
+  } else if (name == "muted" || name == "red") {
+    soft(p, cap, 3, alpha(QColor(0xFF, 0x3B, 0x30), .3), 3);
+    fill(p, cap, blend(cap.topLeft(), cap.bottomLeft(), {{0, QColor(0xFF, 0x8A, 0x7A)}, {.5, QColor(0xFF, 0x3B, 0x30)}, {1, QColor(0xB3, 0x15, 0x0F)}}), 2);
+  } else {
+    aluminium(p, cap, 2, down || name == "linked" || isPressed(art.control));
+  }
+  keySign(art, name);
+}
+
+/// The mixer key that stands where the volume panel is when there are no sliders.
+void mixerKey(Art& art) {
+  QPainter& p = art.painter;
+  const QRectF cap(0, 0, art.w, art.h);
+  well(p, cap.adjusted(-1.5, -1.5, 1.5, 1.5), 3, QColor(5, 6, 7), 1.4 * art.k);
+  aluminium(p, cap, 3, isPressed(art.control));
+  const QPointF centre(art.w / 2, art.h * .37);
+  sign(p, lines({{-9, -8, -9, 8}, {-3, -8, -3, 8}, {3, -8, 3, 8}, {9, -8, 9, 8}}), centre, art.k * .85, {1.2, QColor(0x2A, 0x2E, 0x33)});
+  sign(p, boxes({{-11.2, -5, 4.4, 3}, {-5.2, 1.4, 4.4, 3}, {.8, -3, 4.4, 3}, {6.8, 3, 4.4, 3}}), centre, art.k * .85, {0, QColor(0x1C, 0x20, 0x24)});
+  letters(art, QRectF(0, art.h - 12 * art.k, art.w, 9 * art.k), {"Small Fonts", 7, true}, art.control.caption, QColor(0x10, 0x12, 0x14), {});
 }
 
 void titleKey(Art& art, std::string_view name) {
+  QPainter& p = art.painter;
   const QRectF rect(.8, .8, art.w - 1.6, art.h - 1.6);
-  fill(art.painter, rect.adjusted(-.5, -.5, .5, .5), alpha(Qt::black, .55), 2.4);
-  graphite(art.painter, rect, 2);
+  fill(p, rect.adjusted(-.5, -.5, .5, .5), alpha(Qt::black, .55), 2.4);
+  graphite(p, rect, 2, isPressed(art.control));
   QPainterPath path;
+  SignPen pen{1.5, QColor(0xDD, 0xE1, 0xE5), alpha(Qt::black, .8), .7};
   if (name == "exit") {
     path = lines({{-3.2, -3.2, 3.2, 3.2}, {3.2, -3.2, -3.2, 3.2}});
   } else if (name == "minimise") {
     path = lines({{-3.8, 3, 3.8, 3}});
   } else if (name == "small") {
-    path.addRect(-3.9, -.4, 3.8, 3.8);
+    path = boxes({{-3.9, -.4, 3.8, 3.8}});
     path.addPath(lines({{.9, -.9, 3.9, -3.9}, {.9, -3.6, .9, -.9}, {.9, -.9, 3.6, -.9}}));
+    pen.width = 1.1;
   } else if (name == "large") {
-    path.addRect(-3.9, -3.5, 7.8, 7);
+    path = boxes({{-3.9, -3.5, 7.8, 7}});
     path.addPath(lines({{-3.9, -2.2, 3.9, -2.2}}));
+    pen.width = 1.1;
   } else {
-    path.addPolygon(QPolygonF({{-2.6, -3.8}, {4, 0}, {-2.6, 3.8}, {-2.6, -3.8}}));
+    path.addPolygon(QPolygonF({{-2.6, -3.8}, {4, 0}, {-2.6, 3.8}}));
+    path.closeSubpath();
+    pen.width = 0;
   }
-  strokes(art, path, name == "small" || name == "large" ? 1.1 : 1.5, QColor(0xDD, 0xE1, 0xE5));
+  sign(p, path, {art.w / 2, art.h / 2}, art.k, pen);
+}
+
+void modeKey(Art& art, bool lit) {
+  const QRectF cap(.8, .8, art.w - 1.6, art.h - 1.6);
+  fill(art.painter, cap.adjusted(-1, -1, 1, 1.4), alpha(Qt::black, .5), 3);
+  aluminium(art.painter, cap, 2.4, isPressed(art.control));
+  const double wide = cap.width() * .56;
+  lamp(art.painter, QRectF(cap.center().x() - wide / 2, cap.center().y() - 1.5 * art.k, wide, 3 * art.k), lit ? QColor(0xFF, 0xB4, 0x3A) : QColor(0x6A, 0x4A, 0x16), lit, 1.2);
+}
+
+/// A plain key by its detail: a scan key with its symbol, a number key in its sunk rim, any other cap.
+void plainKey(Art& art, std::string_view detail) {
+  QPainter& p = art.painter;
+  if (ownPicture(art)) return;
+  const bool number = detail == "number";
+  const double inset = number ? .6 : detail == "small" ? .5 : .7;
+  const QRectF cap(inset, inset, art.w - 2 * inset, art.h - 2 * inset);
+  if (number) fill(p, cap.adjusted(-1, -1, 1, 1.4), alpha(Qt::black, .5), 3);
+  aluminium(p, cap, number ? 2.4 : detail == "small" ? 1.8 : 2.2, isPressed(art.control));
+  Symbol which{};
+  if (symbolOf(detail, which) && !overlaid(art.control)) symbol(p, which, {art.w / 2, art.h / 2}, art.k * .92, QColor(0x1C, 0x20, 0x24));
+}
+
+bool isPanelKey(std::string_view detail) {
+  for (const std::string_view name : {"mixer", "display", "linked", "unlinked", "mute", "muted", "red"}) {
+    if (name == detail) return true;
+  }
+  return false;
 }
 
 }  // namespace
 
 bool paintKey(Art& art, std::string_view name, std::string_view detail) {
   const forms::Control& c = art.control;
-  const QRectF cap(.7, .7, art.w - 1.4, art.h - 1.4);
   Symbol which{};
   const bool known = symbolOf(detail, which);
   if (name == "transport" && known) {
     transport(art, which);
   } else if (name == "mask" || name == "lit-symbol") {
     if (known) overlay(art, which, name != "mask");
+  } else if ((name == "key" || name == "down") && isPanelKey(detail)) {
+    panelKey(art, detail, name == "down");
+  } else if (name == "key" && c.kind() == forms::Kind::Button) {
+    mixerKey(art);
   } else if (name == "key") {
-    aluminium(art.painter, cap, 2.2);
-    if (known) {
-      if (!overlaid(c)) symbol(art.painter, which, {art.w / 2, art.h / 2}, art.k * .92, QColor(0x1C, 0x20, 0x24));
-    } else if (!detail.empty()) {
-      sign(art, detail);
-    } else if (!c.caption.get().empty()) {
-      letters(art, c.caption, qColour(c.foreColor), {c.align});
-    }
+    plainKey(art, detail);
   } else if (name == "mode") {
-    aluminium(art.painter, cap, 2.4);
-    const QRectF bulb(art.w * .22, art.h / 2 - 1.5 * art.k, art.w * .56, 3 * art.k);
-    lamp(art.painter, bulb, detail == "lit" ? QColor(0xFF, 0xB4, 0x3A) : QColor(0x6A, 0x4A, 0x16), detail == "lit");
+    modeKey(art, detail == "lit");
   } else if (name == "title") {
     titleKey(art, detail);
   } else if (name == "caption") {

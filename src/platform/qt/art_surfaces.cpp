@@ -3,6 +3,7 @@
 
 #include <cmath>
 
+#include "platform/forms/form.h"
 #include "platform/qt/art_tools.h"
 
 namespace orvanta {
@@ -14,17 +15,32 @@ QRectF area(const Art& art) { return {0, 0, art.w, art.h}; }
 /// Twips of the window in design pixels.
 double at(const Art& art, double twips) { return twips / 15 * art.k; }
 
+/// Legends on the window have a colour behind them; one that equals the window's is not painted, so that
+/// the metal shows.
+void ground(Art& art) {
+  const forms::Control& c = art.control;
+  if (c.backColor != colours::kBlack && c.backColor != c.form().backColor.get()) fill(art.painter, area(art), qColour(c.backColor));
+}
+
+/// The display's recess, the transport row's, and on the large faceplate the bracket over the mode keys.
 void faceplate(Art& art) {
+  constexpr double kSmallWindow = 6000;  // twips
   QPainter& p = art.painter;
-  const QColor base(0x2B, 0x2E, 0x33);
-  metal(p, area(art), base, 0, .55, art.factor);
+  const bool small = art.control.width < kSmallWindow;
+  if (!ownPicture(art)) {
+    metal(art, area(art), qColour(art.control.form().backColor), 0, .42);
+    const double rule = at(art, 322);
+    fill(p, QRectF(6 * art.k, rule, art.w - 12 * art.k, .8), alpha(Qt::black, .55));
+    fill(p, QRectF(6 * art.k, rule + .8 * art.k, art.w - 12 * art.k, .6), alpha(Qt::white, .16));
+  }
   edge(p, area(art), 0, .45, .9, 1);
-  const double rule = at(art, 322);
-  fill(p, QRectF(6 * art.k, rule, art.w - 12 * art.k, .8), alpha(Qt::black, .55));
-  fill(p, QRectF(6 * art.k, rule + .9, art.w - 12 * art.k, .6), alpha(Qt::white, .16));
-  well(p, QRectF(at(art, 1440), at(art, 360), at(art, 5652), at(art, 1664)), 1.5, 3 * art.k);
-  well(p, QRectF(at(art, 1494), at(art, 2769), at(art, 5592), at(art, 507)), 2, 1.8 * art.k);
-  // Bracket over the mode keys.
+  const double high = art.k == 1 ? 1660 : 1668;
+  well(p, QRectF(at(art, small ? 110 : 1440), at(art, 360), at(art, 5652), at(art, high)), 1.5, QColor(2, 3, 3), 3 * art.k);
+  if (small) {
+    well(p, QRectF(at(art, 132), at(art, 2126), at(art, 5600), at(art, 507)), 2, QColor(5, 6, 7), 1.8 * art.k);
+    return;
+  }
+  well(p, QRectF(at(art, 1494), at(art, 2769), at(art, 5592), at(art, 507)), 2, QColor(5, 6, 7), 1.8 * art.k);
   const double y = at(art, 2558);
   QPainterPath bracket;
   bracket.moveTo(at(art, 7380), y + 7 * art.k);
@@ -34,94 +50,124 @@ void faceplate(Art& art) {
   bracket.lineTo(at(art, 9220), y);
   bracket.lineTo(at(art, 9220), y + 7 * art.k);
   p.setBrush(Qt::NoBrush);
+  p.setPen(QPen(alpha(Qt::black, .55), .8));
+  p.drawPath(bracket.translated(0, .8));
   p.setPen(QPen(alpha(QColor(0xC9, 0xCE, 0xD4), .42), .8));
   p.drawPath(bracket);
 }
 
-void ejectSign(QPainter& p, QPointF centre, double k) {
-  QPainterPath path;
-  path.addPolygon(QPolygonF({{0, -4}, {5, 1.4}, {-5, 1.4}}));
-  path.closeSubpath();
-  path.addRect(-5, 2.8, 10, 1.7);
-  p.save();
-  p.translate(centre);
-  p.scale(k, k);
-  p.translate(0, .7);
-  p.fillPath(path, alpha(Qt::black, .7));
-  p.translate(0, -.7);
-  p.fillPath(path, QColor(0xC8, 0xCD, 0xD2));
-  p.restore();
+void doorPlate(Art& art, const QRectF& rect, const QColor& base) {
+  QPainter& p = art.painter;
+  metal(art, rect, base, 2.2, .3);
+  edge(p, rect, 2.2, .7, .9, 1);
+  p.setBrush(Qt::NoBrush);
+  p.setPen(QPen(alpha(Qt::black, .35), .7));
+  p.drawRoundedRect(rect.adjusted(2.6, 2.6, -2.6, -2.6), 1.6, 1.6);
+  p.setPen(QPen(alpha(Qt::white, .07), .6));
+  p.drawRoundedRect(rect.adjusted(3.2, 3.2, -2, -2), 1.6, 1.6);
 }
 
 /// What the open door leaves: darkness with a lit lip.
 void recess(Art& art) {
   fill(art.painter, area(art), blend({0, 0}, {0, art.h}, {{0, QColor(Qt::black)}, {.7, QColor(0x0A, 0x0B, 0x0C)}, {1, QColor(0x16, 0x18, 0x1A)}}));
   edge(art.painter, area(art), 1.5, 0, .8, 2 * art.k);
+  fill(art.painter, QRectF(2, 2, art.w - 4, 10 * art.k), blend({0, 2}, {0, 2 + 10 * art.k}, {{0, alpha(Qt::black, .9)}, {1, alpha(Qt::black, 0)}}));
+}
+
+void openSign(Art& art, double right, double top, double k) {
+  ejectSign(art.painter, {art.w - right * art.k, top * art.k}, k * art.k);
 }
 
 void door(Art& art) {
-  QPainter& p = art.painter;
   const auto* panel = dynamic_cast<const forms::Panel*>(&art.control);
   if (panel != nullptr && panel->bevelInner == 1) {
     recess(art);
     return;
   }
-  metal(p, area(art), qColour(art.control.backColor), 2.2, .4, art.factor);
-  edge(p, area(art), 2.2, .7, .9, 1);
-  ejectSign(p, {art.w - 16 * art.k, 19 * art.k}, 1.05 * art.k);
+  const QColor base = qColour(art.control.backColor);
+  // The front as it starts to move lies lower, with a light lip above and its shadow below.
+  if (art.control.form().find("Panel3D6") == &art.control) {
+    const double k = art.k;
+    soft(art.painter, QRectF(3, 4, art.w - 4, art.h - 4), 3, alpha(Qt::black, .6), 3);
+    QPainterPath lip;
+    lip.addPolygon(QPolygonF({{1, 3 * k}, {art.w - 1, 3 * k}, {art.w - 3 * k, .4}, {3 * k, .4}}));
+    art.painter.fillPath(lip, blend({0, .4}, {0, 3 * k}, {{0, QColor(0x8D, 0x94, 0x9C)}, {1, QColor(0x5C, 0x62, 0x69)}}));
+    doorPlate(art, QRectF(.5, 3 * k, art.w - 1, art.h - 6 * k), base);
+    openSign(art, 18, 20, 1.08);
+    return;
+  }
+  doorPlate(art, area(art), base);
+  openSign(art, 16, 19, 1.05);
   engraved(art, QRectF(art.w - 66 * art.k, 28 * art.k, 57 * art.k, 9 * art.k), {"Small Fonts", 7, false}, "OPEN / CLOSE", QColor(0xA9, 0xB0, 0xB7),
            {forms::Align::Right, .3});
+}
+
+/// Light and dark sectors round a middle, `turns` of them a round, brightest at `phase`.
+QConicalGradient sheen(QPointF centre, const QColor& dark, const QColor& light, double phase, double sharp) {
+  constexpr int kStops = 48;
+  QConicalGradient gradient(centre, 0);
+  for (int i = 0; i <= kStops; ++i) {
+    // Qt goes round against the clock, the sectors are counted with it.
+    const double turn = 1 - static_cast<double>(i) / kStops;
+    gradient.setColorAt(static_cast<double>(i) / kStops, mix(dark, light, std::pow(.5 + .5 * std::cos(4 * M_PI * (turn - phase)), sharp)));
+  }
+  return gradient;
 }
 
 void emblem(Art& art) {
   QPainter& p = art.painter;
   const QPointF centre(art.w / 2, art.h / 2);
   const double r = std::min(art.w, art.h) / 2 - .5;
-  QConicalGradient silver(centre, 43);
-  for (int i = 0; i <= 16; ++i) {
-    const double v = std::pow(.5 + .5 * std::cos(4 * M_PI * i / 16.0), 2.2);
-    silver.setColorAt(i / 16.0, mix(QColor(0x5C, 0x63, 0x6B), QColor(0xE9, 0xED, 0xF0), v));
-  }
-  p.setPen(Qt::NoPen);
-  p.setBrush(alpha(Qt::black, .5));
-  p.drawEllipse(centre + QPointF(0, .8), r, r);
-  p.setBrush(silver);
-  p.drawEllipse(centre, r, r);
-  p.setBrush(QColor(0x2A, 0x2E, 0x33));
-  p.drawEllipse(centre, r * .36, r * .36);
-  p.setBrush(QColor(0x0A, 0x0B, 0x0C));
-  p.drawEllipse(centre, r * .15, r * .15);
+  const auto disc = [&](QPointF at, double radius, const QBrush& brush, const QPen& pen = Qt::NoPen) {
+    p.setPen(pen);
+    p.setBrush(brush);
+    p.drawEllipse(at, radius, radius);
+  };
+  disc(centre + QPointF(0, .8), r, alpha(Qt::black, .5));
+  disc(centre, r, sheen(centre, QColor(0x5C, 0x63, 0x6B), QColor(0xE9, 0xED, 0xF0), .12, 2.2));
+  disc(centre, r - .35, Qt::NoBrush, QPen(alpha(QColor(0x14, 0x17, 0x1A), .6), .7));
+  for (const auto& [part, opacity] : {std::pair{.86, .25}, {.7, .18}, {.55, .15}}) disc(centre, r * part, Qt::NoBrush, QPen(alpha(Qt::black, opacity), .5));
+  disc(centre, r * .36, QColor(0x2A, 0x2E, 0x33), QPen(alpha(QColor(0xDD, 0xE1, 0xE5), .5), .5));
+  disc(centre, r * .15, QColor(0x0A, 0x0B, 0x0C));
 }
 
 void statusLamp(Art& art) {
   const QColor colour = qColour(art.control.backColor);
   const QRectF glass = area(art).adjusted(1.3, 1.3, -1.3, -1.3);
-  well(art.painter, area(art).adjusted(.6, .6, -.6, -.6), 1.6, 1.2 * art.k);
-  fill(art.painter, glass.adjusted(-2, -2, 2, 2), alpha(colour, .18), 3);
-  fill(art.painter, glass, blend(glass.topLeft(), glass.bottomLeft(), {{0, mix(colour, Qt::white, .42)}, {.35, mix(colour, Qt::white, .12)}, {1, mix(colour, Qt::black, .28)}}), 1.2);
+  QPainter& p = art.painter;
+  well(p, area(art).adjusted(.6, .6, -.6, -.6), 1.6, QColor(5, 6, 7), 1.2 * art.k);
+  soft(p, glass.adjusted(-1, -1, 1, 1), 2, alpha(colour, .28), 3.5);
+  fill(p, glass, blend(glass.topLeft(), glass.bottomLeft(), {{0, mix(colour, Qt::white, .42)}, {.35, mix(colour, Qt::white, .12)}, {1, mix(colour, Qt::black, .28)}}), 1.2);
+  fill(p, QRectF(glass.left(), glass.top(), glass.width(), glass.height() * .45), alpha(Qt::white, .16), 1.2);
 }
 
+/// A chrome ring round a hollow cap, its sign in the status lamp's colour.
 void power(Art& art) {
+  if (ownPicture(art)) return;
   QPainter& p = art.painter;
   const QPointF centre(art.w / 2, art.h / 2);
   const double r = art.w / 2;
-  QConicalGradient chrome(centre, -45);
-  for (int i = 0; i <= 16; ++i) {
-    const double v = std::pow(.5 + .5 * std::cos(4 * M_PI * i / 16.0), 1.6);
-    chrome.setColorAt(i / 16.0, mix(QColor(0x4A, 0x50, 0x57), QColor(0xF1, 0xF3, 0xF5), v));
-  }
-  const auto disc = [&](double radius, const QBrush& brush) {
-    p.setPen(Qt::NoPen);
+  const auto disc = [&](double radius, const QBrush& brush, const QPen& pen = Qt::NoPen) {
+    p.setPen(pen);
     p.setBrush(brush);
     p.drawEllipse(centre, radius, radius);
   };
+  soft(p, QRectF(.4, 1.2, art.w, art.h), r, alpha(Qt::black, .55), 2.5);
   disc(r, QColor(0x0A, 0x0B, 0x0C));
-  disc(r - art.k, chrome);
+  disc(r - art.k, sheen(centre, QColor(0x4A, 0x50, 0x57), QColor(0xF1, 0xF3, 0xF5), .625, 1.6));
   disc(r - 3.2 * art.k, QColor(0x0C, 0x0D, 0x0E));
-  disc(r - 3.9 * art.k, blend({0, 0}, {art.w * .4, art.h}, {{0, QColor(0x26, 0x29, 0x2D)}, {.5, QColor(0x33, 0x37, 0x3C)}, {1, QColor(0x4A, 0x4F, 0x56)}}));
-  p.setPen(QPen(QColor(0x84, 0xDE, 0x99), 1.5 * art.k, Qt::SolidLine, Qt::RoundCap));
-  p.drawArc(QRectF(centre.x() - 4.7 * art.k, centre.y() - 4.3 * art.k, 9.4 * art.k, 9.4 * art.k), 130 * 16, 280 * 16);
-  p.drawLine(centre + QPointF(0, -5 * art.k), centre + QPointF(0, -.4 * art.k));
+  disc(r - 3.9 * art.k, blend({0, 0}, {art.w * .4, art.h}, {{0, QColor(0x26, 0x29, 0x2D)}, {.5, QColor(0x33, 0x37, 0x3C)}, {1, QColor(0x4A, 0x4F, 0x56)}}),
+       QPen(QBrush(blend({0, 0}, {art.w * .3, art.h}, {{0, alpha(Qt::black, .7)}, {1, alpha(Qt::white, .25)}})), .8));
+  const forms::Control* source = colourSource(art.control);
+  const QColor colour = source == nullptr ? QColor(0x32, 0xC8, 0x55) : qColour(source->backColor);
+  QPainterPath path;
+  path.arcMoveTo(QRectF(-4.7, -4.7, 9.4, 9.4), 132);
+  path.arcTo(QRectF(-4.7, -4.7, 9.4, 9.4), 132, 276);
+  path.moveTo(0, -5.4);
+  path.lineTo(0, -.6);
+  const QPointF middle = centre + QPointF(0, .4);
+  for (const double width : {5.5, 4.2, 2.9}) sign(p, path, middle, art.k, {width, alpha(colour, .16)});
+  sign(p, path, middle, art.k, {1.5, mix(colour, Qt::white, .45)});
 }
 
 void slot(Art& art) {
@@ -133,21 +179,41 @@ void slot(Art& art) {
 }
 
 void thumb(Art& art) {
-  const QColor c = qColour(art.control.foreColor);
-  fill(art.painter, area(art).translated(.3, 1.6), alpha(Qt::black, .6), 1.2);
+  const QColor c = qColour(art.control.backColor);
+  fill(art.painter, QRectF(.3, 1.6, art.w + .6, art.h + 1.2), alpha(Qt::black, .6), 1.2);
   fill(art.painter, area(art), blend({0, 0}, {0, art.h}, {{0, mix(c, Qt::white, .55)}, {.3, c}, {.46, mix(c, Qt::black, .25)}, {.5, QColor(0x10, 0x12, 0x14)}, {.58, QColor(0x10, 0x12, 0x14)}, {.62, mix(c, Qt::white, .3)}, {1, mix(c, Qt::black, .35)}}), 1);
 }
 
 void groove(Art& art) {
+  QPainter& p = art.painter;
   const QRectF cut(0, -1.5 * art.k, art.w, 3 * art.k);
-  fill(art.painter, cut, blend(cut.topLeft(), cut.bottomLeft(), {{0, QColor(5, 6, 7)}, {1, QColor(0x2A, 0x2D, 0x31)}}), 1.5);
+  fill(p, cut, blend(cut.topLeft(), cut.bottomLeft(), {{0, QColor(5, 6, 7)}, {.6, QColor(0x17, 0x19, 0x1C)}, {1, QColor(0x2A, 0x2D, 0x31)}}), 1.5 * art.k);
+  fill(p, QRectF(1, 1.9 * art.k - .3, art.w - 2, .6), alpha(Qt::white, .28));
 }
 
-void sunkPanel(Art& art) {
-  const QRectF inner = area(art).adjusted(1, 1, -1, -1);
-  well(art.painter, inner, 3, 1.6 * art.k);
-  metal(art.painter, inner, qColour(art.control.backColor), 3, .3, art.factor);
-  fill(art.painter, QRectF(1, 1, art.w - 2, 6), blend({0, 1}, {0, 7}, {{0, alpha(Qt::black, .5)}, {1, alpha(Qt::black, 0)}}), 3);
+/// A sunk panel. Within the volume panel a scale is engraved between the sliders, a mark for each
+/// tenth of their way and a long one for each half.
+void sunkPanel(Art& art, bool scale) {
+  QPainter& p = art.painter;
+  const double inset = scale ? 1 : 0;
+  const QRectF inner = area(art).adjusted(inset, inset, -inset, -inset);
+  well(p, inner, 3, QColor(Qt::black), (scale ? 1.6 : 1.8) * art.k);
+  metal(art, inner, qColour(art.control.backColor), 3, .2);
+  fill(p, QRectF(inner.left(), inner.top(), inner.width(), 6), blend(inner.topLeft(), inner.topLeft() + QPointF(0, 6), {{0, alpha(Qt::black, .52)}, {1, alpha(Qt::black, 0)}}), 3);
+  fill(p, QRectF(inner.left(), inner.top(), 5, inner.height()), blend(inner.topLeft(), inner.topLeft() + QPointF(5, 0), {{0, alpha(Qt::black, .42)}, {1, alpha(Qt::black, 0)}}), 3);
+  const forms::Control* slider = scale ? art.control.form().find("VolumeL") : nullptr;
+  if (slider == nullptr) return;
+  const double middle = art.w / 2;
+  const double last = at(art, art.k == 1 ? 1235 : 1215);
+  for (int mark = 0; mark <= 10; ++mark) {
+    const double y = at(art, slider->top + 115 + mark * 99.5);
+    if (y > last) break;
+    const double length = (mark % 5 == 0 ? 7.5 : 4.5) * art.k;
+    for (const double from : {middle - 10.5 * art.k, middle + 10.5 * art.k - length}) {
+      fill(p, QRectF(from < middle ? from : from + length, y + .35, from < middle ? length : -length, .7).normalized(), alpha(Qt::black, .6));
+      fill(p, QRectF(from < middle ? from : from + length, y - .35, from < middle ? length : -length, .7).normalized(), alpha(QColor(0xC9, 0xCE, 0xD4), mark % 5 == 0 ? .75 : .5));
+    }
+  }
 }
 
 }  // namespace
@@ -158,7 +224,7 @@ bool paintSurface(Art& art, std::string_view name, std::string_view detail) {
   if (name == "faceplate") {
     faceplate(art);
   } else if (name == "metal") {
-    sunkPanel(art);
+    sunkPanel(art, detail == "scale");
   } else if (name == "door") {
     door(art);
   } else if (name == "tray") {
@@ -172,15 +238,22 @@ bool paintSurface(Art& art, std::string_view name, std::string_view detail) {
   } else if (name == "slot") {
     slot(art);
   } else if (name == "cover") {
-    fill(art.painter, area(art), QColor(0x0C, 0x0D, 0x0E), .8);
+    fill(art.painter, area(art), blend({0, 0}, {art.w, 0}, {{0, QColor(4, 5, 5)}, {.6, QColor(0x0C, 0x0D, 0x0E)}, {1, QColor(0x19, 0x1B, 0x1D)}}), .8);
   } else if (name == "thumb") {
     thumb(art);
+  } else if (name == "highlight") {
+    // Along the thumb's edge, so it is as long as the thumb is wide or high.
+    fill(art.painter, c.width > c.height ? QRectF(0, 0, art.w, .7) : QRectF(0, 0, .7, art.h), alpha(fore, .9));
   } else if (name == "groove") {
     groove(art);
   } else if (name == "lamp") {
-    lamp(art.painter, area(art).adjusted(.3, .2, -.3, -.2), fore, true);
+    lamp(art.painter, area(art).adjusted(.3, .2, -.3, -.2), fore, true, .8);
   } else if (name == "floor") {
-    fill(art.painter, area(art), QColor(3, 4, 4), 2);
+    if (detail == "well") {
+      well(art.painter, area(art).adjusted(.4, .4, -.4, -.4), 2.4, QColor(5, 6, 7), 1.3 * art.k);
+    } else {
+      fill(art.painter, area(art), QColor(3, 4, 4), 1);
+    }
   } else if (name == "shadow") {
     fill(art.painter, area(art), alpha(Qt::black, .5), 2.5);
   } else if (name == "hole") {
@@ -188,12 +261,15 @@ bool paintSurface(Art& art, std::string_view name, std::string_view detail) {
   } else if (name == "plateau") {
     fill(art.painter, area(art), blend({0, 0}, {0, art.h}, {{0, alpha(Qt::black, .55)}, {.4, alpha(Qt::black, .25)}, {1, alpha(Qt::black, .05)}}), 1.8);
   } else if (name == "maker") {
-    engraved(art, area(art), c.font, c.caption, QColor(0xE4, 0xE7, 0xEA), {forms::Align::Left, 2.3 * art.k});
+    ground(art);
+    letters(art, area(art), c.font, c.caption, alpha(Qt::black, .75), {forms::Align::Left, 2.3 * art.k, .9});
+    letters(art, area(art), c.font, c.caption, fore, {forms::Align::Left, 2.3 * art.k});
   } else if (name == "engraved") {
     const double spacing = detail == "wide" ? 2.4 * art.k : c.align == forms::Align::Left ? 1.6 * art.k : .3;
+    ground(art);
     engraved(art, area(art), c.font, c.caption, fore, {c.align, spacing});
   } else if (name == "plain") {
-    letters(art, c.caption, fore, {c.align, 1.2 * art.k});
+    letters(art, c.caption, fore == QColor(Qt::black) ? QColor(1, 4, 2) : fore, {c.align, 1.2 * art.k});
   } else {
     return name == "clear" || name == "joint";
   }

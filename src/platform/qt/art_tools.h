@@ -26,13 +26,20 @@ void fill(QPainter& painter, const QRectF& rect, const QBrush& brush, double rad
 /// A thin frame, light at the top left and dark at the bottom right.
 void edge(QPainter& painter, const QRectF& rect, double radius, double light, double dark, double width);
 /// A recess: dark wall at the top left, lit lip at the bottom right, outside `rect`.
-void well(QPainter& painter, const QRectF& rect, double radius, double lip);
-/// Brushed metal of a base colour.
-void metal(QPainter& painter, const QRectF& rect, const QColor& base, double radius, double grain, double factor);
-void aluminium(QPainter& painter, const QRectF& rect, double radius);
-void graphite(QPainter& painter, const QRectF& rect, double radius);
+void well(QPainter& painter, const QRectF& rect, double radius, const QColor& ground, double lip);
+/// Brushed metal of a base colour; its grain runs on from panel to panel.
+void metal(Art& art, const QRectF& rect, const QColor& base, double radius, double grain);
+/// A cap of aluminium with its shadow; under the mouse it goes flat.
+void aluminium(QPainter& painter, const QRectF& rect, double radius, bool pressed);
+void graphite(QPainter& painter, const QRectF& rect, double radius, bool pressed);
+/// A shadow or shine that fades out over `blur` around a rounded rectangle.
+void soft(QPainter& painter, const QRectF& rect, double radius, const QColor& colour, double blur);
+/// Softens a picture, as much as `sigma` pixels.
+void blur(QImage& picture, double sigma);
+/// The user's picture over the control, when there is one that can be read.
+bool ownPicture(Art& art);
 /// A small lamp in its hole, lit or dark.
-void lamp(QPainter& painter, const QRectF& rect, const QColor& colour, bool lit);
+void lamp(QPainter& painter, const QRectF& rect, const QColor& colour, bool lit, double radius);
 
 struct Lettering {
   forms::Align align = forms::Align::Center;
@@ -44,6 +51,8 @@ struct Lettering {
 /// `text` in the control's font, or `points` high, within the control's rectangle.
 void letters(Art& art, const std::string& text, const QColor& colour, const Lettering& how, double points = 0);
 void letters(Art& art, const QRectF& rect, const forms::Font& font, const std::string& text, const QColor& colour, const Lettering& how);
+/// A blurred copy of a text, for what shines.
+void glow(Art& art, const QRectF& rect, const forms::Font& font, const std::string& text, const QColor& colour, const Lettering& how, double strength);
 /// Dark copy below, then the text: cut into metal.
 void engraved(Art& art, const QRectF& rect, const forms::Font& font, const std::string& text, const QColor& colour, const Lettering& how);
 
@@ -51,6 +60,18 @@ enum class Symbol { Previous, Next, Play, Pause, Stop, Record, Rewind, Forward }
 /// false for a name that is no symbol.
 bool symbolOf(std::string_view name, Symbol& symbol);
 QPainterPath symbolPath(Symbol symbol);
+/// A symbol of light: a pool of it on the key, a halo, a bright face.
+void litSymbol(Art& art, Symbol symbol, QPointF centre, double k, const QColor& colour);
+/// A path around (x, y) in a stroke or filled, with an engraving copy below when `below` is not transparent.
+struct SignPen {
+  double width = 0;  ///< 0 fills
+  QColor colour;
+  QColor below = Qt::transparent;
+  double drop = .6;  ///< of the copy
+};
+void sign(QPainter& painter, const QPainterPath& path, QPointF centre, double k, const SignPen& pen);
+/// Opens and shuts the tray.
+void ejectSign(QPainter& painter, QPointF centre, double k);
 /// A symbol around (x, y), `k` times its design size, with its engraving.
 void symbol(QPainter& painter, Symbol symbol, QPointF centre, double k, const QColor& colour);
 

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "platform/forms/form.h"
 #include "platform/qt/art_tools.h"
 
 namespace orvanta {
@@ -49,7 +50,7 @@ void disc(QPainter& p, const TrayShape& shape) {
   }());
   p.translate(shape.disc);
   p.scale(shape.radius.width(), shape.radius.height());
-  ring(1.06, QColor(8, 9, 10));
+  ring(1.06, QColor(8, 9, 10), QPen(alpha(QColor(0x5A, 0x60, 0x67), .55), .008));
   ring(1, spokes({0, 0}));
   ring(1, blend({0, -1}, {0, 1}, {{0, alpha(Qt::black, .45)}, {.45, alpha(Qt::black, .05)}, {1, alpha(Qt::white, .12)}}));
   for (const double part : {.97, .8, .62}) ring(part, Qt::NoBrush, QPen(alpha(Qt::white, .16), .008));
@@ -63,6 +64,9 @@ void disc(QPainter& p, const TrayShape& shape) {
 
 void paintTray(Art& art, bool half) {
   const TrayShape shape = shapeOf(half);
+  // The right and lower slices have no colour of their own: the tray's is the main one's.
+  const forms::Control* main = art.control.form().find(half ? "Panel3D8" : "Panel3D7");
+  const QColor base = qColour(main != nullptr ? main->backColor.get() : art.control.backColor.get());
   QPainter& p = art.painter;
   p.save();
   p.setClipRect(QRectF(0, 0, art.w, art.h));
@@ -71,7 +75,7 @@ void paintTray(Art& art, bool half) {
   QPainterPath bed;
   bed.addPolygon(shape.bed);
   bed.closeSubpath();
-  fill(p, shape.front.adjusted(2, 2, 2, 5), alpha(Qt::black, .5), 3);
+  soft(p, shape.front.adjusted(3, 4, -1, 2), 3, alpha(Qt::black, .6), 4);
   p.setPen(QPen(QColor(0x4A, 0x4F, 0x56), .7));
   p.setBrush(blend({0, shape.backTop}, {0, shape.front.top()}, {{0, QColor(6, 7, 8)}, {.35, QColor(0x15, 0x18, 0x1B)}, {1, QColor(0x2C, 0x30, 0x35)}}));
   p.drawPath(bed);
@@ -82,11 +86,19 @@ void paintTray(Art& art, bool half) {
   fill(p, QRectF(60, shape.backTop, 280, 16), blend({0, shape.backTop}, {0, shape.backTop + 16}, {{0, alpha(Qt::black, .85)}, {1, alpha(Qt::black, 0)}}));
   p.restore();
   const QRectF& front = shape.front;
-  fill(p, QRectF(front.left() + 1.4, front.top() - 2.4, front.width() - 2.8, 2.4), QColor(0x70, 0x77, 0x7E));
-  metal(p, front, QColor(0x33, 0x37, 0x3D), 2.2, .4, art.factor * art.k);
+  const QRectF lip(front.left() + 1.4, front.top() - 2.4, front.width() - 2.8, 2.4);
+  fill(p, lip, blend(lip.topLeft(), lip.bottomLeft(), {{0, QColor(0x8D, 0x94, 0x9C)}, {1, QColor(0x5C, 0x62, 0x69)}}));
+  Art whole = art;
+  whole.windowX = whole.windowY = 0;
+  metal(whole, front, base, 2.2, .3);
   edge(p, front, 2.2, .7, .9, 1);
+  p.setBrush(Qt::NoBrush);
+  p.setPen(QPen(alpha(Qt::black, .35), .7));
+  p.drawRoundedRect(front.adjusted(2.6, 2.6, -2.6, -2.6), 1.6, 1.6);
   const QRectF cut(front.left() + 9, front.bottom() - 8, front.width() - 18, 3);
-  fill(p, cut, blend(cut.topLeft(), cut.bottomLeft(), {{0, QColor(5, 6, 7)}, {1, QColor(0x2A, 0x2D, 0x31)}}), 1.5);
+  fill(p, cut, blend(cut.topLeft(), cut.bottomLeft(), {{0, QColor(5, 6, 7)}, {.6, QColor(0x17, 0x19, 0x1C)}, {1, QColor(0x2A, 0x2D, 0x31)}}), 1.5);
+  fill(p, QRectF(cut.left() + 1, cut.bottom() + .2, cut.width() - 2, .6), alpha(Qt::white, .28));
+  ejectSign(p, {front.right() - 16, front.top() + 11}, 1);
   p.restore();
   const QRectF legend((front.left() + 14) * art.k - art.windowX, (front.top() + 5) * art.k - art.windowY, 160 * art.k, 12 * art.k);
   engraved(art, legend, {"Small Fonts", 7.5, true}, "COMPACT DISC", QColor(0xB9, 0xBE, 0xC4), {forms::Align::Left, 2.2 * art.k});

@@ -13,6 +13,7 @@
 #include <QToolTip>
 #include <QWindow>
 #include <algorithm>
+#include <cmath>
 #include <vector>
 
 #include "base/log.h"
@@ -68,50 +69,95 @@ ControlWidget::ControlWidget(FormWindow& window, QWidget* parent, forms::Control
   setAttribute(Qt::WA_NoSystemBackground);
   setFocusPolicy(Qt::NoFocus);
   place();
-  setVisible(control.visible && control.insideForm());
+  showIfInside();
+}
+
+/// A panel's new place or size may bring its children in, or take them out.
+void ControlWidget::showIfInside() {
+  setVisible(control_.visible && control_.insideForm());
+  for (QObject* child : children()) {
+    if (auto* widget = dynamic_cast<ControlWidget*>(child)) widget->showIfInside();
+  }
 }
 
 void ControlWidget::place() {
   const Scale& scale = window_.scale();
-  const int bleed = scale.bleed();
+  const int bleed = this->bleed();
   const forms::Control& c = control_;
   const auto* parent = dynamic_cast<const ControlWidget*>(parentWidget());
-  const int origin = parent != nullptr ? bleed : 0;
+  const int origin = parent != nullptr ? parent->bleed() : 0;
   // A line has no height of its own: a pixel is its least.
   QRect rect = scale.rect(c.left, c.top, c.width, c.height);
   rect.setSize(rect.size().expandedTo({1, 1}));
   setGeometry(rect.translated(origin, origin).adjusted(-bleed, -bleed, bleed, bleed));
 }
 
+int ControlWidget::bleed() const { return static_cast<int>(std::ceil(bleedOf(control_) * window_.scale().factor)); }
+
 QRect ControlWidget::controlRect() const {
-  const int bleed = window_.scale().bleed();
+  const int bleed = this->bleed();
   return rect().adjusted(bleed, bleed, -bleed, -bleed);
 }
 
 void ControlWidget::follow(Change change) {
   if (change == Change::Geometry) place();
-  if (change == Change::Geometry || change == Change::Visibility) setVisible(control_.visible && control_.insideForm());
+  if (change == Change::Geometry || change == Change::Visibility) showIfInside();
   if (change == Change::Text || change == Change::Look) update();
   if (change != Change::Geometry && change != Change::Look) nameChanged(*this, change);
 }
 
 void ControlWidget::paintEvent(QPaintEvent* /*event*/) {
+  paintPicture();
+  if (!window_.form().focusShown() || window_.form().activeControl() != &control_) return;
+  const double factor = window_.scale().factor;
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(QColor(0xFF, 0xC2, 0x47), 1.2 * factor));
+  painter.drawRoundedRect(QRectF(controlRect()).adjusted(-1.5 * factor, -1.5 * factor, 1.5 * factor, 1.5 * factor), 3 * factor, 3 * factor);
+}
+
+void ControlWidget::paintPicture() {
+  QPainter painter(this);
+  std::string key = surfaceKey(control_);
+  if (key.empty()) {
+    paintArt(painter);
+    return;
+  }
+  const QPoint inWindow = mapTo(&window_, QPoint(0, 0));
+  key += ' ' + std::to_string(inWindow.x()) + ' ' + std::to_string(inWindow.y()) + ' ' + std::to_string(width()) + ' ' + std::to_string(height());
+  const QImage* picture = window_.artCache().find(key);
+  if (picture == nullptr) {
+    QImage fresh(size(), QImage::Format_ARGB32_Premultiplied);
+    fresh.fill(Qt::transparent);
+    {
+      QPainter inner(&fresh);
+      paintArt(inner);
+    }
+    picture = &window_.artCache().keep(key, std::move(fresh));
+  }
+  painter.drawImage(0, 0, *picture);
+}
+
+void ControlWidget::paintArt(QPainter& painter) {
   const Scale& scale = window_.scale();
   const QRect own = controlRect();
-  QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.translate(own.topLeft());
   const QTransform plain = painter.worldTransform();
   painter.scale(scale.factor, scale.factor);
   const QPoint inWindow = mapTo(&window_, own.topLeft());
-  Art art{painter,      control_, window_.fonts(), plain, scale.factor, 15.0 / scale.twipsPerPixel, own.width() / scale.factor, own.height() / scale.factor,
-          inWindow.x() / scale.factor, inWindow.y() / scale.factor};
+  Art art{painter,
+          control_,
+          window_.fonts(),
+          window_.artCache(),
+          plain,
+          scale.factor,
+          15.0 / scale.twipsPerPixel,
+          own.width() / scale.factor,
+          own.height() / scale.factor,
+          inWindow.x() / scale.factor,
+          inWindow.y() / scale.factor};
   paintControl(art);
-  if (window_.form().focusShown() && window_.form().activeControl() == &control_) {
-    painter.setPen(QPen(QColor(0xFF, 0xC2, 0x47), 1.2));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRoundedRect(QRectF(-1.5, -1.5, art.w + 3, art.h + 3), 3, 3);
-  }
 }
 
 // ---- FormWindow
@@ -144,6 +190,7 @@ void FormWindow::build() {
       for (forms::Control* control : order) {
         if (control->parent != parent) continue;
         widgets_[control] = new ControlWidget(*this, owner, *control);
+        if (const forms::Control* source = colourSource(*control)) followers_[source].push_back(widgets_[control]);
         next.push_back(control);
       }
     }
@@ -184,15 +231,22 @@ void FormWindow::raise() {
 
 void FormWindow::changed(forms::Control& control, Change change) {
   if (ControlWidget* widget = widgetOf(control)) widget->follow(change);
+  const auto followers = followers_.find(&control);
+  if (change != Change::Look || followers == followers_.end()) return;
+  for (ControlWidget* widget : followers->second) widget->update();
 }
 
 void FormWindow::formChanged(Change change) {
   if (change == Change::Text) setWindowTitle(toQt(form_.caption));
   if (change == Change::Geometry) {
     placeWindow();
+    for (QObject* child : children()) {
+      if (auto* widget = dynamic_cast<ControlWidget*>(child)) widget->showIfInside();
+    }
     if (wanted_) setVisible(onScreen());
   }
   if (change == Change::Visibility && wanted_) setWindowState(form_.minimised ? Qt::WindowMinimized : Qt::WindowNoState);
+  // Legends and the metal take the window's colour.
   if (change == Change::Look) update();
 }
 

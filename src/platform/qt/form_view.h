@@ -5,9 +5,11 @@
 #include <QWidget>
 #include <map>
 #include <memory>
+#include <vector>
 
 #include "platform/forms/form.h"
 #include "platform/ports/core_gate.h"
+#include "platform/qt/art.h"
 #include "platform/qt/fonts.h"
 #include "platform/qt/scale.h"
 
@@ -23,14 +25,19 @@ class ControlWidget : public QWidget {
   /// Takes over place, visibility and name.
   void follow(forms::Change change);
   void describe();
+  void showIfInside();
   /// The control's own rectangle, without the bleed.
   QRect controlRect() const;
+  /// What it is larger than its control on each side, in pixels.
+  int bleed() const;
 
  protected:
   void paintEvent(QPaintEvent* event) override;
 
  private:
   void place();
+  void paintPicture();
+  void paintArt(QPainter& painter);
 
   FormWindow& window_;
   forms::Control& control_;
@@ -54,6 +61,7 @@ class FormWindow : public QWidget, public forms::FormView {
 
   const Scale& scale() const { return scale_; }
   Fonts& fonts() const { return fonts_; }
+  ArtCache& artCache() { return artCache_; }
   forms::Form& form() const { return form_; }
   ControlWidget* widgetOf(const forms::Control& control) const;
 
@@ -85,8 +93,10 @@ class FormWindow : public QWidget, public forms::FormView {
   forms::Form& form_;
   CoreGate& gate_;
   Fonts& fonts_;
+  ArtCache artCache_;
   Scale scale_;
   std::map<const forms::Control*, ControlWidget*> widgets_;
+  std::map<const forms::Control*, std::vector<ControlWidget*>> followers_;  ///< that take a colour from a control
   ControlWidget* focused_ = nullptr;
   int wheel_ = 0;  ///< of a notch, in Qt's eighths of a degree
   QTimer dragEnd_;

@@ -17,8 +17,6 @@ struct Scale {
   QRect rect(int left, int top, int width, int height) const {
     return {QPoint(pixels(left), pixels(top)), QPoint(pixels(left + width) - 1, pixels(top + height) - 1)};
   }
-  /// What a widget is larger than its control, for glow and shadow.
-  int bleed() const { return static_cast<int>(std::ceil(4 * factor)); }
 };
 
 }  // namespace orvanta

@@ -1,0 +1,40 @@
+// The core over fakes, with the real view.
+#pragma once
+
+#include <cmath>
+
+#include <QImage>
+#include <functional>
+
+#include "platform/qt/form_view.h"
+#include "tests/support/core_rig.h"
+
+namespace orvanta::test {
+
+struct Deck : CoreRig {
+  /// `prepare` may change settings, disc and levels before the start.
+  explicit Deck(double factor = 1, int twips = 15, const std::function<void(Deck&)>& prepare = {}) : scale{factor, twips}, qtDesktop(gate, scale) {
+    screen.twips = twips;
+    player.insert(discA());
+    if (prepare) prepare(*this);
+    install();
+    gate.enter([&] {
+      core.startUp({});
+      core.showFaceplate();
+    });
+    clock.advance(100);
+    window = dynamic_cast<FormWindow*>(core.form.view());
+  }
+  QRect inWindow(const forms::Control& control) const {
+    const ControlWidget* widget = window->widgetOf(control);
+    return {widget->mapTo(window, widget->controlRect().topLeft()), widget->controlRect().size()};
+  }
+  QImage picture() const { return window->grab().toImage(); }
+  Scale scale;
+  QtDesktop qtDesktop;
+  Ports realPorts{device, tray, clock, dialogs, files, processes, screen, system, auxVolume, mixer, sounds, qtDesktop};
+  Orvanta core{realPorts};
+  FormWindow* window = nullptr;
+};
+
+}  // namespace orvanta::test

@@ -1,0 +1,270 @@
+// The sliders: geometry, percent, the device's value, mute, link, both roads to the level.
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "platform/linux/level.h"
+#include "platform/linux/mixer_stand_in.h"
+#include "tests/support/core_rig.h"
+
+namespace orvanta::test {
+namespace {
+
+struct Sliders : CoreRig {
+  explicit Sliders(uint32_t level = 0xFFFFFFFF, int16_t mode = 3) {
+    auxVolume.reading.volume = level;
+    settings.soundMode = mode;
+    startWith(discA());
+  }
+  void down(forms::Control& part, int x, int y) {
+    gate.enter([&] { form.mouseDown(&part, {forms::MouseButton::Left, x, y}); });
+  }
+  void move(forms::Control& part, int y) {
+    gate.enter([&] { form.mouseMove(&part, {forms::MouseButton::Left, 100, y}); });
+  }
+  void up() {
+    gate.enter([&] { form.mouseUp({}); });
+  }
+  void right(forms::Control& part) {
+    gate.enter([&] {
+      form.mouseDown(&part, {forms::MouseButton::Right, 1, 1});
+      form.mouseUp({forms::MouseButton::Right, 1, 1});
+    });
+  }
+  int percent() const { return std::stoi(form.PctL.caption.get()); }
+  VolumeState& volume = state.volume;
+};
+
+TEST(Volume, ReadsTheDevice) {
+  struct Case {
+    uint32_t level;
+    const char* left;
+    const char* right;
+    bool linked;
+    int32_t rightRaw;
+  };
+  for (const Case& c : std::initializer_list<Case>{{0xFFFFFFFF, "100", "100", true, 65535},
+                                                   {0x80008000, "50", "50", true, 32768},
+                                                   {0x00000000, "0", "0", true, 0},
+                                                   {0xC000FFFF, "100", "75", false, 0xC000},
+                                                   {0xF0A3F333, "95", "94", true, 0xF0A3},
+                                                   {0xEE14F333, "95", "93", false, 0xEE14}}) {
+    const Sliders rig(c.level);
+    EXPECT_EQ(rig.form.PctL.caption.get(), c.left) << c.level;
+    EXPECT_EQ(rig.form.PctR.caption.get(), c.right) << c.level;
+    EXPECT_EQ(rig.form.Image9[1].visible, c.linked) << c.level;
+    EXPECT_EQ(rig.volume.rightRaw, c.rightRaw);
+    EXPECT_EQ(rig.form.ThumbL.top, 75 + 10 * rig.volume.leftAtten);
+    EXPECT_EQ(rig.form.VbartopL.visible, rig.volume.leftAtten >= 1);
+  }
+}
+
+/// Where the thumb goes for a place p, and the percent it then shows.
+std::pair<int, int> formula(int p) {
+  if (p < 100) p = 75;
+  if (p > 1060) p = 1070;
+  return {p, static_cast<int>(107.5 - 0.1 * p)};
+}
+
+TEST(Volume, EveryPlaceOfADrag) {
+  for (const int part : {0, 1, 2}) {
+    Sliders rig(0x80008000);
+    forms::Control& control = part == 0 ? static_cast<forms::Control&>(rig.form.VolumeL) : part == 1 ? rig.form.VbartopL : rig.form.VbarbtmL;
+    rig.down(control, 100, rig.form.ThumbL.top);  // on the thumb: nothing moves
+    EXPECT_EQ(rig.percent(), part == 1 ? rig.percent() : 50);
+    for (int y = 0; y <= 1300; ++y) {
+      rig.move(control, y);
+      const int from = part == 0 ? y - 60 : part == 1 ? 90 + y - 84 : 65 + y - 84;
+      const auto [place, percent] = formula(from);
+      ASSERT_EQ(rig.form.ThumbL.top, place) << part << ' ' << y;
+      ASSERT_EQ(rig.percent(), percent) << part << ' ' << y;
+      ASSERT_EQ(rig.form.TlineL[1].height, 79);
+      ASSERT_EQ(rig.form.VbartopL.height, place - 90);
+      ASSERT_EQ(rig.form.ThumbR.top, place) << "linked";
+    }
+    EXPECT_EQ(rig.auxVolume.reading.volume, 0U) << "silence is sure at 0";
+    rig.up();
+    EXPECT_EQ(rig.volume.volDrag, kNoDrag);
+    EXPECT_EQ(rig.form.ThumbL.backColor, Colour{0xB8B8BA});
+  }
+  Sliders rig;
+  rig.down(rig.form.VbartopL, 10, 2000);  // a drag above the control reports a value out of range
+  rig.move(rig.form.VbartopL, 2000);
+  EXPECT_EQ(rig.form.ThumbL.top, 75);
+  rig.up();
+  rig.down(rig.form.VolumeL, 69, 600);
+  EXPECT_EQ(rig.percent(), 100) << "left of the slider no press counts";
+}
+
+TEST(Volume, MovesByDifferences) {
+  Sliders rig;
+  rig.down(rig.form.VolumeL, 100, 635);
+  EXPECT_EQ(rig.form.PctL.caption.get(), "50");
+  EXPECT_EQ(rig.volume.leftRaw, 32767);
+  rig.move(rig.form.VolumeL, 60);
+  EXPECT_EQ(rig.volume.leftRaw, 65535);
+  rig.move(rig.form.VolumeL, 160);
+  EXPECT_EQ(rig.form.PctL.caption.get(), "97");
+  EXPECT_EQ(rig.volume.leftRaw, 63569);
+  // A thousand drags: the sum of the roundings stays below a percent of the range, and within it.
+  uint32_t seed = 1;
+  for (int i = 0; i < 1000; ++i) {
+    seed = seed * 1664525U + 1013904223U;
+    rig.move(rig.form.VolumeL, 200 + static_cast<int>(seed >> 16U) % 700);
+    ASSERT_NEAR(rig.volume.leftRaw, 65535 * rig.percent() / 100.0, 65535 / 100.0) << i;
+    ASSERT_EQ(rig.volume.rightRaw, rig.volume.leftRaw);
+    ASSERT_EQ(rig.auxVolume.reading.volume, packedVolume(rig.volume.leftRaw, rig.volume.rightRaw));
+  }
+  rig.up();
+  rig.press(rig.form.Image9[1]);
+  rig.gate.enter([&] { rig.form.wheel(&rig.form.VolumeR, 1); });
+  EXPECT_NE(rig.form.PctL.caption.get(), rig.form.PctR.caption.get()) << "unlinked";
+  EXPECT_NEAR(rig.volume.rightRaw, 65535 * std::stoi(rig.form.PctR.caption.get()) / 100.0, 65535 / 50.0);
+  rig.press(rig.form.PctL);
+  EXPECT_EQ(rig.volume.leftRaw, 0);
+  EXPECT_NE(rig.volume.rightRaw, 0);
+}
+
+TEST(Volume, MuteKeepsAndGivesBack) {
+  Sliders rig(0x80008000);
+  rig.key(forms::key::kF1 + 3);
+  EXPECT_EQ(rig.auxVolume.reading.volume, 0U);
+  EXPECT_EQ(rig.form.VbarbtmL.backColor, colours::kRed);
+  rig.down(rig.form.VolumeL, 100, 300);
+  EXPECT_EQ(rig.form.PctL.caption.get(), "50") << "dragging does nothing while muted";
+  rig.up();
+  rig.press(rig.form.PctR);
+  EXPECT_FALSE(rig.form.Image2[0].visible) << "silencing a channel ends mute";
+  EXPECT_EQ(rig.auxVolume.reading.volume, 0U);
+  rig.key(forms::key::kF1 + 3);
+  rig.key(forms::key::kF1 + 4);
+  rig.key(forms::key::kF1 + 3);
+  EXPECT_EQ(rig.auxVolume.reading.volume, 0U);
+  rig.key(forms::key::kF1 + 4);
+  EXPECT_EQ(rig.form.PctL.caption.get(), "5") << "a step of the key is five percent";
+  // The power button gives the sound back first.
+  rig.key(forms::key::kF1 + 3);
+  rig.key(forms::key::kEscape);
+  EXPECT_TRUE(rig.gate.ended());
+  EXPECT_GT(rig.auxVolume.reading.volume, 0U);
+}
+
+TEST(Volume, ErrorsAreToldByNumber) {
+  for (const auto& [error, text] : {std::pair{2, "Specified sound board device ID"}, {6, "The driver failed to install."}, {7, ""}}) {
+    CoreRig rig;
+    rig.auxVolume.reading.error = error;
+    rig.startWith(discA());
+    EXPECT_EQ(rig.state.settings.soundMode, 0) << "the sliders go for this session";
+    EXPECT_EQ(rig.form.SSPanel1.top, 99999);
+    EXPECT_TRUE(rig.form.Command3D16.visible && rig.form.Label27.visible);
+    ASSERT_EQ(rig.dialogs.tape.size(), error == 7 ? 0U : 1U);
+    EXPECT_TRUE(error == 7 || rig.dialogs.tape[0].find(text) != std::string::npos);
+    Sliders writes;
+    writes.auxVolume.writeError = error;
+    writes.press(writes.form.PctL);
+    EXPECT_EQ(writes.form.PctL.caption.get(), "0") << "a failed write leaves the slider";
+    EXPECT_EQ(writes.dialogs.tape.size(), error == 7 ? 0U : 1U);
+  }
+}
+
+TEST(Volume, TheRightButtonTakesTheSlidersAway) {
+  Sliders rig;
+  rig.right(rig.form.SSPanel1);
+  EXPECT_EQ(rig.state.settings.soundMode, 0);
+  EXPECT_EQ(rig.form.SSPanel1.top, 99999);
+  rig.state.settings.mixerPath = "/usr/bin/mixer";
+  rig.key(forms::key::kF1 + 4);
+  EXPECT_EQ(rig.processes.tape.back(), "/usr/bin/mixer") << "without sliders the keys open the mixer";
+  rig.processes.names.insert("mixer");
+  const size_t started = rig.processes.tape.size();
+  rig.press(rig.form.Command3D16);
+  EXPECT_EQ(rig.processes.tape.size(), started) << "it runs already";
+  rig.right(rig.form.Command3D16);
+  EXPECT_EQ(rig.state.settings.soundMode, 3);
+  EXPECT_EQ(rig.form.SSPanel1.top, 1132);
+}
+
+TEST(Volume, TheMixerGetsItsKeys) {
+  Sliders rig(0xFFFFFFFF, 4);
+  const std::string start = "start /programs/sndvol32.exe";
+  EXPECT_EQ(rig.mixer.tape, (Tape{"close Volume Control", "close Sndvol32", start, "activate Volume Control", "{TAB}", "activate Volume Control",
+                                  "{TAB}", "{END}", "{PGUP 2}", "{UP 25}", "{TAB}", "{+}", "{-}", "close Volume Control", start,
+                                  "activate Volume Control", "{HOME}", "{RIGHT 32}", "{TAB}", "{END}", "{PGUP 2}", "{UP 25}", "{TAB}", "{+}",
+                                  "{-}", "close Volume Control"}));
+  EXPECT_EQ(rig.percent(), 50);
+  const auto dragTo = [&](int y) {
+    rig.mixer.tape.clear();
+    rig.down(rig.form.VolumeL, 100, rig.form.ThumbL.top);
+    rig.move(rig.form.VolumeL, y);
+    rig.up();
+    Tape keys(rig.mixer.tape.begin() + 2, rig.mixer.tape.end() - 1);
+    return keys;
+  };
+  EXPECT_EQ(dragTo(60 + 125), (Tape{"{TAB}", "{PGUP 2}", "{UP 13}"})) << "95 %: place 238, ties to even";
+  EXPECT_EQ(dragTo(60 + 75), (Tape{"{TAB}", "{HOME}"}));
+  EXPECT_EQ(dragTo(60 + 575), (Tape{"{TAB}", "{PGDN 2}", "{DOWN 25}"}));
+  EXPECT_EQ(dragTo(60 + 1070), (Tape{"{TAB}", "{END}"}));
+  EXPECT_EQ(rig.volume.muteRight, 0);
+  // Its keys let events run: a drag in the midst of them returns at once.
+  rig.mixer.onKeys = [&] { rig.gate.enter([&] { rig.form.wheel(&rig.form.VolumeL, 1); }); };
+  rig.mixer.tape.clear();
+  rig.down(rig.form.VolumeL, 100, 400);
+  EXPECT_EQ(std::count(rig.mixer.tape.begin(), rig.mixer.tape.end(), start), 1);
+  rig.mixer.onKeys = nullptr;
+  rig.up();
+  rig.right(rig.form.SSPanel1);
+  EXPECT_EQ(rig.sounds.tape.back(), "beep");
+  EXPECT_EQ(rig.state.settings.soundMode, 4);
+  rig.press(rig.form.Image9[1]);
+  EXPECT_TRUE(rig.form.Image9[1].visible) << "always linked";
+  rig.mixer.tape.clear();
+  rig.press(rig.form.Image2[1]);
+  EXPECT_EQ(rig.mixer.tape, (Tape{start, "activate Volume Control", "{TAB}", "{TAB}", "{+}", "close Volume Control"}));
+  EXPECT_TRUE(rig.auxVolume.written.empty()) << "the device is never touched";
+}
+
+struct FakeMaster : MasterVolume {
+  bool read(MasterLevel& level) override {
+    level = now;
+    return there;
+  }
+  void write(const MasterLevel& level) override { now = level; }
+  MasterLevel now{.8, .2, true};
+  bool there = true;
+};
+
+TEST(Mixer, TheStandInDoesWhatTheKeysSay) {
+  FakeMaster master;
+  MixerStandIn mixer(master);
+  const auto send = [&](std::initializer_list<const char*> keys) {
+    for (const char* key : keys) mixer.sendKeys(key);
+  };
+  send({"{TAB}", "{END}"});
+  EXPECT_EQ(master.now.left, .8) << "not started";
+  ASSERT_TRUE(mixer.startHidden("sndvol32.exe"));
+  EXPECT_FALSE(mixer.activate("Another"));
+  send({"{HOME}", "{RIGHT 32}", "{TAB}", "{END}", "{PGUP 2}", "{UP 25}", "{TAB}", "{+}", "{-}"});
+  EXPECT_DOUBLE_EQ(master.now.left, .5);
+  EXPECT_DOUBLE_EQ(master.now.right, .5);
+  EXPECT_FALSE(master.now.mute);
+  send({"", "{", "{PGUP 99999999999}", "{}", "nonsense", "{TAB -3}"});
+  EXPECT_TRUE(mixer.close("Volume Control"));
+  EXPECT_FALSE(mixer.close("Volume Control"));
+  master.there = false;
+  EXPECT_FALSE(mixer.startHidden("sndvol32.exe"));
+}
+
+TEST(Level, MovesWithoutAClickAndLeavesFullSoundAlone) {
+  Level level;
+  std::vector<int16_t> pairs(2000, 30000);
+  level.apply(pairs.data(), 1000);
+  EXPECT_EQ(pairs, std::vector<int16_t>(2000, 30000));
+  level.set(0, 65535);
+  level.apply(pairs.data(), 1000);
+  for (size_t i = 2; i < 2000; i += 2) ASSERT_LE(std::abs(pairs[i] - pairs[i - 2]), 80);
+  EXPECT_EQ(pairs[1998], 0);
+  EXPECT_EQ(pairs[1999], 30000);
+}
+
+}  // namespace
+}  // namespace orvanta::test

@@ -28,6 +28,7 @@
 #include "platform/qt/form_view.h"
 #include "platform/qt/qt_clock.h"
 #include "platform/qt/qt_dialogs.h"
+#include "platform/qt/qt_printer.h"
 #include "platform/qt/qt_screen.h"
 
 namespace orvanta {
@@ -99,6 +100,7 @@ int run(int argc, char** argv) {
   QtDialogs dialogs(gate, screen);
   QtDesktop desktop(gate, scale);
   HostProcesses processes([&clock] { clock.yield(); });
+  QtPrinter printer(gate);
   MciDevice device(*player, clock);
   DriveTray tray(*player, real ? "" : path);
   const std::string level = data.empty() ? "" : joinPath(data, "level.dat");
@@ -107,7 +109,7 @@ int run(int argc, char** argv) {
   MixerStandIn mixer(*master);
   const SoundSetup deckSound = makeSound(options.audio == "default" ? options.audio : "null");
   WavePlayer sounds(*deckSound.outputs, [] { QApplication::beep(); });
-  Ports ports{device, tray, clock, dialogs, files, processes, screen, system, volume, mixer, sounds, desktop};
+  Ports ports{device, tray, clock, dialogs, files, processes, screen, system, volume, mixer, sounds, printer, desktop};
   auto orvanta = std::make_unique<Orvanta>(ports);
 
   // The start-up form first: it takes the hand-over file away, upon which a process that made way for

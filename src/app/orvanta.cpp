@@ -22,7 +22,13 @@ Orvanta::Orvanta(Ports& ports)
       mixer_(ports, form, state),
       volume_(ports, layout_, mixer_, sounds_, form, state),
       colours_(ports.files, ports.screen, layout_, form, state),
-      records_(ports.files, state.disc, state.settings, state.program),
+      records_(ports.files, state.disc, state.settings),
+      genres_(ports.files, ports.dialogs, state),
+      html_(ports, editor, state),
+      print_(ports, editor, state),
+      cdData_(ports, records_, genres_, html_, print_, editor, form, state, *this),
+      playlist_(ports, records_, engine_, modes_, display_, playlistForm, form, state),
+      info_(ports, engine_, infoForm, form, state, *this),
       drawer_(ports, engine_, sounds_, form, state, *this),
       exit_(ports, volume_, sounds_, form, state),
       restart_(ports, volume_, state),
@@ -43,6 +49,26 @@ bool Orvanta::readCdRecord(const std::string& /*cdFilePath*/) {
   // A record that knows fewer tracks than the drive takes the drive's count.
   if (leadingNumber(state.disc.discInfo[2]) < state.disc.trackCount) state.disc.discInfo[2] = std::to_string(state.disc.trackCount);
   return true;
+}
+
+/// The editor takes the faceplate's place, and the track list's window goes.
+void Orvanta::showCdData() {
+  if (!discIn()) return;
+  info_.close();
+  cdData_.openFromFaceplate();
+}
+
+void Orvanta::showPlaylist() {
+  if (discIn()) playlist_.open();
+}
+
+void Orvanta::showTrackList() {
+  if (discIn()) info_.open();
+}
+
+void Orvanta::closeDiscWindows() {
+  info_.close();
+  editor.unload();
 }
 
 /// Without sliders the keys for the level open the mixer.

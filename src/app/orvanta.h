@@ -11,22 +11,32 @@
 #include "faceplate/layout.h"
 #include "faceplate/mixer_driver.h"
 #include "faceplate/volume.h"
+#include "library/cd_data.h"
+#include "library/cd_info.h"
 #include "library/cd_records.h"
+#include "library/genres.h"
+#include "library/html_export.h"
+#include "library/playlist.h"
+#include "library/print_record.h"
+#include "library/upward.h"
 #include "platform/ports/ports.h"
 #include "playback/upward.h"
 
 namespace orvanta {
 
-class Orvanta : private PlaybackUpward {
+class Orvanta : private PlaybackUpward, private LibraryUpward {
  public:
   explicit Orvanta(Ports& ports);
 
   // Both throw ProcessEnded: call them through the gate.
   /// The start-up form's work. From here on a process that hands over to this one lets go.
   void startUp(const HostOptions& options);
-  void showFaceplate();
+  void showFaceplate() override;
 
   CDForm form;
+  acdtabs editor;
+  cdplist playlistForm;
+  cdartext infoForm;
   SharedState state;
 
  private:
@@ -41,17 +51,27 @@ class Orvanta : private PlaybackUpward {
   void muteKey() override;
   void volumeKey(bool up) override;
   bool readCdRecord(const std::string& cdFilePath) override;
+  void readUserCaptions() override { genres_.readUserCaptions(); }
   int16_t readTimeCorrection() override { return records_.readTimeCorrection(); }
   std::optional<std::vector<int>> readProgram() override { return records_.readProgram(); }
+
+  void showCdData() override;
+  void showPlaylist() override;
+  void showTrackList() override;
+  void closeTrackList() override { info_.close(); }
+  void closeDiscWindows() override;
+  void hideFaceplate() override { form.hide(); }
+
+  bool discIn() const { return state.disc.noDiscState == 0 && state.disc.drawerOpen == kOff && state.disc.trackCount > 0; }
 
   // Windows and programs that are still to come aboard; their keys do nothing yet.
   void showHelp(int /*topic*/) override {}
   void showMenu() override {}
-  void showCdData() override {}
-  void showPlaylist() override {}
-  void showTrackList() override {}
   void launchEnhancedDisc() override {}
-  void closeDiscWindows() override {}
+  void openCddb() override {}
+  void submitToCddb() override {}
+  bool mailSenderKnown() const override { return false; }
+  void lookForLyrics() override {}
   void automaticLookup() override {}
 
   Ports& ports_;
@@ -70,6 +90,12 @@ class Orvanta : private PlaybackUpward {
   Volume volume_;
   DisplayColours colours_;
   CdRecords records_;
+  Genres genres_;
+  HtmlExport html_;
+  RecordPrint print_;
+  CdData cdData_;
+  Playlist playlist_;
+  CdInfo info_;
   Drawer drawer_;
   Exit exit_;
   Restart restart_;

@@ -103,4 +103,48 @@ std::string joinPath(std::string_view folder, std::string_view name) {
   return path.append(name);
 }
 
+size_t characterCount(std::string_view text) {
+  size_t count = 0;
+  for (const char c : text) count += (static_cast<unsigned char>(c) & 0xC0U) != 0x80 ? 1 : 0;
+  return count;
+}
+
+std::string withoutControls(std::string_view text, bool keepBreaks) {
+  std::string clean(text);
+  for (char& c : clean) {
+    const bool line = c == '\r' || c == '\n';
+    if (static_cast<unsigned char>(c) < 32 && !(line && keepBreaks)) c = ' ';
+  }
+  return clean;
+}
+
+std::vector<std::string> wrapWords(std::string_view text, size_t width) {
+  std::vector<std::string> rows;
+  std::string_view rest = trim(text);
+  while (!rest.empty()) {
+    if (characterCount(rest) <= width) {
+      rows.emplace_back(rest);
+      break;
+    }
+    size_t cut = firstCharacters(rest, width + 1).rfind(' ');
+    if (cut == std::string_view::npos || cut == 0) cut = firstCharacters(rest, width).size();
+    rows.emplace_back(trim(rest.substr(0, cut)));
+    rest = trim(rest.substr(cut));
+  }
+  return rows;
+}
+
+std::string withCrLf(std::string_view text) {
+  std::string whole;
+  for (size_t i = 0; i < text.size(); ++i) {
+    if (text[i] == '\r' && i + 1 < text.size() && text[i + 1] == '\n') continue;
+    if (text[i] == '\r' || text[i] == '\n') {
+      whole += "\r\n";
+    } else {
+      whole += text[i];
+    }
+  }
+  return whole;
+}
+
 }  // namespace orvanta

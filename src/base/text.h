@@ -27,6 +27,19 @@ std::string padded(long value, int digits);
 /// The first `count` characters of UTF-8 text; never half a character.
 std::string_view firstCharacters(std::string_view text, size_t count);
 
+/// Characters of UTF-8 text.
+size_t characterCount(std::string_view text);
+
+/// Characters below 32 as blanks; with `keepBreaks` CR and LF stay.
+std::string withoutControls(std::string_view text, bool keepBreaks = false);
+
+/// Rows of at most `width` characters, broken at the last blank that fits and trimmed; a word that is
+/// longer is cut.
+std::vector<std::string> wrapWords(std::string_view text, size_t width);
+
+/// Every line end as CR LF, whatever it was.
+std::string withCrLf(std::string_view text);
+
 /// The arguments of a stored command line: one program if a file of that whole name exists
 /// (`wholeExists`), else split at blanks outside double quotes. Nothing is expanded.
 std::vector<std::string> splitCommand(std::string_view command, bool wholeExists);

@@ -44,6 +44,7 @@ void Faceplate::load() {
     const auto program = upward_.readProgram();
     state_.program.pgmStored = program && !program->empty() && program->front() >= 1 ? kOn : kOff;
     state_.disc.timeCorrection = upward_.readTimeCorrection();
+    upward_.readUserCaptions();
   }
   on_.colours.loadorvanta1a();
   if (disc && device_.mode() == DeviceMode::Playing) {
@@ -213,6 +214,7 @@ void Faceplate::released(const std::string& name, size_t index, const forms::Mou
 
 void Faceplate::rightReleased(const forms::Control& control) {
   if (&control == &form_.SSPanel1) on_.volume.SSPanel1_RightClick();
+  if (&control == &form_.Image16[Info]) upward_.closeTrackList();
   if (&control == &form_.Command3D16) on_.volume.Command3D16_RightClick();
   if (&control == &form_.Image10[2] && state_.program.pgmStored == kOn) on_.modes.Label30_Click();
 }

@@ -174,16 +174,14 @@ std::optional<std::vector<int>> CdRecords::readProgram() const {
   return values;
 }
 
-bool CdRecords::writeProgram() {
+bool CdRecords::writeProgram(const std::vector<int>& tracks) {
   FieldWriter out;
-  bool ended = false;
-  for (size_t i = 1; i <= kProgramLines; ++i) {
-    ended = ended || program_.pgmList[i] < 1;
-    out.number(ended ? 0 : program_.pgmList[i]);
-  }
+  for (size_t i = 0; i < kProgramLines; ++i) out.number(i < tracks.size() ? tracks[i] : 0);
   files_.makeFolder(joinPath(settings_.appDir, "datacd"));
   return files_.write(path("2"), out.bytes());
 }
+
+bool CdRecords::programExists() const { return files_.exists(path("2")); }
 
 bool CdRecords::deleteProgram() { return files_.remove(path("2")); }
 

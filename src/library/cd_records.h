@@ -19,8 +19,7 @@ std::string unescapeField(std::string text);
 
 class CdRecords {
  public:
-  CdRecords(Files& files, DiscState& disc, const Settings& settings, ProgramState& program)
-      : files_(files), disc_(disc), settings_(settings), program_(program) {}
+  CdRecords(Files& files, DiscState& disc, const Settings& settings) : files_(files), disc_(disc), settings_(settings) {}
 
   /// `.CD`, `.CD3`, `.CD4`, `.CD5` into the disc's tables. What cannot be read keeps its value.
   void readCdRecord();
@@ -34,8 +33,9 @@ class CdRecords {
 
   /// `.CD2` as it stands; nullopt without a file.
   std::optional<std::vector<int>> readProgram() const;
-  /// The list up to its first 0, zero-filled to 100 lines.
-  bool writeProgram();
+  /// Track numbers in playing order, up to 100, zero-filled to that many lines.
+  bool writeProgram(const std::vector<int>& tracks);
+  bool programExists() const;
   bool deleteProgram();
 
   static constexpr int kMainTitles = 45;  ///< titles that the main file holds; more go to `.CD4`
@@ -50,7 +50,6 @@ class CdRecords {
   Files& files_;
   DiscState& disc_;
   const Settings& settings_;
-  ProgramState& program_;
 };
 
 }  // namespace orvanta

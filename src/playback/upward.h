@@ -31,6 +31,7 @@ class PlaybackUpward {
   virtual void showCdData() = 0;
   virtual void showPlaylist() = 0;
   virtual void showTrackList() = 0;
+  virtual void closeTrackList() = 0;
   virtual void launchEnhancedDisc() = 0;
   /// Hands the disc to the recorder.
   virtual void record() = 0;
@@ -44,6 +45,8 @@ class PlaybackUpward {
   virtual bool readCdRecord(const std::string& cdFilePath) = 0;
   /// The disc's time correction; 0 when it has none.
   virtual int16_t readTimeCorrection() = 0;
+  /// The user's captions of the two free fields of a disc's texts.
+  virtual void readUserCaptions() = 0;
   /// The values of the disc's program file as they stand; nullopt without a file.
   virtual std::optional<std::vector<int>> readProgram() = 0;
 };

@@ -101,6 +101,16 @@ struct VolumeState {
   int16_t mixerBusy = 0;  ///< 3 while the mixer program is driven
 };
 
+/// What the windows of the disc's texts share.
+struct LibraryState {
+  int16_t dataDirty = kOff;    ///< something was changed; never cleared, so every later OK saves
+  int16_t askOnCancel = kOff;  ///< a main field was changed
+  int16_t cddbMode = 0;        ///< 3: the editor saves unseen; 9: no submission
+  int16_t cdInfoOpening = kOff;  ///< the track list's window is being placed
+  std::array<std::string, 101> trackLyrics;  ///< [1]..[100]: the editor's working copy, with line breaks
+  std::array<std::string, 2> userCaptions;   ///< of the two user defined fields; "" for the usual ones
+};
+
 enum VolumeDrag : int16_t { kNoDrag = 0, kUpperBar = 1, kLowerBar = 2, kArea = 3 };
 
 /// Values of soundMode; 1 and 2 count as OwnVolume.
@@ -126,6 +136,7 @@ struct SharedState {
   ProgramState program;
   DisplayState display;
   VolumeState volume;
+  LibraryState library;
   ProcessState process;
   Settings settings;
 

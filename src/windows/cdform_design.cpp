@@ -9,7 +9,7 @@ namespace orvanta {
 namespace {
 
 using forms::Align;
-constexpr int kNoIndex = forms::Control::kNoIndex;
+using forms::kNoIndex;
 
 // clang-format off
 constexpr forms::DesignRow kDesign[] = {

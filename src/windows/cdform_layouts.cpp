@@ -7,7 +7,7 @@ namespace orvanta::layouts {
 
 namespace {
 
-constexpr int kNoIndex = forms::Control::kNoIndex;
+using forms::kNoIndex;
 
 // clang-format off
 constexpr DisplayRow kDisplayLefts[] = {

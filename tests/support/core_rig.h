@@ -27,8 +27,9 @@ struct CoreRig {
   FakeAuxVolume auxVolume;
   FakeMixer mixer;
   FakeSounds sounds;
+  FakePrinter printer;
   DriveTray tray{player, "/drive"};
-  Ports ports{device, tray, clock, dialogs, files, processes, screen, system, auxVolume, mixer, sounds, desktop};
+  Ports ports{device, tray, clock, dialogs, files, processes, screen, system, auxVolume, mixer, sounds, printer, desktop};
   Orvanta orvanta{ports};
   CDForm& form = orvanta.form;
   SharedState& state = orvanta.state;

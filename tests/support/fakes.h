@@ -45,6 +45,9 @@ class FakeFiles : public Files {
     return true;
   }
   bool exists(const std::string& path) const override { return files.count(upper(path)) > 0; }
+  std::optional<FileTime> modified(const std::string& path) const override {
+    return exists(path) ? std::optional(FileTime{2026, 11, 21, 15, 5}) : std::nullopt;
+  }
   bool makeFolder(const std::string& /*path*/) override { return !full; }
   std::vector<std::string> list(const std::string& folder) const override {
     std::vector<std::string> names;
@@ -211,6 +214,18 @@ class FakeSounds : public Sounds {
   Tape tape;
 };
 
+class FakePrinter : public Printer {
+ public:
+  bool ask() override { return accepted; }
+  void setFont(const std::string& family, double /*points*/, bool bold) override { tape.push_back("font " + family + (bold ? " bold" : "")); }
+  void print(int column, const std::string& text) override { tape.push_back(std::to_string(column) + ": " + text); }
+  void newLine() override { tape.emplace_back("/"); }
+  void moveTo(int top) override { tape.push_back("at " + std::to_string(top)); }
+  void endDocument() override { tape.emplace_back("end"); }
+  bool accepted = true;
+  Tape tape;
+};
+
 // ---- ports whose users are still to come
 
 class FakeTray : public Tray {
@@ -263,17 +278,6 @@ class FakeHttp : public Http {
   HttpEvents* events = nullptr;
   std::vector<HttpRequest> requests;
   int cancelled = 0;
-};
-
-class FakePrinter : public Printer {
- public:
-  bool ask() override { return accepted; }
-  void setFont(const std::string& family, double /*points*/, bool /*bold*/) override { tape.push_back("font " + family); }
-  void print(int column, const std::string& text) override { tape.push_back(std::to_string(column) + ": " + text); }
-  void newLine() override { tape.emplace_back(""); }
-  void endDocument() override { tape.emplace_back("end"); }
-  bool accepted = true;
-  Tape tape;
 };
 
 }  // namespace orvanta::test

@@ -23,8 +23,7 @@ struct Records : testing::Test {
   FakeFiles files;
   DiscState disc;
   Settings settings;
-  ProgramState program;
-  CdRecords records{files, disc, settings, program};
+  CdRecords records{files, disc, settings};
 };
 
 TEST_F(Records, WritesTheMainFileFieldByField) {
@@ -124,10 +123,7 @@ TEST_F(Records, TimeCorrectionAndProgram) {
   files.files["/DATA/DATACD/00012345.CD1"] = blank(42) + "999\r\n";
   EXPECT_EQ(records.readTimeCorrection(), 5);
   EXPECT_FALSE(records.readProgram());
-  program.pgmList[1] = 3;
-  program.pgmList[2] = 3;
-  program.pgmList[4] = 9;
-  EXPECT_TRUE(records.writeProgram());
+  EXPECT_TRUE(records.writeProgram({3, 3}));
   std::string lines = "3\r\n3\r\n";
   for (int i = 2; i < 100; ++i) lines += "0\r\n";
   EXPECT_EQ(file("2"), lines);

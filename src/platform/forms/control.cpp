@@ -6,7 +6,7 @@
 namespace orvanta::forms {
 
 std::string_view kindName(Kind kind) {
-  static constexpr std::string_view kNames[] = {"label", "image", "panel", "line", "shape", "bar", "textbox", "button"};
+  static constexpr std::string_view kNames[] = {"label", "image", "panel", "line", "shape", "bar", "textbox", "button", "list", "combo"};
   return kNames[static_cast<int>(kind)];
 }
 
@@ -38,5 +38,83 @@ bool Control::insideForm() const {
 }
 
 bool Control::shown() const { return visible && (parent == nullptr || parent->shown()); }
+
+void Combo::setItems(std::vector<std::string> items) {
+  items_ = std::move(items);
+  propertyChanged(Change::Rows);
+}
+
+void Combo::choose(int index) {
+  if (index >= 0 && index < static_cast<int>(items_.size())) caption = items_[static_cast<size_t>(index)];
+}
+
+const std::string& ListBox::row(int index) const {
+  static const std::string kNone;
+  return inRange(index) ? rows_[static_cast<size_t>(index)].text : kNone;
+}
+
+void ListBox::clear() {
+  rows_.clear();
+  listIndex_ = -1;
+  propertyChanged(Change::Rows);
+}
+
+void ListBox::insert(int index, const std::string& text) {
+  if (index < 0 || index > count()) return;
+  rows_.insert(rows_.begin() + index, {text, false});
+  propertyChanged(Change::Rows);
+}
+
+void ListBox::set(int index, const std::string& text) {
+  if (!inRange(index)) return;
+  rows_[static_cast<size_t>(index)].text = text;
+  propertyChanged(Change::Rows);
+}
+
+void ListBox::remove(int index) {
+  if (!inRange(index)) return;
+  rows_.erase(rows_.begin() + index);
+  if (listIndex_ >= count()) listIndex_ = count() - 1;
+  propertyChanged(Change::Rows);
+}
+
+void ListBox::move(int from, int to) {
+  if (!inRange(from) || !inRange(to)) return;
+  const auto row = rows_[static_cast<size_t>(from)];
+  rows_.erase(rows_.begin() + from);
+  rows_.insert(rows_.begin() + to, row);
+  propertyChanged(Change::Rows);
+}
+
+void ListBox::select(int index, bool on) {
+  if (!inRange(index)) return;
+  if (!multiSelect && on) selectOnly(index);
+  rows_[static_cast<size_t>(index)].selected = on;
+  propertyChanged(Change::Selection);
+}
+
+void ListBox::selectOnly(int index) {
+  for (int i = 0; i < count(); ++i) rows_[static_cast<size_t>(i)].selected = i == index;
+  propertyChanged(Change::Selection);
+}
+
+void ListBox::setListIndex(int index) {
+  if (index < -1 || index >= count()) return;
+  listIndex_ = index;
+  if (multiSelect) {
+    propertyChanged(Change::Selection);
+    return;
+  }
+  selectOnly(index);
+  if (index >= 0) form().rowClicked(*this);
+}
+
+void ListBox::taken(int index, const std::vector<int>& selection) {
+  listIndex_ = inRange(index) ? index : -1;
+  for (Row& row : rows_) row.selected = false;
+  for (const int selected : selection) {
+    if (inRange(selected)) rows_[static_cast<size_t>(selected)].selected = true;
+  }
+}
 
 }  // namespace orvanta::forms

@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 #include "base/colour.h"
 #include "platform/forms/property.h"
@@ -14,7 +15,7 @@ namespace orvanta::forms {
 
 class Form;
 
-enum class Kind { Label, Image, Panel, Line, Shape, Bar, TextBox, Button };
+enum class Kind { Label, Image, Panel, Line, Shape, Bar, TextBox, Button, List, Combo };
 std::string_view kindName(Kind kind);
 
 enum class Align { Left, Center, Right };
@@ -28,9 +29,19 @@ struct Font {
   bool operator==(const Font&) const = default;
 };
 
+/// A place in the grid of a resizable window.
+struct Cell {
+  int row = 0;
+  int column = 0;
+  int rows = 1;
+  int columns = 1;
+};
+
+constexpr int kNoIndex = -1;  ///< of a control that is in no array
+
 class Control : protected PropertyOwner {
  public:
-  static constexpr int kNoIndex = -1;
+  static constexpr int kNoIndex = forms::kNoIndex;
 
   Control(Form& form, std::string_view name, int index, Kind kind);
   Control(const Control&) = delete;
@@ -50,6 +61,7 @@ class Control : protected PropertyOwner {
   std::string says;           ///< accessible name where there is no caption
   bool passesMouse = false;   ///< a press goes to what lies below, as on a key's caption
   bool tabStop = false;       ///< Tab halts here while it is visible and enabled
+  Cell cell;                  ///< in a window that lays itself out
   bool tellsText = false;     ///< a new caption is told to the form's handlers, whoever wrote it
 
   Property<int> left{*this, Change::Geometry};
@@ -75,8 +87,10 @@ class Control : protected PropertyOwner {
   /// Visible with all its parents.
   bool shown() const;
 
- private:
+ protected:
   void propertyChanged(Change change) final;
+
+ private:
 
   Form& form_;
   std::string name_;
@@ -93,7 +107,6 @@ class Simple : public Control {
 using Label = Simple<Kind::Label>;
 using Line = Simple<Kind::Line>;
 using Shape = Simple<Kind::Shape>;
-using TextBox = Simple<Kind::TextBox>;
 using Button = Simple<Kind::Button>;
 
 class Image : public Simple<Kind::Image> {
@@ -109,6 +122,65 @@ class Panel : public Simple<Kind::Panel> {
   int bevelInner = 2;
   int bevelOuter = 2;
   int bevelWidth = 3;
+};
+
+/// The text is the caption.
+class TextBox : public Simple<Kind::TextBox> {
+ public:
+  using Simple::Simple;
+  bool multiLine = false;
+  Property<bool> allSelected{*this, Change::Selection};  ///< set by program; the user's next edit ends it
+};
+
+/// A text with a list of proposals.
+class Combo : public Simple<Kind::Combo> {
+ public:
+  using Simple::Simple;
+  void clear() { setItems({}); }
+  void setItems(std::vector<std::string> items);
+  const std::vector<std::string>& items() const { return items_; }
+  /// Takes the text of an item; nothing out of range.
+  void choose(int index);
+
+ private:
+  std::vector<std::string> items_;
+};
+
+/// Rows of text, in columns parted by TABs. Out of range nothing happens, and a row is "".
+class ListBox : public Simple<Kind::List> {
+ public:
+  using Simple::Simple;
+  bool multiSelect = false;
+  std::vector<int> columns;  ///< tab stops, in quarters of a letter's width
+
+  int count() const { return static_cast<int>(rows_.size()); }
+  const std::string& row(int index) const;
+  void clear();
+  void add(const std::string& text) { insert(count(), text); }
+  void insert(int index, const std::string& text);
+  void set(int index, const std::string& text);
+  void remove(int index);
+  void move(int from, int to);
+
+  bool selected(int index) const { return inRange(index) && rows_[static_cast<size_t>(index)].selected; }
+  void select(int index, bool on);
+  void selectOnly(int index);
+  /// The row that the keyboard stands on; -1 for none.
+  int listIndex() const { return listIndex_; }
+  /// In a list of one selection the row is selected too, and its click handler runs.
+  void setListIndex(int index);
+
+  /// What the user did in the view: no answer to it.
+  void taken(int index, const std::vector<int>& selection);
+
+ private:
+  struct Row {
+    std::string text;
+    bool selected = false;
+  };
+  bool inRange(int index) const { return index >= 0 && index < count(); }
+  std::vector<Row> rows_;
+  int listIndex_ = -1;
 };
 
 /// A bar that fills from the left; foreColor is that of a percent text on it.

@@ -63,4 +63,38 @@ void applyDesign(Form& form, std::span<const DesignRow> rows, bool smallFonts) {
   }
 }
 
+/// Places are the view's. Each control but a panel counts as a point, so that it is within its form.
+void applyGrid(Form& form, std::span<const GridRow> rows) {
+  for (const GridRow& row : rows) {
+    if (row.name == form.name()) {
+      form.width = row.cell.columns;
+      form.height = row.cell.rows;
+      form.caption = row.caption;
+      continue;
+    }
+    Control* control = form.find(row.name, row.index);
+    assert(control != nullptr);
+    if (control == nullptr) continue;
+    const bool panel = control->kind() == Kind::Panel;
+    control->parent = row.parent == form.name() ? nullptr : form.find(row.parent);
+    control->cell = row.cell;
+    control->art = row.art;
+    control->says = row.says;
+    control->tabStop = row.tabStop;
+    control->passesMouse = false;
+    control->tellsText = false;
+    control->left = control->top = 0;
+    control->width = panel ? form.width.get() : 1;
+    control->height = panel ? form.height.get() : 1;
+    control->visible = row.visible;
+    control->enabled = true;
+    control->caption = row.caption;
+    control->toolTip = row.toolTip;
+    control->font = Font{};
+    if (auto* list = dynamic_cast<ListBox*>(control)) list->clear();
+    if (auto* combo = dynamic_cast<Combo*>(control)) combo->clear();
+    if (auto* box = dynamic_cast<TextBox*>(control)) box->allSelected = false;
+  }
+}
+
 }  // namespace orvanta::forms

@@ -30,6 +30,23 @@ struct DesignRow {
   const char* says;  ///< accessible name of a control without a caption
 };
 
+/// A row of a window that lays itself out; the row of the form itself gives its first size in `cell`'s
+/// place: rows is the height, columns the width, in twips.
+struct GridRow {
+  const char* name;
+  int index;
+  const char* parent;
+  Cell cell;
+  const char* caption;
+  const char* says;  ///< accessible name of a control without a caption
+  bool tabStop = false;
+  bool visible = true;
+  const char* toolTip = "";
+  const char* art = "";  ///< "tab", "heading", "value", "stretch": see the view
+};
+
+void applyGrid(Form& form, std::span<const GridRow> rows);
+
 /// Writes a table into a form's controls, as one batch before a view looks at them.
 void applyDesign(Form& form, std::span<const DesignRow> rows, bool smallFonts);
 

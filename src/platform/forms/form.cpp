@@ -21,6 +21,10 @@ Form::Form(std::string_view name) : name_(name), events_(&noEvents) {}
 
 Form::~Form() = default;
 
+std::span<const DesignRow> Form::design() const { return {}; }
+
+std::span<const GridRow> Form::grid() const { return {}; }
+
 Control* Form::find(std::string_view controlName, int index) const {
   const auto found = std::find_if(controls_.begin(), controls_.end(), [&](const Control* control) {
     return control->index() == index && control->name() == controlName;
@@ -37,7 +41,9 @@ void Form::load(Desktop& desktop) {
   desktop_ = &desktop;
   active_ = pressed_ = nullptr;
   down_ = keyPress_ = focusShown_ = false;
+  enabled = true;
   applyDesign(*this, design(), smallFonts);
+  applyGrid(*this, grid());
   view_ = desktop.open(*this);
   events_->load();
 }
@@ -127,6 +133,24 @@ void Form::wheel(Control* control, int notches) {
   if (control != nullptr && control->enabled) events_->wheel(*control, notches);
 }
 
+void Form::userText(Control& control, const std::string& text) {
+  if (auto* box = dynamic_cast<TextBox*>(&control)) box->allSelected = false;
+  if (control.caption.get() == text) return;
+  control.caption = text;
+  events_->edited(control);
+}
+
+void Form::userRow(ListBox& list, int row, const std::vector<int>& selection) {
+  list.taken(row, selection);
+  events_->click(list);
+}
+
+void Form::userMovedRow(ListBox& list, int from, int to) { events_->rowMoved(list, from, to); }
+
+void Form::userFocus(Control& control) {
+  if (active_ != &control) setFocus(control);
+}
+
 void Form::press(Control& control) {
   const Mouse middle{MouseButton::Left, control.width / 2, control.height / 2};
   mouseDown(&control, middle);
@@ -140,7 +164,8 @@ bool Form::keyDown(const KeyPress& pressed) {
     return true;
   }
   const bool presses = pressed.code == key::kSpace || pressed.code == key::kEnter;
-  if (!presses || active_ == nullptr || active_->kind() == Kind::TextBox || keyPress_) return false;
+  const bool pressable = active_ != nullptr && active_->kind() != Kind::TextBox && active_->kind() != Kind::Combo && active_->kind() != Kind::List;
+  if (!presses || !pressable || keyPress_) return false;
   keyPress_ = true;
   mouseDown(active_, {MouseButton::Left, active_->width / 2, active_->height / 2});
   return true;

@@ -46,6 +46,10 @@ class FormEvents {
   virtual bool keyDown(const KeyPress& /*key*/) { return false; }
   /// Notches of the wheel over a control, above 0 away from the user.
   virtual void wheel(Control& /*control*/, int /*notches*/) {}
+  /// The user changed a text, or picked one.
+  virtual void edited(Control& /*control*/) {}
+  /// The user moved a row of a list to another place.
+  virtual void rowMoved(ListBox& /*list*/, int /*from*/, int /*to*/) {}
   /// The caption of a control that tells of it has changed.
   virtual void textChanged(Control& /*control*/) {}
   virtual void lostFocus(Control& /*control*/) {}
@@ -66,6 +70,7 @@ class Desktop {
 };
 
 struct DesignRow;
+struct GridRow;
 
 struct Place {
   int left = 0;
@@ -98,10 +103,13 @@ class Form : private PropertyOwner {
   Property<int> height{*this, Change::Geometry};
   Property<std::string> caption{*this, Change::Text};
   Property<Colour> backColor{*this, Change::Look};
+  Property<bool> enabled{*this, Change::Enabled, true};
   Property<bool> minimised{*this, Change::Visibility, false};
 
   /// Puts the design values back, makes the view and runs the load handler. Nothing when loaded.
   void load(Desktop& desktop);
+  /// Its view lays it out by the controls' cells; it has a frame of the system and can be resized.
+  bool resizable() const { return !grid().empty(); }
   bool loaded() const { return desktop_ != nullptr; }
   /// Where the design puts a control in the present metric variant; a control of no row is at 0, 0.
   Place designPlace(const Control& control) const;
@@ -125,6 +133,13 @@ class Form : private PropertyOwner {
   void wheel(Control* control, int notches);
   bool keyDown(const KeyPress& key);
   void keyUp(const KeyPress& key);
+  /// The user's text in a text box or combo.
+  void userText(Control& control, const std::string& text);
+  /// The user went to a row of a list; `selection` is what is selected now.
+  void userRow(ListBox& list, int row, const std::vector<int>& selection);
+  void userMovedRow(ListBox& list, int from, int to);
+  /// Focus that the user gave by the mouse.
+  void userFocus(Control& control);
   /// Press and release in the middle of a control, as Space or a screen reader does.
   void press(Control& control);
   void activated();
@@ -134,13 +149,17 @@ class Form : private PropertyOwner {
   Control* pressed() const { return pressed_; }
 
  protected:
-  virtual std::span<const DesignRow> design() const = 0;
+  /// A window of fixed places has this table, one that lays itself out the next.
+  virtual std::span<const DesignRow> design() const;
+  virtual std::span<const GridRow> grid() const;
 
  private:
   friend class Control;
+  friend class ListBox;
   void add(Control& control) { controls_.push_back(&control); }
   void propertyChanged(Change change) final;
   void textChanged(Control& control) { events_->textChanged(control); }
+  void rowClicked(ListBox& list) { events_->click(list); }
   void moveFocus(bool backwards);
 
   std::string name_;

@@ -6,7 +6,7 @@
 
 namespace orvanta::forms {
 
-enum class Change { Geometry, Visibility, Enabled, Text, Look };
+enum class Change { Geometry, Visibility, Enabled, Text, Look, Rows, Selection };
 
 class PropertyOwner {
  public:

@@ -3,6 +3,7 @@
 
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <time.h>
 
 #include <algorithm>
 #include <cerrno>
@@ -75,6 +76,13 @@ bool HostFiles::remove(const std::string& path) {
 bool HostFiles::exists(const std::string& path) const {
   std::error_code error;
   return fs::exists(actual(path), error);
+}
+
+std::optional<FileTime> HostFiles::modified(const std::string& path) const {
+  struct stat info {};
+  struct tm local {};
+  if (::stat(actual(path).c_str(), &info) != 0 || ::localtime_r(&info.st_mtime, &local) == nullptr) return std::nullopt;
+  return FileTime{local.tm_year + 1900, local.tm_mon + 1, local.tm_mday, local.tm_hour, local.tm_min};
 }
 
 bool HostFiles::makeFolder(const std::string& path) {

@@ -11,6 +11,7 @@ class HostFiles : public Files {
   bool write(const std::string& path, std::string_view bytes) override;
   bool remove(const std::string& path) override;
   bool exists(const std::string& path) const override;
+  std::optional<FileTime> modified(const std::string& path) const override;
   bool makeFolder(const std::string& path) override;
   std::vector<std::string> list(const std::string& folder) const override;
 

@@ -9,6 +9,15 @@
 
 namespace orvanta {
 
+/// Local time.
+struct FileTime {
+  int year = 0;
+  int month = 1;  ///< 1 to 12
+  int day = 1;
+  int hour = 0;
+  int minute = 0;
+};
+
 class Files {
  public:
   virtual ~Files() = default;
@@ -19,6 +28,8 @@ class Files {
   /// True when the file is gone afterwards.
   virtual bool remove(const std::string& path) = 0;
   virtual bool exists(const std::string& path) const = 0;
+  /// When it was last written; nullopt when it is missing.
+  virtual std::optional<FileTime> modified(const std::string& path) const = 0;
   /// With its parents; true when it stands afterwards.
   virtual bool makeFolder(const std::string& path) = 0;
   /// Names in a folder, sorted without case; empty when it cannot be read.

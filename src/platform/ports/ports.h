@@ -11,6 +11,7 @@ class Dialogs;
 class DiscTray;
 class Files;
 class MixerApplication;
+class Printer;
 class Processes;
 class Screen;
 class Sounds;
@@ -31,6 +32,7 @@ struct Ports {
   AuxVolume& auxVolume;
   MixerApplication& mixer;
   Sounds& sounds;
+  Printer& printer;
   forms::Desktop& desktop;  ///< gives loaded forms their views
 };
 

@@ -14,6 +14,9 @@ class Printer {
   /// Text from print column `column` (1 is the left margin) on the present line.
   virtual void print(int column, const std::string& text) = 0;
   virtual void newLine() = 0;
+  /// The present line's place: twips below the top of the printed area.
+  virtual void moveTo(int top) = 0;
+  /// Sends it off. What goes wrong here is the printer's to tell.
   virtual void endDocument() = 0;
 };
 

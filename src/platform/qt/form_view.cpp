@@ -19,6 +19,8 @@
 #include "base/log.h"
 #include "platform/qt/accessible.h"
 #include "platform/qt/art.h"
+#include "platform/qt/data_window.h"
+#include "platform/qt/keys.h"
 #include "platform/qt/to_qt.h"
 
 namespace orvanta {
@@ -32,31 +34,6 @@ constexpr int kDragEnd = 300;  ///< milliseconds without a move
 bool testNames() {
   static const bool kOn = qEnvironmentVariableIntValue("ORVANTA_TEST_NAMES") == 1;
   return kOn;
-}
-
-int keyCode(int qtKey) {
-  switch (qtKey) {
-    case Qt::Key_Tab:
-    case Qt::Key_Backtab: return forms::key::kTab;
-    case Qt::Key_Return:
-    case Qt::Key_Enter: return forms::key::kEnter;
-    case Qt::Key_Backspace: return forms::key::kBackspace;
-    case Qt::Key_Escape: return forms::key::kEscape;
-    case Qt::Key_Left: return forms::key::kLeft;
-    case Qt::Key_Up: return forms::key::kUp;
-    case Qt::Key_Right: return forms::key::kRight;
-    case Qt::Key_Down: return forms::key::kDown;
-    case Qt::Key_Help: return forms::key::kHelp;
-    default: break;
-  }
-  if (qtKey >= Qt::Key_F1 && qtKey <= Qt::Key_F12) return forms::key::kF1 + qtKey - Qt::Key_F1;
-  return qtKey < 0x80 ? qtKey : 0;
-}
-
-forms::KeyPress keyPress(const QKeyEvent& event) {
-  const auto modifiers = event.modifiers();
-  return {keyCode(event.key()), (modifiers & Qt::ShiftModifier) != 0 || event.key() == Qt::Key_Backtab,
-          (modifiers & Qt::ControlModifier) != 0, (modifiers & Qt::AltModifier) != 0};
 }
 
 }  // namespace
@@ -419,7 +396,10 @@ void FormWindow::dragMayHaveEnded() {
   gate_.enter([&] { form_.dragged(scale_.twips(x()), scale_.twips(y())); });
 }
 
-std::unique_ptr<forms::FormView> QtDesktop::open(forms::Form& form) { return std::make_unique<FormWindow>(form, gate_, fonts_, scale_); }
+std::unique_ptr<forms::FormView> QtDesktop::open(forms::Form& form) {
+  if (form.resizable()) return std::make_unique<DataView>(form, gate_, scale_);
+  return std::make_unique<FormWindow>(form, gate_, fonts_, scale_);
+}
 
 void ControlWidget::describe() {
   const std::string& shown = control_.caption;

@@ -1,0 +1,180 @@
+// Typing into the CD Data window: ENTER leads from field to field and through the rows of the lists.
+#include <algorithm>
+
+#include "base/text.h"
+#include "library/cd_data.h"
+#include "library/list_text.h"
+#include "library/upward.h"
+
+namespace orvanta {
+
+namespace {
+
+constexpr size_t kLongestTitle = 60;
+
+struct Link {
+  const char* from;
+  const char* to;
+};
+/// Where ENTER goes.
+constexpr Link kChain[] = {
+    {"Text2", "cat"},      {"cat", "Text4"},      {"Text4", "Text24"},  {"Text24", "mediatype"}, {"mediatype", "Text6"}, {"Text6", "Text18"},
+    {"Text18", "Text7"},   {"Text23", "stloc"},   {"Text10", "stloc"},  {"stloc", "Text16"},     {"Text16", "recdtype"}, {"Text22", "Text15"},
+    {"Text15", "recdtype"}, {"recdtype", "mrat"}, {"mrat", "rrat"},     {"rrat", "mcrat"},       {"mcrat", "pcrat"},     {"pcrat", "crat"},
+    {"crat", "Text13"},    {"Text13", "Text11"},  {"Text11", "upcnum"}, {"upcnum", "cdcost"},    {"cdcost", "Text8"},    {"Text7", "cdcost"},
+    {"reccode", "Text8"},
+};
+
+/// Whose change makes Cancel ask.
+constexpr std::string_view kAsking[] = {"Text2", "Text4", "Text7", "Text18", "cat", "reccode"};
+/// The inputs of the rows: what stands in them is nothing before ENTER.
+constexpr std::string_view kInputs[] = {"Text1", "Text8"};
+
+bool oneOf(std::span<const std::string_view> names, const std::string& name) { return std::find(names.begin(), names.end(), name) != names.end(); }
+
+}  // namespace
+
+void CdData::edited(forms::Control& control) {
+  if (oneOf(kInputs, control.name())) return;
+  state_.library.dataDirty = kOn;
+  if (oneOf(kAsking, control.name())) state_.library.askOnCancel = kOn;
+}
+
+void CdData::gotFocus(forms::Control& control) {
+  auto* box = dynamic_cast<forms::TextBox*>(&control);
+  if (box == nullptr || !oneOf(kInputs, control.name())) return;
+  // A press in the list has just put a title there: the mouse sets the cursor.
+  if (!listMouseDown_) box->allSelected = true;
+  listMouseDown_ = false;
+}
+
+bool CdData::keyDown(const forms::KeyPress& key) {
+  if (key.code == forms::key::kEscape) {
+    cancel();
+    return true;
+  }
+  if (key.code == forms::key::kF1 || key.code == forms::key::kHelp) {
+    upward_.showHelp(kHelpTopic);
+    return true;
+  }
+  const bool enterAlone = key.code == forms::key::kEnter && !key.shift && !key.control && !key.alt;
+  return enterAlone && form_.activeControl() != nullptr && enter(*form_.activeControl());
+}
+
+bool CdData::enter(forms::Control& control) {
+  if (enterInRow(control)) return true;
+  const auto* link = std::find_if(std::begin(kChain), std::end(kChain), [&](const Link& each) { return control.name() == each.from; });
+  if (link == std::end(kChain)) return false;
+  control.caption = withoutControls(trim(control.caption.get()));
+  if (&control == &form_.Text2 || &control == &form_.Text4) updateSubmitKey();
+  focusOn(*form_.find(link->to));
+  return true;
+}
+
+bool CdData::enterInRow(forms::Control& control) {
+  if (&control == &form_.Text1) {
+    textin();
+    updateSubmitKey();
+  } else if (&control == &form_.Text8) {
+    textin2();
+  } else if (&control == &form_.Text5) {
+    enterCorrection();
+  } else if (&control == &form_.List1 || &control == &form_.List2) {
+    editRow(static_cast<forms::ListBox&>(control));
+  } else {
+    return false;
+  }
+  return true;
+}
+
+/// A field on another tab brings its tab up, so that the cursor is never out of sight.
+void CdData::focusOn(forms::Control& control) {
+  const int16_t tab = control.parent == &form_.SSFrame1 ? MusicInfo : control.parent == &form_.SSFrame4 ? AdditionalInfo : Advanced;
+  if (control.parent != &form_.Keys && tab != currentTab_) showTab(tab);
+  form_.setFocus(control);
+}
+
+void CdData::showTab(int16_t tab) {
+  forms::Panel* frames[] = {&form_.SSFrame1, &form_.SSFrame4, &form_.Frame3D1};
+  frames[currentTab_]->top = kTabAway;
+  form_.CommandT[static_cast<size_t>(currentTab_)].visible = true;
+  form_.CommandT[static_cast<size_t>(tab)].visible = false;
+  frames[tab]->top = kTabTop;
+  currentTab_ = tab;
+  if (tab == MusicInfo) currentRow_ = -1;
+}
+
+// ---- rows
+
+void CdData::click(forms::Control& control) {
+  if (auto* list = dynamic_cast<forms::ListBox*>(&control)) chosen(*list);
+}
+
+/// Its text goes to the input, to be seen; it is not under edit yet.
+void CdData::chosen(forms::ListBox& list) {
+  const int row = list.listIndex();
+  if (row < 0) return;
+  if (&list == &form_.List1) {
+    form_.Text1.caption = rowTitle(list.row(row));
+  } else {
+    form_.Text8.caption = state_.library.trackLyrics[static_cast<size_t>(row) + 1];
+  }
+}
+
+void CdData::doubleClick(forms::Control* control) {
+  if (control == &form_.List1 || control == &form_.List2) editRow(static_cast<forms::ListBox&>(*control));
+}
+
+void CdData::editRow(forms::ListBox& list) {
+  const int row = list.listIndex();
+  if (list.row(row).empty()) return;
+  chosen(list);
+  forms::TextBox& box = &list == &form_.List1 ? form_.Text1 : form_.Text8;
+  listMouseDown_ = false;
+  form_.setFocus(box);
+  box.allSelected = true;
+  currentRow_ = row;
+}
+
+/// On to the next row, and after the last one to OK: a whole disc is typed with text and ENTER.
+void CdData::nextRow(forms::ListBox& list, forms::TextBox& box, int taken) {
+  box.caption = "";
+  list.setListIndex(taken + 1 < list.count() ? taken + 1 : taken);
+  ++currentRow_;
+  if (currentRow_ >= list.count() || currentRow_ >= state_.disc.trackCount) {
+    currentRow_ = -1;
+    list.setListIndex(0);
+    box.caption = "";
+    focusOn(form_.Command1);
+    return;
+  }
+  form_.setFocus(box);
+  box.allSelected = true;
+}
+
+void CdData::textin() {
+  const int row = currentRow_;
+  if (row < 0 || row >= form_.List1.count()) return;
+  const std::string text = withoutControls(trim(form_.Text1.caption.get()));
+  state_.library.dataDirty = kOn;
+  form_.List1.set(row, trackRow(state_.disc, row + 1, std::string(firstCharacters(text, kLongestTitle))));
+  nextRow(form_.List1, form_.Text1, row);
+}
+
+void CdData::textin2() {
+  const int row = currentRow_;
+  if (row < 0 || row >= form_.List2.count()) return;
+  const std::string text(trim(form_.Text8.caption.get()));
+  state_.library.dataDirty = kOn;
+  state_.library.trackLyrics[static_cast<size_t>(row) + 1] = withoutControls(withCrLf(text), true);
+  form_.List2.set(row, lyricsRow(row + 1, withCrLf(text)));
+  nextRow(form_.List2, form_.Text8, row);
+}
+
+void CdData::enterCorrection() {
+  state_.library.dataDirty = kOn;
+  form_.Text5.caption = std::to_string(correction());
+  form_.setFocus(form_.Command1);
+}
+
+}  // namespace orvanta

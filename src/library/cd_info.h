@@ -1,0 +1,39 @@
+// Behaviour of cdartext, the CD Info window.
+#pragma once
+
+#include "platform/forms/form.h"
+#include "playback/engine.h"
+#include "state/shared_state.h"
+#include "windows/cdartext.h"
+#include "windows/cdform.h"
+
+namespace orvanta {
+
+class LibraryUpward;
+struct Ports;
+
+class CdInfo : public forms::FormEvents {
+ public:
+  CdInfo(Ports& ports, Engine& engine, cdartext& form, CDForm& faceplate, SharedState& state, LibraryUpward& upward);
+
+  void open();
+  void close() { form_.unload(); }
+
+  void load() override;
+  void mouseUp(forms::Control* control, const forms::Mouse& mouse) override;
+  void click(forms::Control& control) override;
+  bool keyDown(const forms::KeyPress& key) override;
+  void closeAsked() override { close(); }
+
+ private:
+  void place();
+
+  Ports& ports_;
+  Engine& engine_;
+  cdartext& form_;
+  CDForm& faceplate_;
+  SharedState& state_;
+  LibraryUpward& upward_;
+};
+
+}  // namespace orvanta

@@ -1,0 +1,116 @@
+// `addcats.dat` is meant to be edited by hand: one quoted genre a line, not escaped. `userdef.dat`: two
+// quoted, escaped lines.
+#include "library/genres.h"
+
+#include <algorithm>
+
+#include "base/text.h"
+#include "library/cd_records.h"
+#include "platform/ports/dialogs.h"
+#include "platform/ports/files.h"
+#include "state/field_file.h"
+
+namespace orvanta {
+
+namespace {
+
+constexpr size_t kMostOwn = 208;
+constexpr size_t kMostGenres = 300;
+
+constexpr const char* kGenres[] = {
+    "African music", "Aleatory", "Alternative Rock", "American music", "American Indian music", "Austrian music", "Arabian music",
+    "Ballet", "Baroque", "Big Band", "Bluegrass", "Blues", "Broadway Musicals", "Calyso", "Children's music", "Chinese music", "Choral",
+    "Chorus", "Christmas music", "Classic Rock", "Classical", "Comedy", "Computer", "Consort (Concert)", "Contemporary", "Country",
+    "Czech music", "Dance", "Disco", "Dixieland", "Easy Listening", "Electronic", "English music", "Ensemble", "Favorites", "Folk",
+    "French music", "Gospel", "General", "German music", "Greek music", "Guitar", "Hard Rock", "Holiday", "Hungarian music", "Hymn",
+    "Instrumental", "Indian music", "Italian music", "Japanese music", "Jazz", "Jewish music", "Latin", "Medieval", "Miscellaneous",
+    "Movie Soundtrack", "Multimedia", "New Age", "Oldies", "Opera", "Orchestral", "Piano", "Polka", "Popular", "Punk Rock", "Rap",
+    "Ragtime", "Reggae", "Renaissance", "Rococo", "Rock & Roll", "Rhythm & Blues", "Russian music", "Sampler", "Scandinavian music",
+    "Serial", "Soft Rock", "Soul", "Sound Effects", "Spanish music", "Spoken Word", "Square Dance", "Steel Band", "String Quartet",
+    "Swing", "Symphonic", "Test", "Top 40", "United Kingdom music", "Vocalists, Female", "Vocalists, Male",
+};
+
+/// As the list sorts: letters without their case, the rest by code.
+bool before(const std::string& a, const std::string& b) { return upper(a) < upper(b); }
+
+}  // namespace
+
+std::string Genres::path(const char* name) const { return joinPath(state_.settings.appDir, name); }
+
+std::vector<std::string> Genres::ownGenres() const {
+  std::vector<std::string> own;
+  const auto bytes = files_.read(path("addcats.dat"));
+  FieldReader reader(bytes ? std::string_view(*bytes) : std::string_view());
+  while (const auto field = reader.next()) {
+    const std::string genre(trim(*field));
+    if (!genre.empty()) own.push_back(genre);
+  }
+  return own;
+}
+
+void Genres::fillGenres(forms::Combo& combo) const {
+  std::vector<std::string> all(std::begin(kGenres), std::end(kGenres));
+  for (const std::string& own : ownGenres()) {
+    if (all.size() < kMostGenres) all.push_back(own);
+  }
+  // Names that are alike stay in the order of their numbers.
+  std::stable_sort(all.begin(), all.end(), before);
+  combo.setItems(all);
+}
+
+std::optional<std::string> Genres::addGenre() {
+  const auto answer = dialogs_.askText("Orvanta - Add New Music Genre",
+                                       "Please enter the new Music Genre Category below.\n\nNote: to delete user defined categories, edit the "
+                                       "'addcats.dat' file in your Orvanta directory using Windows Notepad or Wordpad.",
+                                       "");
+  if (!answer || trim(*answer).empty()) return std::nullopt;
+  const std::string genre(trim(*answer));
+  std::vector<std::string> own;
+  if (files_.exists(path("addcats.dat"))) {
+    own = ownGenres();
+    files_.remove(path("addcats.dat"));
+  }
+  // The file is gone by now: a list that has grown too long starts anew, as it always has.
+  if (own.size() >= kMostOwn) return genre;
+  own.push_back(genre);
+  FieldWriter out;
+  for (const std::string& entry : own) out.text(entry);
+  files_.write(path("addcats.dat"), out.bytes());
+  return genre;
+}
+
+void Genres::readUserCaptions() {
+  const auto bytes = files_.read(path("userdef.dat"));
+  if (!bytes) return;
+  FieldReader reader(*bytes);
+  for (std::string& caption : state_.library.userCaptions) {
+    const auto field = reader.next();
+    if (field && !field->empty()) caption = unescapeField(*field);
+  }
+}
+
+void Genres::askUserCaptions() {
+  std::array<std::string, 2> answers;
+  for (size_t i = 0; i < 2; ++i) {
+    const std::string number = std::to_string(i + 1);
+    const auto answer = dialogs_.askText("User Defined " + number + " Description", "Enter User Defined " + number + " Description", state_.library.userCaptions[i]);
+    if (!answer) return;
+    answers[i] = trim(withoutControls(*answer));
+  }
+  if (answers[0].empty() && answers[1].empty()) {
+    files_.remove(path("userdef.dat"));
+    state_.library.userCaptions = {};
+    return;
+  }
+  FieldWriter out;
+  for (size_t i = 0; i < 2; ++i) {
+    std::string& caption = answers[i];
+    if (caption.empty() || caption.back() != ':') caption += ':';
+    caption = escapeField(caption);
+    out.text(caption);
+    state_.library.userCaptions[i] = unescapeField(caption);
+  }
+  files_.write(path("userdef.dat"), out.bytes());
+}
+
+}  // namespace orvanta

@@ -1,0 +1,171 @@
+// Rows of the track list's window and of the editor's two lists.
+#include "library/list_text.h"
+
+#include <algorithm>
+
+#include "base/text.h"
+#include "library/cd_records.h"
+
+namespace orvanta {
+
+namespace {
+
+constexpr int kMostTracks = 100;
+constexpr int kLowTracks = 50;  ///< whose lyrics lie among the extended fields
+constexpr size_t kLyrics = 12;  ///< track n's are field n + 12
+constexpr size_t kWrap = 74;
+constexpr size_t kNotesLine = 73;  ///< longest line of notes that keeps its breaks
+
+void addIfSet(forms::ListBox& list, const std::string& caption, const std::string& value) {
+  if (trim(value).empty()) return;
+  list.add("");
+  list.add(caption + "  " + std::string(trim(value)));
+}
+
+void addWrapped(forms::ListBox& list, std::string_view text) {
+  for (const std::string& row : wrapWords(text, kWrap)) list.add(row);
+}
+
+std::vector<std::string> pieces(const std::string& text) {
+  std::vector<std::string> all;
+  size_t from = 0;
+  for (size_t at = text.find("\r\n"); at != std::string::npos; at = text.find("\r\n", from)) {
+    all.push_back(text.substr(from, at - from));
+    from = at + 2;
+  }
+  all.push_back(text.substr(from));
+  return all;
+}
+
+void addNotes(forms::ListBox& list, DiscState& disc) {
+  if (trim(disc.linerNotes).empty()) return;
+  list.add("");
+  list.add("LINER NOTES:");
+  const auto lines = pieces(disc.linerNotes);
+  const bool fit = std::all_of(lines.begin(), lines.end(), [](const std::string& line) { return characterCount(line) <= kNotesLine; });
+  if (lines.size() > 1 && fit) {
+    for (const std::string& line : lines) list.add(line);
+    return;
+  }
+  if (lines.size() > 1) {
+    std::string joined;
+    for (const std::string& line : lines) joined += (&line == &lines.front() ? "" : "  ") + line;
+    disc.linerNotes = joined;
+  }
+  addWrapped(list, disc.linerNotes);
+}
+
+/// Each character that is not plain ASCII as a blank.
+std::string plain(std::string_view text) {
+  std::string clean;
+  for (const char c : text) {
+    const auto byte = static_cast<unsigned char>(c);
+    if ((byte & 0xC0U) == 0x80) continue;
+    clean += byte >= 32 && byte <= 126 ? c : ' ';
+  }
+  return clean;
+}
+
+void addLyrics(forms::ListBox& list, const DiscState& disc) {
+  bool headed = false;
+  for (int track = 1; track <= listedTracks(disc); ++track) {
+    const std::string text(trim(lyricsOf(disc, track)));
+    if (text.empty()) continue;
+    if (!headed) {
+      list.add("");
+      list.add("TRACK LYRICS / INFORMATION:");
+      headed = true;
+    }
+    if (characterCount(text) < 2) continue;
+    if (characterCount(text) < kWrap) {
+      list.add(lyricsRow(track, text));
+      continue;
+    }
+    list.add("");
+    list.add("TRACK " + std::to_string(track) + ":  [" + disc.trackTitles[static_cast<size_t>(track)] + "]");
+    addWrapped(list, plain(text));
+  }
+}
+
+void addOwnField(forms::ListBox& list, const std::string& caption, const std::string& value) {
+  if (trim(value).empty()) return;
+  list.add("");
+  list.add(caption);
+  list.add(std::string(trim(value)));
+}
+
+}  // namespace
+
+int listedTracks(const DiscState& disc) { return std::min<int>(disc.trackCount, kMostTracks); }
+
+std::string lyricsOf(const DiscState& disc, int track) {
+  const auto index = static_cast<size_t>(track);
+  return unescapeField(track <= kLowTracks ? disc.extraInfo[index + kLyrics] : disc.lyricsHigh[index - kLowTracks]);
+}
+
+void setLyrics(DiscState& disc, int track, const std::string& text) {
+  const auto index = static_cast<size_t>(track);
+  (track <= kLowTracks ? disc.extraInfo[index + kLyrics] : disc.lyricsHigh[index - kLowTracks]) = text;
+}
+
+std::string extraField(const DiscState& disc, size_t index) { return unescapeField(disc.extraInfo[index]); }
+
+std::string catalogNumber(const DiscState& disc) { return disc.discKey; }
+
+std::string trackRow(const DiscState& disc, int track, const std::string& title) {
+  return std::to_string(track) + ":\t" + title + "\t" + disc.trackLengths[static_cast<size_t>(track)];
+}
+
+std::string lyricsRow(int track, const std::string& lyrics) { return std::to_string(track) + ":\t" + withoutControls(lyrics); }
+
+std::string rowTitle(const std::string& row) {
+  const auto from = row.find('\t');
+  if (from == std::string::npos) return {};
+  const auto to = row.find('\t', from + 1);
+  return row.substr(from + 1, to == std::string::npos ? std::string::npos : to - from - 1);
+}
+
+void fillTrackList(forms::ListBox& list, const DiscState& disc) {
+  if (disc.trackCount < 1) return;
+  list.clear();
+  for (int track = 1; track <= listedTracks(disc); ++track) list.add(trackRow(disc, track, disc.trackTitles[static_cast<size_t>(track)]));
+}
+
+void fillLyricsList(forms::ListBox& list, const DiscState& disc, LibraryState& library) {
+  if (disc.trackCount < 1) return;
+  list.clear();
+  for (int track = 1; track <= listedTracks(disc); ++track) {
+    const std::string lyrics = lyricsOf(disc, track);
+    library.trackLyrics[static_cast<size_t>(track)] = lyrics;
+    list.add(lyricsRow(track, std::string(trim(lyrics))));
+  }
+}
+
+void fillCdInfoList(forms::ListBox& list, DiscState& disc, const LibraryState& library) {
+  if (disc.trackCount < 1) return;
+  fillTrackList(list, disc);
+  addNotes(list, disc);
+  list.add("");
+  list.add("TOTAL DISC TIME:  " + disc.discLengthText);
+  addIfSet(list, "GENRE:", disc.discInfo[5]);
+  addIfSet(list, "LABEL:", disc.discInfo[4]);
+  addIfSet(list, "CATALOG #:", extraField(disc, 66));
+  list.add("");
+  const std::string media(trim(extraField(disc, 1)));
+  list.add("MEDIA TYPE:  " + (disc.enhancedCd > 0 ? "Enhanced Audio CD" : media.empty() ? "Audio CD" : media));
+  static constexpr std::pair<const char*, size_t> kFields[] = {
+      {"YEAR RELEASED:", 2},  {"UPC #:", 73},          {"ARTIST WEB SITE:", 3}, {"ARTIST INFO:", 63},     {"STORAGE LOCATION:", 4},
+      {"ALBUM CREDITS:", 75}, {"ALBUM INFO:", 64},     {"RECORDING INFO:", 5},  {"RECORDING VENUE:", 6},  {"MUSIC RATING:", 7},
+      {"RECORDING RATING:", 8}, {"MEDIA RATING:", 9},  {"PACKAGING RATING:", 10}, {"CONTENTS RATING:", 11}, {"RECORDING CODE:", 67}};
+  for (const auto& [caption, index] : kFields) addIfSet(list, caption, extraField(disc, index));
+  const auto caption = [&](size_t which, const char* usual) { return library.userCaptions[which].empty() ? std::string(usual) : library.userCaptions[which]; };
+  addOwnField(list, caption(0, "USER DEFINED 1:"), extraField(disc, 12));
+  addOwnField(list, caption(1, "USER DEFINED 2:"), extraField(disc, 74));
+  addIfSet(list, "COMPOSER:", disc.discInfo[3]);
+  addIfSet(list, "COST:", extraField(disc, 0));
+  addIfSet(list, "CD CHANGER ID:", extraField(disc, 65));
+  list.add("Orvanta Catalog #:  " + catalogNumber(disc));
+  addLyrics(list, disc);
+}
+
+}  // namespace orvanta

@@ -1,0 +1,240 @@
+// List2 is the playlist as shown, List3 its track numbers: whatever is done to one is done to the other.
+#include "library/playlist.h"
+
+#include <algorithm>
+
+#include "base/text.h"
+#include "library/list_looks.h"
+#include "library/list_text.h"
+#include "platform/ports/dialogs.h"
+#include "platform/ports/ports.h"
+#include "platform/ports/screen.h"
+
+namespace orvanta {
+
+namespace {
+
+constexpr int16_t kNoRow = 101;
+constexpr int kMostRows = 101;
+constexpr size_t kProgramEntries = 100;
+
+}  // namespace
+
+Playlist::Playlist(Ports& ports, CdRecords& records, Engine& engine, Modes& modes, TimeDisplay& display, cdplist& form, CDForm& faceplate,
+                   SharedState& state)
+    : ports_(ports), records_(records), engine_(engine), modes_(modes), display_(display), form_(form), faceplate_(faceplate), state_(state) {
+  form.setEvents(this);
+}
+
+void Playlist::open() {
+  if (state_.disc.trackCount < 1) return;
+  form_.show(ports_.desktop);
+}
+
+// ---- load
+
+void Playlist::load() {
+  place();
+  form_.List1.multiSelect = form_.List2.multiSelect = true;
+  for (auto* list : {&form_.List1, &form_.List2}) dressList(*list, state_.settings);
+  form_.Command2.enabled = records_.programExists();
+  form_.Command10.enabled = state_.program.pgmStored == kOn;
+  previewRow_ = kNoRow;
+  previewing_ = kOff;
+  fill();
+}
+
+/// Over the faceplate's middle, above it where there is room, else below it.
+void Playlist::place() {
+  const int width = ports_.screen.widthTwips();
+  const int height = ports_.screen.heightTwips();
+  const int left = faceplate_.left + (faceplate_.width - form_.width) / 2;
+  form_.left = std::max(0, std::min(left, width - form_.width));
+  if (faceplate_.top >= form_.height) {
+    form_.top = faceplate_.top - form_.height;
+  } else if (faceplate_.top + faceplate_.height + form_.height <= height) {
+    form_.top = faceplate_.top + faceplate_.height;
+  } else {
+    form_.left = (width - form_.width) / 2;
+    form_.top = std::max(0, (height - form_.height) / 2);
+  }
+}
+
+void Playlist::fill() {
+  const DiscState& disc = state_.disc;
+  form_.List1.clear();
+  clearList();
+  for (int track = 1; track <= listedTracks(disc); ++track) {
+    const std::string title(trim(disc.trackTitles[static_cast<size_t>(track)]));
+    form_.List1.add(title.empty() ? "Track " + std::to_string(track) : title);
+  }
+  // A program that runs is shown.
+  if (state_.program.pgmIndex <= 0) return;
+  for (size_t entry = 1; entry <= kProgramEntries; ++entry) {
+    if (state_.program.pgmList[entry] > 0) append(state_.program.pgmList[entry]);
+  }
+}
+
+/// A number beyond the disc's tracks shows as an empty row.
+void Playlist::append(int track) {
+  form_.List3.add(std::to_string(track));
+  form_.List2.add(titleOf(track));
+}
+
+std::vector<int> Playlist::numbers() const {
+  std::vector<int> all;
+  for (int row = 0; row < form_.List3.count(); ++row) all.push_back(static_cast<int>(leadingNumber(form_.List3.row(row))));
+  return all;
+}
+
+// ---- input
+
+void Playlist::mouseUp(forms::Control* control, const forms::Mouse& mouse) {
+  if (control == nullptr || mouse.button != forms::MouseButton::Left) return;
+  const std::string& name = control->name();
+  if (name == "Command5" || name == "Command11") addRows(name == "Command11");
+  if (name == "Command6") remove();
+  const int row = form_.List2.listIndex();
+  if (name == "Command7") moveRow(row, row - 1);
+  if (name == "Command8") moveRow(row, row + 1);
+  if (name == "Command3") unselect();
+  if (name == "Command9") clearList();
+  if (name == "Command1") save();
+  if (name == "Command2") recall();
+  if (name == "Command10") deleteProgram();
+  if (name == "Command4") play();
+  if (name == "Command12") prvcdt();
+  if (name == "Command13") stop();
+}
+
+void Playlist::click(forms::Control& control) {
+  if (&control == &form_.List1) previewRow_ = static_cast<int16_t>(form_.List1.listIndex());
+}
+
+void Playlist::doubleClick(forms::Control* control) {
+  if (control == &form_.List1) prvcdt();
+}
+
+bool Playlist::keyDown(const forms::KeyPress& key) {
+  if (key.code != forms::key::kEscape) return false;
+  form_.unload();
+  return true;
+}
+
+/// Dragged by the user.
+void Playlist::rowMoved(forms::ListBox& list, int from, int to) {
+  if (&list != &form_.List2) return;
+  form_.List2.move(from, to);
+  form_.List3.move(from, to);
+  form_.List2.setListIndex(to);
+  form_.List2.selectOnly(to);
+}
+
+// ---- the list
+
+void Playlist::addRows(bool all) {
+  if (form_.List1.count() == 0) return;
+  for (int row = 0; row < form_.List1.count(); ++row) {
+    if ((all || form_.List1.selected(row)) && form_.List2.count() < kMostRows) append(row + 1);
+  }
+  form_.List2.selectOnly(form_.List2.count() - 1);
+  form_.List2.setListIndex(form_.List2.count() - 1);
+  unselect();
+}
+
+void Playlist::remove() {
+  if (form_.List2.count() == 0) return;
+  for (int row = form_.List2.count() - 1; row >= 0; --row) {
+    if (!form_.List2.selected(row)) continue;
+    form_.List2.remove(row);
+    form_.List3.remove(row);
+  }
+  form_.List2.selectOnly(form_.List2.count() - 1);
+  form_.List2.setListIndex(form_.List2.count() - 1);
+}
+
+/// Only the row that the keyboard stands on moves, however many are selected.
+void Playlist::moveRow(int from, int to) {
+  bool any = false;
+  for (int row = 0; row < form_.List2.count(); ++row) any = any || form_.List2.selected(row);
+  if (!any || from < 0 || to < 0 || to >= form_.List2.count()) return;
+  form_.List2.move(from, to);
+  form_.List3.move(from, to);
+  form_.List2.setListIndex(to);
+}
+
+void Playlist::unselect() {
+  form_.List1.selectOnly(-1);
+  previewRow_ = kNoRow;
+  stopPreview();
+}
+
+void Playlist::clearList() {
+  form_.List2.clear();
+  form_.List3.clear();
+}
+
+// ---- the program
+
+void Playlist::save() {
+  if (form_.List3.count() == 0) return;
+  records_.writeProgram(numbers());
+  state_.program.pgmStored = kOn;
+  form_.Command10.enabled = true;
+  faceplate_.Label30.foreColor = state_.settings.lcdColor[kLcdLabelOn];
+  play();
+}
+
+void Playlist::recall() {
+  clearList();
+  const auto stored = records_.readProgram();
+  if (!stored) return;
+  for (size_t entry = 0; entry < stored->size() && entry < kProgramEntries; ++entry) {
+    if ((*stored)[entry] > 0) append((*stored)[entry]);
+  }
+}
+
+void Playlist::deleteProgram() {
+  if (state_.program.pgmStored != kOn) return;
+  if (!ports_.dialogs.askYesNo("Orvanta", "Are you sure you wish to delete this playlist?")) return;
+  engine_.clrpgm();
+  state_.program.pgmStored = kOff;
+  form_.Command10.enabled = false;
+  faceplate_.Label30.foreColor = state_.settings.lcdColor[kLcdLabelOff];
+  records_.deleteProgram();
+}
+
+void Playlist::play() {
+  const std::vector<int> tracks = numbers();
+  if (tracks.empty()) return;
+  state_.program.pgmIndex = 0;
+  modes_.Image4_MouseUp(PgmKey);
+  state_.transport.pausePosition = 0;
+  state_.program.pgmList.fill(0);
+  for (size_t i = 0; i < tracks.size() && i < kProgramEntries; ++i) state_.program.pgmList[i + 1] = static_cast<int16_t>(tracks[i]);
+  form_.unload();
+  engine_.playKey();
+}
+
+void Playlist::prvcdt() {
+  previewing_ = kOn;
+  modes_.Image4_MouseUp(OneKey);
+  if (previewRow_ < 0 || previewRow_ >= state_.disc.trackCount) return;
+  if (previewRow_ + 1 == state_.transport.curTrack && faceplate_.icntlc[Play].visible) return;
+  faceplate_.Label17.foreColor = faceplate_.Label24.foreColor = colours::kBlack;
+  state_.transport.selTrack = previewRow_;
+  engine_.clrab();
+  engine_.jump();
+  if (state_.settings.repeatOn <= 0) display_.lamps(20, kLcdDim);
+}
+
+void Playlist::stop() {
+  engine_.stopKey();
+  previewing_ = kOff;
+}
+
+void Playlist::stopPreview() {
+  if (previewing_ == kOn) stop();
+}
+
+}  // namespace orvanta

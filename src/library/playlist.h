@@ -1,0 +1,63 @@
+// Behaviour of cdplist, the playlist editor.
+#pragma once
+
+#include <vector>
+
+#include "library/cd_records.h"
+#include "platform/forms/form.h"
+#include "playback/buttons.h"
+#include "state/shared_state.h"
+#include "windows/cdform.h"
+#include "windows/cdplist.h"
+
+namespace orvanta {
+
+struct Ports;
+
+class Playlist : public forms::FormEvents {
+ public:
+  Playlist(Ports& ports, CdRecords& records, Engine& engine, Modes& modes, TimeDisplay& display, cdplist& form, CDForm& faceplate, SharedState& state);
+
+  /// Nothing without tracks.
+  void open();
+
+  void load() override;
+  void mouseUp(forms::Control* control, const forms::Mouse& mouse) override;
+  void click(forms::Control& control) override;
+  void doubleClick(forms::Control* control) override;
+  bool keyDown(const forms::KeyPress& key) override;
+  void rowMoved(forms::ListBox& list, int from, int to) override;
+  void closeAsked() override { form_.unload(); }
+
+ private:
+  void place();
+  void fill();
+  void addRows(bool all);
+  void remove();
+  void moveRow(int from, int to);
+  void unselect();
+  void clearList();
+  void save();
+  void recall();
+  void deleteProgram();
+  void play();
+  void prvcdt();
+  void stop();
+  void stopPreview();
+  std::vector<int> numbers() const;
+  std::string titleOf(int track) const { return form_.List1.row(track - 1); }
+  void append(int track);
+
+  Ports& ports_;
+  CdRecords& records_;
+  Engine& engine_;
+  Modes& modes_;
+  TimeDisplay& display_;
+  cdplist& form_;
+  CDForm& faceplate_;
+  SharedState& state_;
+  int16_t previewRow_ = 101;  ///< zero-based; 101 for none
+  int16_t previewing_ = kOff;
+};
+
+}  // namespace orvanta

@@ -1,0 +1,402 @@
+// Widgets of a data window and the roads between them and their controls.
+#include "platform/qt/data_window.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMouseEvent>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QScreen>
+#include <QTimer>
+#include <algorithm>
+
+#include "platform/qt/data_style.h"
+#include "platform/qt/keys.h"
+#include "platform/qt/row_list.h"
+#include "platform/qt/to_qt.h"
+
+namespace orvanta {
+
+using forms::Change;
+
+namespace {
+
+constexpr int kNotesLines = 4;
+
+std::string fromQt(const QString& text) { return text.toStdString(); }
+
+bool has(const forms::Control& control, std::string_view art) { return control.art.find(art) != std::string::npos; }
+
+void name(QWidget& widget, const forms::Control& control) {
+  if (!control.says.empty()) widget.setAccessibleName(toQt(control.says));
+  static const bool kTestNames = qEnvironmentVariableIntValue("ORVANTA_TEST_NAMES") == 1;
+  widget.setAccessibleDescription(toQt(kTestNames ? control.fullName() : control.toolTip.get()));
+  widget.setObjectName(toQt(control.fullName()));
+  // Escaped: a tip is plain text, never taken for HTML.
+  widget.setToolTip(toQt(control.toolTip).toHtmlEscaped());
+}
+
+}  // namespace
+
+DataWindow::DataWindow(forms::Form& form, CoreGate& gate, const Scale& scale) : form_(&form), gate_(gate), scale_(scale) {
+  setAttribute(Qt::WA_QuitOnClose, false);
+  setObjectName(toQt(form.name()));
+  setWindowTitle(toQt(form.caption));
+  dress(*this, scale.factor);
+  build();
+  resize(scale.pixels(form.width), scale.pixels(form.height));
+}
+
+void DataWindow::detach() { form_ = nullptr; }
+
+/// Calls the core. The form may be gone when it comes back.
+template <class Work>
+void DataWindow::enter(const Work& work) {
+  if (form_ == nullptr || telling_) return;
+  gate_.enter(work);
+}
+
+// ---- widgets
+
+QGridLayout* DataWindow::gridOf(QWidget* owner, const forms::Control* panel) {
+  auto* grid = static_cast<QGridLayout*>(owner->layout());
+  if (grid == nullptr) {
+    grid = new QGridLayout(owner);
+    const int gap = static_cast<int>(6 * scale_.factor);
+    grid->setSpacing(gap);
+    if (panel != nullptr && !has(*panel, "frame")) grid->setContentsMargins(0, 0, 0, 0);
+  }
+  return grid;
+}
+
+void DataWindow::build() {
+  // Panels first: what lies on them needs them.
+  std::vector<forms::Control*> order(form_->controls());
+  std::stable_partition(order.begin(), order.end(), [](const forms::Control* control) { return control->kind() == forms::Kind::Panel; });
+  for (forms::Control* control : order) {
+    QWidget* owner = control->parent == nullptr ? this : widgets_.at(control->parent);
+    QWidget* widget = make(*control, owner);
+    widgets_[control] = widget;
+    name(*widget, *control);
+    QGridLayout* grid = gridOf(owner, control->parent);
+    const forms::Cell& cell = control->cell;
+    const bool small = has(*control, "narrow") || has(*control, "small");
+    grid->addWidget(widget, cell.row, cell.column, cell.rows, cell.columns, small ? Qt::AlignLeft : Qt::Alignment());
+    if (has(*control, "stretch")) grid->setRowStretch(cell.row, 1);
+    // Fields take the room, captions what they need.
+    const bool field = control->kind() == forms::Kind::TextBox || control->kind() == forms::Kind::Combo || control->kind() == forms::Kind::List;
+    if (field && cell.columns == 1 && !small) grid->setColumnStretch(cell.column, 1);
+    if (has(*control, "wide")) grid->setColumnStretch(cell.column, 1);
+    if (control->parent == nullptr && has(*control, "frame")) grid->setRowStretch(cell.row, 1);
+    showVisibility(*control);
+  }
+  if (QWidget* tabs = findChild<QWidget*>(QStringLiteral("TabPanel0"))) gridOf(tabs, nullptr)->setColumnStretch(9, 1);
+  if (QWidget* advanced = findChild<QWidget*>(QStringLiteral("Frame3D1"))) {
+    gridOf(advanced, nullptr)->setRowStretch(9, 1);
+    gridOf(advanced, nullptr)->setColumnStretch(9, 1);
+  }
+  if (QWidget* column = findChild<QWidget*>(QStringLiteral("Middle"))) gridOf(column, nullptr)->setRowStretch(9, 1);
+}
+
+QWidget* DataWindow::make(forms::Control& control, QWidget* parent) {
+  switch (control.kind()) {
+    case forms::Kind::TextBox: return makeText(static_cast<forms::TextBox&>(control), parent);
+    case forms::Kind::Combo: return makeCombo(static_cast<forms::Combo&>(control), parent);
+    case forms::Kind::List: return makeList(static_cast<forms::ListBox&>(control), parent);
+    case forms::Kind::Button: return makeButton(static_cast<forms::Button&>(control), parent);
+    case forms::Kind::Label: return makeLabel(static_cast<forms::Label&>(control), parent);
+    default: {
+      if (control.caption.get().empty()) return new QWidget(parent);
+      return new QGroupBox(toQt(control.caption), parent);
+    }
+  }
+}
+
+void DataWindow::watch(QWidget* widget, forms::Control& control) {
+  controls_[widget] = &control;
+  widget->installEventFilter(this);
+}
+
+QWidget* DataWindow::makeText(forms::TextBox& box, QWidget* parent) {
+  if (!has(box, "notes")) {
+    auto* line = new QLineEdit(toQt(box.caption), parent);
+    watch(line, box);
+    if (has(box, "narrow")) line->setFixedWidth(static_cast<int>(60 * scale_.factor));
+    QObject::connect(line, &QLineEdit::textEdited, this, [this, &box](const QString& text) { userTyped(box, text); });
+    return line;
+  }
+  auto* notes = new QPlainTextEdit(toQt(box.caption), parent);
+  notes->setTabChangesFocus(true);
+  notes->setMaximumHeight(notes->fontMetrics().lineSpacing() * kNotesLines + static_cast<int>(14 * scale_.factor));
+  watch(notes, box);
+  QObject::connect(notes, &QPlainTextEdit::textChanged, this, [this, &box, notes] { userTyped(box, notes->toPlainText()); });
+  return notes;
+}
+
+QWidget* DataWindow::makeCombo(forms::Combo& combo, QWidget* parent) {
+  auto* view = new QComboBox(parent);
+  view->setEditable(true);
+  view->setInsertPolicy(QComboBox::NoInsert);
+  view->setMinimumContentsLength(6);
+  view->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  watch(view, combo);
+  watch(view->lineEdit(), combo);
+  view->lineEdit()->setAccessibleName(toQt(combo.says));
+  QObject::connect(view, &QComboBox::editTextChanged, this, [this, &combo](const QString& text) { userTyped(combo, text); });
+  return view;
+}
+
+QWidget* DataWindow::makeList(forms::ListBox& list, QWidget* parent) {
+  auto* view = new RowList(parent, has(list, "drag"));
+  dressRows(*view, list, scale_.factor);
+  watch(view, list);
+  controls_[view->viewport()] = &list;
+  view->viewport()->installEventFilter(this);
+  const auto selected = [this, &list] { userSelected(list); };
+  QObject::connect(view, &QTreeWidget::itemClicked, this, selected);
+  // The keyboard's ways; those of the mouse end with a click.
+  QObject::connect(view, &QTreeWidget::itemSelectionChanged, this, [this, selected] {
+    if (!telling_ && QApplication::mouseButtons() == Qt::NoButton) selected();
+  });
+  QObject::connect(view, &QTreeWidget::itemDoubleClicked, this, [this, &list] { enter([&] { form_->doubleClick(&list); }); });
+  view->onMove = [this, &list](int from, int to) { enter([&] { form_->userMovedRow(list, from, to); }); };
+  return view;
+}
+
+QWidget* DataWindow::makeButton(forms::Button& button, QWidget* parent) {
+  auto* key = new QPushButton(toQt(button.caption), parent);
+  key->setAutoDefault(false);
+  if (has(button, "tab")) {
+    key->setCheckable(true);
+    key->setProperty("tab", true);
+  }
+  if (has(button, "small")) key->setFixedWidth(static_cast<int>(30 * scale_.factor));
+  watch(key, button);
+  QObject::connect(key, &QPushButton::clicked, this, [this, &button, key] {
+    // A tab's key shows its state, whatever the press would make of it.
+    if (key->isCheckable()) key->setChecked(!button.visible);
+    enter([&] { form_->press(button); });
+  });
+  return key;
+}
+
+QWidget* DataWindow::makeLabel(forms::Label& label, QWidget* parent) {
+  auto* view = new QLabel(parent);
+  view->setTextFormat(Qt::PlainText);
+  view->setText(toQt(label.caption));
+  view->setWordWrap(has(label, "text"));
+  view->setProperty("art", toQt(label.art));
+  if (has(label, "number")) view->setFixedWidth(static_cast<int>(34 * scale_.factor));
+  if (has(label, "right")) view->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  watch(view, label);
+  return view;
+}
+
+QWidget* DataWindow::widgetOf(const forms::Control& control) const {
+  const auto found = widgets_.find(&control);
+  return found == widgets_.end() ? nullptr : found->second;
+}
+
+// ---- from the form
+
+void DataWindow::follow(forms::Control& control, Change change) {
+  QWidget* widget = widgetOf(control);
+  if (widget == nullptr) return;
+  switch (change) {
+    case Change::Text: showText(control); break;
+    case Change::Visibility: showVisibility(control); break;
+    case Change::Geometry: showFrames(); break;
+    case Change::Enabled: widget->setEnabled(control.enabled); break;
+    case Change::Look:
+      if (auto* list = dynamic_cast<forms::ListBox*>(&control)) dressRows(*static_cast<QTreeWidget*>(widget), *list, scale_.factor);
+      break;
+    case Change::Rows:
+    case Change::Selection: break;
+  }
+  if (auto* list = dynamic_cast<forms::ListBox*>(&control); list != nullptr && (change == Change::Rows || change == Change::Selection)) {
+    if (waiting_.empty()) QTimer::singleShot(0, this, [this] { flush(); });
+    waiting_[list] = waiting_[list] || change == Change::Rows;
+  }
+  if (auto* combo = dynamic_cast<forms::Combo*>(&control); combo != nullptr && change == Change::Rows) {
+    telling_ = true;
+    auto* view = static_cast<QComboBox*>(widget);
+    view->clear();
+    for (const std::string& item : combo->items()) view->addItem(toQt(item));
+    view->setEditText(toQt(combo->caption));
+    telling_ = false;
+  }
+  auto* box = dynamic_cast<forms::TextBox*>(&control);
+  if (box == nullptr || change != Change::Selection || !box->allSelected) return;
+  if (auto* line = dynamic_cast<QLineEdit*>(widget)) line->selectAll();
+  if (auto* notes = dynamic_cast<QPlainTextEdit*>(widget)) notes->selectAll();
+}
+
+void DataWindow::showText(forms::Control& control) {
+  telling_ = true;
+  QWidget* widget = widgetOf(control);
+  const QString text = toQt(control.caption);
+  if (auto* line = dynamic_cast<QLineEdit*>(widget); line != nullptr && line->text() != text) line->setText(text);
+  if (auto* notes = dynamic_cast<QPlainTextEdit*>(widget); notes != nullptr && notes->toPlainText() != text) notes->setPlainText(text);
+  if (auto* combo = dynamic_cast<QComboBox*>(widget); combo != nullptr && combo->currentText() != text) combo->setEditText(text);
+  if (auto* label = dynamic_cast<QLabel*>(widget)) label->setText(text);
+  if (auto* button = dynamic_cast<QPushButton*>(widget)) button->setText(text);
+  telling_ = false;
+}
+
+void DataWindow::showVisibility(forms::Control& control) {
+  QWidget* widget = widgetOf(control);
+  if (auto* tab = dynamic_cast<QPushButton*>(widget); tab != nullptr && tab->isCheckable()) {
+    tab->setChecked(!control.visible);
+    return;
+  }
+  widget->setVisible(control.visible && control.insideForm());
+}
+
+void DataWindow::showFrames() {
+  for (const auto& [control, widget] : widgets_) {
+    if (control->kind() == forms::Kind::Panel) widget->setVisible(control->visible && control->insideForm());
+  }
+}
+
+void DataWindow::flush() {
+  if (form_ == nullptr) return;
+  const auto waiting = std::exchange(waiting_, {});
+  telling_ = true;
+  for (const auto& [list, rows] : waiting) {
+    auto& view = *static_cast<QTreeWidget*>(widgetOf(*list));
+    if (rows) showRows(*list, view);
+    showSelection(*list, view);
+  }
+  telling_ = false;
+}
+
+void DataWindow::showRows(forms::ListBox& list, QTreeWidget& view) {
+  std::vector<std::string> rows;
+  for (int row = 0; row < list.count(); ++row) rows.push_back(list.row(row));
+  fillRows(view, rows);
+}
+
+void DataWindow::showSelection(forms::ListBox& list, QTreeWidget& view) {
+  view.setCurrentItem(view.topLevelItem(list.listIndex()), 0, QItemSelectionModel::NoUpdate);
+  for (int row = 0; row < list.count(); ++row) {
+    if (QTreeWidgetItem* item = view.topLevelItem(row)) item->setSelected(list.selected(row));
+  }
+  if (list.listIndex() >= 0) view.scrollToItem(view.topLevelItem(list.listIndex()));
+}
+
+void DataWindow::followForm(Change change) {
+  if (form_ == nullptr) return;
+  if (change == Change::Text) setWindowTitle(toQt(form_->caption));
+  if (change == Change::Enabled) setEnabled(form_->enabled);
+  if (change == Change::Geometry) place();
+}
+
+void DataWindow::followFocus(forms::Control* control) {
+  QWidget* widget = control == nullptr ? nullptr : widgetOf(*control);
+  if (widget == nullptr || widget->hasFocus()) return;
+  flush();
+  telling_ = true;
+  widget->setFocus(Qt::OtherFocusReason);
+  telling_ = false;
+}
+
+// ---- the window
+
+bool DataWindow::onScreen() const {
+  return form_ != nullptr && scale_.pixels(form_->left) < QGuiApplication::primaryScreen()->geometry().right();
+}
+
+void DataWindow::place() {
+  resize(scale_.pixels(form_->width), scale_.pixels(form_->height));
+  move(scale_.pixels(form_->left), scale_.pixels(form_->top));
+}
+
+void DataWindow::showWanted(bool wanted) {
+  wanted_ = wanted;
+  if (wanted) {
+    place();
+    flush();
+  }
+  setVisible(wanted && onScreen());
+}
+
+void DataWindow::closeEvent(QCloseEvent* event) {
+  event->ignore();
+  enter([&] { form_->closeAsked(); });
+}
+
+void DataWindow::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() == QEvent::ActivationChange && isActiveWindow()) enter([&] { form_->activated(); });
+}
+
+// ---- from the user
+
+void DataWindow::userTyped(forms::Control& control, const QString& text) {
+  if (telling_) return;
+  enter([&] { form_->userText(control, fromQt(text)); });
+  if (form_ != nullptr) showText(control);
+}
+
+void DataWindow::userSelected(forms::ListBox& list) {
+  if (telling_ || form_ == nullptr) return;
+  auto& view = *static_cast<QTreeWidget*>(widgetOf(list));
+  std::vector<int> selection;
+  for (QTreeWidgetItem* item : view.selectedItems()) selection.push_back(view.indexOfTopLevelItem(item));
+  enter([&] { form_->userRow(list, view.indexOfTopLevelItem(view.currentItem()), selection); });
+}
+
+/// Presses on lists, and the right button everywhere, are the form's to know.
+bool DataWindow::mouse(forms::Control& control, QEvent* event) {
+  const auto* mouse = static_cast<QMouseEvent*>(event);
+  const bool right = mouse->button() == Qt::RightButton;
+  if (!right && control.kind() != forms::Kind::List) return false;
+  const forms::Mouse at{right ? forms::MouseButton::Right : forms::MouseButton::Left, 0, 0, false};
+  if (event->type() == QEvent::MouseButtonPress) {
+    enter([&] { form_->mouseDown(&control, at); });
+  } else {
+    enter([&] { form_->mouseUp({at.button, -1, -1, false}); });
+  }
+  // A text field keeps its own menu.
+  return right && control.kind() != forms::Kind::TextBox && control.kind() != forms::Kind::Combo;
+}
+
+bool DataWindow::eventFilter(QObject* watched, QEvent* event) {
+  const auto found = controls_.find(watched);
+  if (form_ == nullptr || found == controls_.end()) return QWidget::eventFilter(watched, event);
+  forms::Control& control = *found->second;
+  bool used = false;
+  switch (event->type()) {
+    case QEvent::KeyPress: enter([&] { used = form_->keyDown(keyPress(*static_cast<QKeyEvent*>(event))); }); break;
+    case QEvent::KeyRelease:
+      if (!static_cast<QKeyEvent*>(event)->isAutoRepeat()) enter([&] { form_->keyUp(keyPress(*static_cast<QKeyEvent*>(event))); });
+      break;
+    case QEvent::FocusIn: enter([&] { form_->userFocus(control); }); break;
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease: used = mouse(control, event); break;
+    default: break;
+  }
+  return used || QWidget::eventFilter(watched, event);
+}
+
+// ---- DataView
+
+DataView::~DataView() {
+  if (window_ == nullptr) return;
+  window_->detach();
+  window_->hide();
+  window_->deleteLater();
+}
+
+void DataView::raise() {
+  window_->raise();
+  window_->activateWindow();
+}
+
+}  // namespace orvanta

@@ -1,0 +1,37 @@
+// Letters and digits are their upper-case codes in both.
+#include "platform/qt/keys.h"
+
+#include <QKeyEvent>
+
+namespace orvanta {
+
+namespace {
+
+int keyCode(int qtKey) {
+  switch (qtKey) {
+    case Qt::Key_Tab:
+    case Qt::Key_Backtab: return forms::key::kTab;
+    case Qt::Key_Return:
+    case Qt::Key_Enter: return forms::key::kEnter;
+    case Qt::Key_Backspace: return forms::key::kBackspace;
+    case Qt::Key_Escape: return forms::key::kEscape;
+    case Qt::Key_Left: return forms::key::kLeft;
+    case Qt::Key_Up: return forms::key::kUp;
+    case Qt::Key_Right: return forms::key::kRight;
+    case Qt::Key_Down: return forms::key::kDown;
+    case Qt::Key_Help: return forms::key::kHelp;
+    default: break;
+  }
+  if (qtKey >= Qt::Key_F1 && qtKey <= Qt::Key_F12) return forms::key::kF1 + qtKey - Qt::Key_F1;
+  return qtKey < 0x80 ? qtKey : 0;
+}
+
+}  // namespace
+
+forms::KeyPress keyPress(const QKeyEvent& event) {
+  const auto modifiers = event.modifiers();
+  return {keyCode(event.key()), (modifiers & Qt::ShiftModifier) != 0 || event.key() == Qt::Key_Backtab,
+          (modifiers & Qt::ControlModifier) != 0, (modifiers & Qt::AltModifier) != 0};
+}
+
+}  // namespace orvanta

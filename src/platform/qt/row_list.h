@@ -1,0 +1,28 @@
+// Rows of text with columns parted by TABs.
+#pragma once
+
+#include <QTreeWidget>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "platform/forms/control.h"
+
+namespace orvanta {
+
+class RowList : public QTreeWidget {
+ public:
+  RowList(QWidget* parent, bool draggable);
+  /// A row was dragged to another place; the list itself leaves it where it was.
+  std::function<void(int from, int to)> onMove;
+
+ protected:
+  void dropEvent(QDropEvent* event) override;
+};
+
+void fillRows(QTreeWidget& view, const std::vector<std::string>& rows);
+
+/// Selection mode, font and colours of the control's.
+void dressRows(QTreeWidget& view, const forms::ListBox& list, double factor);
+
+}  // namespace orvanta

@@ -16,7 +16,7 @@ constexpr const char* kCorrectionText =
 // clang-format off
 constexpr forms::GridRow kEditorGrid[] = {
     // name, index, parent, {row, column, rows, columns}, caption, says, tab stop, visible, tool tip, art
-    {"acdtabs", kNoIndex, "", {0, 0, 8400, 11700}, "CD Data", ""},
+    {"acdtabs", kNoIndex, "", {0, 0, 9000, 11700}, "CD Data", ""},
     {"TabPanel0", kNoIndex, "acdtabs", {0, 0, 1, 1}, "", "", false, true, "", "tabs"},
     {"SSFrame1", kNoIndex, "acdtabs", {1, 0, 1, 1}, "", "", false, true, "", "frame"},
     {"SSFrame4", kNoIndex, "acdtabs", {1, 0, 1, 1}, "", "", false, true, "", "frame"},
@@ -94,8 +94,8 @@ constexpr forms::GridRow kEditorGrid[] = {
     {"List2", kNoIndex, "SSFrame4", {8, 0, 1, 6}, "", "Track lyrics", true, true, "", "stretch"},
     {"Captions", 26, "SSFrame4", {9, 0, 1, 1}, "Track Lyrics / Info:", ""},
     {"Text8", kNoIndex, "SSFrame4", {9, 1, 1, 5}, "", "Track Lyrics / Info", true, true, "Press the \"ENTER\" key after typing the track info...", "notes"},
-    {"Label18", kNoIndex, "Frame3D1", {0, 0, 1, 3}, kCorrectionText, "", false, true, "", "text"},
-    {"LabelCorrection", kNoIndex, "Frame3D1", {1, 0, 1, 1}, "&Time Correction:", ""},
+    {"Label18", kNoIndex, "Frame3D1", {0, 0, 1, 10}, kCorrectionText, "", false, true, "", "text"},
+    {"LabelCorrection", kNoIndex, "Frame3D1", {1, 0, 1, 1}, "&Time Correction:", "", false, true, "", "buddy"},
     {"Text5", kNoIndex, "Frame3D1", {1, 1, 1, 1}, "", "Time correction, seconds", true, true, "", "narrow"},
     {"Label16", kNoIndex, "Frame3D1", {1, 2, 1, 1}, "Seconds", ""},
     {"Label24", kNoIndex, "Facts", {0, 0, 1, 1}, "Entered", ""},

@@ -96,6 +96,11 @@ void DataWindow::build() {
     if (control->parent == nullptr && has(*control, "frame")) grid->setRowStretch(cell.row, 1);
     showVisibility(*control);
   }
+  // A caption with a letter of its own leads to the field behind it.
+  for (size_t i = 0; i + 1 < form_->controls().size(); ++i) {
+    const forms::Control& caption = *form_->controls()[i];
+    if (has(caption, "buddy")) static_cast<QLabel*>(widgets_.at(&caption))->setBuddy(widgets_.at(form_->controls()[i + 1]));
+  }
   if (QWidget* tabs = findChild<QWidget*>(QStringLiteral("TabPanel0"))) gridOf(tabs, nullptr)->setColumnStretch(9, 1);
   if (QWidget* advanced = findChild<QWidget*>(QStringLiteral("Frame3D1"))) {
     gridOf(advanced, nullptr)->setRowStretch(9, 1);
@@ -373,7 +378,12 @@ bool DataWindow::eventFilter(QObject* watched, QEvent* event) {
   forms::Control& control = *found->second;
   bool used = false;
   switch (event->type()) {
-    case QEvent::KeyPress: enter([&] { used = form_->keyDown(keyPress(*static_cast<QKeyEvent*>(event))); }); break;
+    case QEvent::KeyPress:
+      enter([&] {
+        form_->userFocus(control);
+        used = form_->keyDown(keyPress(*static_cast<QKeyEvent*>(event)));
+      });
+      break;
     case QEvent::KeyRelease:
       if (!static_cast<QKeyEvent*>(event)->isAutoRepeat()) enter([&] { form_->keyUp(keyPress(*static_cast<QKeyEvent*>(event))); });
       break;

@@ -28,7 +28,7 @@ Orvanta::Orvanta(Ports& ports)
       print_(ports, editor, state),
       cdData_(ports, records_, genres_, html_, print_, editor, form, state, *this),
       playlist_(ports, records_, engine_, modes_, display_, playlistForm, form, state),
-      info_(ports, engine_, infoForm, form, state, *this),
+      info_(ports, engine_, modes_, infoForm, form, state, *this),
       drawer_(ports, engine_, sounds_, form, state, *this),
       exit_(ports, volume_, sounds_, form, state),
       restart_(ports, volume_, state),

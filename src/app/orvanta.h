@@ -33,6 +33,9 @@ class Orvanta : private PlaybackUpward, private LibraryUpward {
   void startUp(const HostOptions& options);
   void showFaceplate() override;
 
+  /// What fills and saves the disc's texts by program.
+  CdData& cdData() { return cdData_; }
+
   CDForm form;
   acdtabs editor;
   cdplist playlistForm;

@@ -25,6 +25,7 @@ void RecorderLaunch::run() {
   for (auto& mask : form_.icntlb) mask.visible = true;
   writeSettings(SettingsFile::SettingsDat, ports_.files, settings.appDir, settings);
   position_.saveposn1();
+  volume_.releaseMute();
   volume_.mixer().tidyUp();
   form_.Label28.foreColor = colours::kDarkRed;
   form_.SSPanel3.backColor = colours::kRed;

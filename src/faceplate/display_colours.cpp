@@ -86,7 +86,7 @@ void DisplayColours::spareLamps() {
     return;
   }
   for (int i = 1; i <= 15; ++i) {
-    auto& label = form_.Label22[static_cast<size_t>(i + 10)];
+    auto& label = form_.Label22[static_cast<size_t>(i) + 10];
     if (i > tracks) {
       label.foreColor = kSpareCell;
     } else if (state_.settings.lcdCustom == 1) {
@@ -158,7 +158,9 @@ void DisplayColours::loadorvanta1b() {
   const auto paint = [](std::initializer_list<forms::Control*> controls, Colour back) {
     for (auto* control : controls) control->backColor = back;
   };
-  if (colour[1] + uint64_t{colour[2]} + colour[3] + colour[4] > 0) {
+  // A screen of few colours keeps its plain dark panels.
+  const bool enough = state_.process.colourCount >= kFewColours;
+  if (enough && colour[1] + uint64_t{colour[2]} + colour[3] + colour[4] > 0) {
     for (auto* line : {&form_.Line2, &form_.Line3, &form_.Line4, &form_.Line5}) line->foreColor = colour[0];
     form_.backColor = colour[1];
     paint({&form_.Label1, &form_.Label2, &form_.Label3, &form_.Label4, &form_.Label5}, colour[1]);
@@ -170,7 +172,7 @@ void DisplayColours::loadorvanta1b() {
   if (colour[9] != 0) fore({&form_.Label7, &form_.Label9, &form_.Label11}, colour[9]);
   if (colour[10] != 0) fore({&form_.Label8, &form_.Label10}, colour[10]);
   // A legend in the colour of its ground could not be read.
-  if (form_.Label1.foreColor == form_.Label1.backColor) {
+  if (form_.Label1.foreColor.get() == form_.Label1.backColor.get()) {
     fore({&form_.Label1, &form_.Label2, &form_.Label3, &form_.Label4, &form_.Label5, &form_.Label15}, colours::kBlack);
   }
 }

@@ -85,6 +85,7 @@ void Drawer::openFrames() {
   form_.Panel3D6.visible = false;
   place(form_.Panel3D8, kTrayFrame);
   form_.Panel3D2.refresh();
+  form_.Label1.refresh();
   clock_.delaySeconds(kFrame);
   form_.Panel3D8.visible = false;
   place(form_.Panel3D7, kOpenMain);

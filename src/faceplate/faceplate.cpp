@@ -33,7 +33,7 @@ void Faceplate::load() {
   // The title lines are laid out by what they hold.
   form_.Label12.tellsText = true;
   on_.colours.loadorvanta1();
-  if (state_.process.colourCount < 257) {
+  if (state_.process.colourCount < kFewColours) {
     form_.Panel3D2.backColor = form_.Panel3D3.backColor = 0x400000;
     form_.backColor = 0x400000;
   }

@@ -67,6 +67,7 @@ void CdData::openFromFaceplate() {
 void CdData::openUnseen() {
   if (state_.disc.discKey.empty()) return;
   state_.library.cddbMode = kUnseen;
+  state_.settings.editorFromFaceplate = kOff;
   form_.load(ports_.desktop);
 }
 
@@ -122,7 +123,7 @@ std::string CdData::totalTime() const {
 }
 
 void CdData::fillProposals() {
-  genres_.fillGenres(form_.cat);
+  // Genres are typed freely; their list comes with the first one added.
   form_.stloc.setItems({"Home", "Car", "On Loan", "Computer", "Other"});
   form_.mediatype.setItems({"Audio CD", "Enhanced Audio CD", "DVD", "MD", "DCC", "CD-R", "LD", "LP", "Cassette", "DAT", "Tape", "VHS Tape",
                             "Beta Tape", "Other"});

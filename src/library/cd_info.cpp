@@ -21,8 +21,8 @@ constexpr int kLowHeight = 2500;  ///< where the faceplate stands too low for a 
 
 }  // namespace
 
-CdInfo::CdInfo(Ports& ports, Engine& engine, cdartext& form, CDForm& faceplate, SharedState& state, LibraryUpward& upward)
-    : ports_(ports), engine_(engine), form_(form), faceplate_(faceplate), state_(state), upward_(upward) {
+CdInfo::CdInfo(Ports& ports, Engine& engine, Modes& modes, cdartext& form, CDForm& faceplate, SharedState& state, LibraryUpward& upward)
+    : ports_(ports), engine_(engine), modes_(modes), form_(form), faceplate_(faceplate), state_(state), upward_(upward) {
   form.setEvents(this);
 }
 
@@ -61,6 +61,7 @@ void CdInfo::mouseUp(forms::Control* /*control*/, const forms::Mouse& mouse) {
 void CdInfo::click(forms::Control& control) {
   const int row = form_.List1.listIndex();
   if (&control != &form_.List1 || state_.transport.playMode == Pgm || row < 0 || row >= state_.disc.trackCount) return;
+  modes_.stopintro();
   state_.transport.selTrack = static_cast<int16_t>(row);
   engine_.clrab();
   engine_.jump();

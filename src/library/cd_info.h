@@ -2,7 +2,7 @@
 #pragma once
 
 #include "platform/forms/form.h"
-#include "playback/engine.h"
+#include "playback/modes.h"
 #include "state/shared_state.h"
 #include "windows/cdartext.h"
 #include "windows/cdform.h"
@@ -14,7 +14,7 @@ struct Ports;
 
 class CdInfo : public forms::FormEvents {
  public:
-  CdInfo(Ports& ports, Engine& engine, cdartext& form, CDForm& faceplate, SharedState& state, LibraryUpward& upward);
+  CdInfo(Ports& ports, Engine& engine, Modes& modes, cdartext& form, CDForm& faceplate, SharedState& state, LibraryUpward& upward);
 
   void open();
   void close() { form_.unload(); }
@@ -30,6 +30,7 @@ class CdInfo : public forms::FormEvents {
 
   Ports& ports_;
   Engine& engine_;
+  Modes& modes_;
   cdartext& form_;
   CDForm& faceplate_;
   SharedState& state_;

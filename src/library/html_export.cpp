@@ -42,7 +42,7 @@ std::string cell(const char* width, const std::string& text) {
   return "   <td width=\"" + std::string(width) + "\">" + text + "</td>" + kEnd;
 }
 
-std::string openTable() { return std::string("<table border=\"1\"width=\"80%\">") + kEnd + " <tr>" + kEnd; }
+std::string openTable() { return std::string(R"(<table border="1"width="80%">)") + kEnd + " <tr>" + kEnd; }
 
 std::string closeTable() { return std::string("</table>") + kEnd + "<p>&nbsp;</p>" + kEnd; }
 
@@ -63,7 +63,7 @@ void HtmlExport::run() {
 
 std::string HtmlExport::page() const {
   std::string text = std::string("<HTML><HEAD><TITLE>Orvanta CD Data Page</TITLE></HEAD>") + kEnd;
-  text += std::string("<body background=\"\"><center><h2>") + kEnd;
+  text += std::string(R"(<body background=""><center><h2>)") + kEnd;
   text += std::string(" Orvanta CD Data</h2>") + kEnd;
   text += "<p><b>" + form_.Text2.caption.get() + " - " + form_.Text4.caption.get() + "</p>" + kEnd;
   text += facts() + tracks() + lyrics();

@@ -83,6 +83,7 @@ void Playlist::append(int track) {
 
 std::vector<int> Playlist::numbers() const {
   std::vector<int> all;
+  all.reserve(static_cast<size_t>(form_.List3.count()));
   for (int row = 0; row < form_.List3.count(); ++row) all.push_back(static_cast<int>(leadingNumber(form_.List3.row(row))));
   return all;
 }

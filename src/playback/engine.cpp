@@ -117,6 +117,7 @@ void Engine::mmcontrol1_EjectClick() {
   device_.command("Eject");
   device_.command("Close");
   form_.SSPanel3.backColor = colours::kYellow;
+  upward_.closeTrackList();
   screen_.setPointer(Pointer::Normal);
 }
 

@@ -130,6 +130,8 @@ struct ProcessState {
   int64_t colourCount = 0;
 };
 
+constexpr int64_t kFewColours = 257;  ///< a screen of fewer gets plain dark panels
+
 struct SharedState {
   DiscState disc;
   TransportState transport;

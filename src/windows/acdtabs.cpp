@@ -17,10 +17,10 @@ constexpr const char* kCorrectionText =
 constexpr forms::GridRow kEditorGrid[] = {
     // name, index, parent, {row, column, rows, columns}, caption, says, tab stop, visible, tool tip, art
     {"acdtabs", kNoIndex, "", {0, 0, 9000, 11700}, "CD Data", ""},
-    {"TabPanel0", kNoIndex, "acdtabs", {0, 0, 1, 1}, "", "", false, true, "", "tabs"},
+    {"TabPanel0", kNoIndex, "acdtabs", {0, 0, 1, 1}, "", "", false, true, "", "left"},
     {"SSFrame1", kNoIndex, "acdtabs", {1, 0, 1, 1}, "", "", false, true, "", "frame"},
     {"SSFrame4", kNoIndex, "acdtabs", {1, 0, 1, 1}, "", "", false, true, "", "frame"},
-    {"Frame3D1", kNoIndex, "acdtabs", {1, 0, 1, 1}, "Audio CD Timing Correction", "", false, true, "", "frame"},
+    {"Frame3D1", kNoIndex, "acdtabs", {1, 0, 1, 1}, "Audio CD Timing Correction", "", false, true, "", "frame:top:left"},
     {"Heads1", kNoIndex, "SSFrame1", {5, 0, 1, 7}, "", "", false, true, "", ""},
     {"Heads2", kNoIndex, "SSFrame4", {7, 0, 1, 6}, "", "", false, true, "", ""},
     {"Facts", kNoIndex, "acdtabs", {2, 0, 1, 1}, "", "", false, true, "", ""},

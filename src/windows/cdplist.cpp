@@ -16,7 +16,7 @@ constexpr forms::GridRow kPlaylistGrid[] = {
     {"Label4", kNoIndex, "cdplist", {0, 0, 1, 1}, "Track Description:   ", "", false, true, "", "heading"},
     {"Label1", kNoIndex, "cdplist", {0, 2, 1, 1}, "Playlist:   ", "", false, true, "", "heading"},
     {"List1", kNoIndex, "cdplist", {1, 0, 1, 1}, "", "Tracks of the disc", true, true, "", "stretch"},
-    {"Middle", kNoIndex, "cdplist", {1, 1, 1, 1}, "", "", false, true, "", "column"},
+    {"Middle", kNoIndex, "cdplist", {1, 1, 1, 1}, "", "", false, true, "", "top"},
     {"Command5", kNoIndex, "Middle", {0, 0, 1, 1}, "Add -->", "", true},
     {"Command11", kNoIndex, "Middle", {1, 0, 1, 1}, "ALL -->", "", true},
     {"Command6", kNoIndex, "Middle", {2, 0, 1, 1}, "Remove", "", true},

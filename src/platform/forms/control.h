@@ -151,7 +151,6 @@ class ListBox : public Simple<Kind::List> {
  public:
   using Simple::Simple;
   bool multiSelect = false;
-  std::vector<int> columns;  ///< tab stops, in quarters of a letter's width
 
   int count() const { return static_cast<int>(rows_.size()); }
   const std::string& row(int index) const;

@@ -42,7 +42,7 @@ struct GridRow {
   bool tabStop = false;
   bool visible = true;
   const char* toolTip = "";
-  const char* art = "";  ///< "tab", "heading", "value", "stretch": see the view
+  const char* art = "";  ///< "tab", "frame", "heading", "value", "stretch", ...: hints for the view
 };
 
 void applyGrid(Form& form, std::span<const GridRow> rows);

@@ -3,12 +3,12 @@
 
 #include <fcntl.h>
 #include <poll.h>
-#include <signal.h>
 #include <spawn.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <chrono>
+#include <csignal>
 #include <filesystem>
 #include <fstream>
 #include <thread>
@@ -67,6 +67,7 @@ std::optional<std::string> outputOf(const std::vector<std::string>& arguments) {
   const UniqueFd out(ends[0]);
   UniqueFd in(ends[1]);
   std::vector<char*> words;
+  words.reserve(arguments.size() + 1);
   for (const std::string& argument : arguments) words.push_back(const_cast<char*>(argument.c_str()));
   words.push_back(nullptr);
   posix_spawn_file_actions_t actions;

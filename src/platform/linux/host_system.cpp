@@ -36,7 +36,7 @@ std::string HostSystem::mixerProgram() const {
   for (const char* name : {"pavucontrol", "pavucontrol-qt", "kmix", "mate-volume-control", "xfce4-mixer", "alsamixergui"}) {
     std::istringstream folders(path != nullptr ? path : "");
     for (std::string folder; std::getline(folders, folder, ':');) {
-      const std::string program = joinPath(folder, name);
+      std::string program = joinPath(folder, name);
       if (!folder.empty() && std::filesystem::is_regular_file(program, error)) return program;
     }
   }

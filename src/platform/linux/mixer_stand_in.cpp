@@ -73,7 +73,7 @@ void MixerStandIn::sendKeys(const std::string& keys) {
   if (!open_ || keys.size() < 3 || keys.front() != '{' || keys.back() != '}') return;
   const std::string inner = keys.substr(1, keys.size() - 2);
   const auto blank = inner.find(' ');
-  press(inner.substr(0, blank), blank == std::string::npos ? 1 : std::clamp(std::atoi(inner.c_str() + blank), 0, kTop));
+  press(inner.substr(0, blank), blank == std::string::npos ? 1 : static_cast<int>(std::clamp(std::strtol(inner.c_str() + blank, nullptr, 10), 0L, static_cast<long>(kTop))));
 }
 
 void MixerStandIn::press(const std::string& key, int times) {

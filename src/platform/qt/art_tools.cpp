@@ -250,23 +250,24 @@ void blur(QImage& picture, double sigma) {
   const int width = std::max(1, static_cast<int>(std::lround(sigma * 1.88)) | 1);
   const int reach = width / 2;
   std::vector<std::array<int, 4>> line(static_cast<size_t>(std::max(picture.width(), picture.height())));
+  const auto at = [&](int i) -> std::array<int, 4>& { return line[static_cast<size_t>(i)]; };
   const auto pass = [&](uchar* first, qsizetype step, int count) {
     for (int round = 0; round < 3; ++round) {
       for (int i = 0; i < count; ++i) {
-        for (size_t c = 0; c < 4; ++c) line[static_cast<size_t>(i)][c] = first[i * step + static_cast<qsizetype>(c)];
+        for (size_t c = 0; c < 4; ++c) at(i)[c] = first[i * step + static_cast<qsizetype>(c)];
       }
       std::array<int, 4> sum{};
       for (int i = -reach; i < count; ++i) {
         for (size_t c = 0; c < 4; ++c) {
-          if (i + reach < count) sum[c] += line[static_cast<size_t>(i + reach)][c];
-          if (i - reach - 1 >= 0) sum[c] -= line[static_cast<size_t>(i - reach - 1)][c];
+          if (i + reach < count) sum[c] += at(i + reach)[c];
+          if (i - reach - 1 >= 0) sum[c] -= at(i - reach - 1)[c];
           if (i >= 0) first[i * step + static_cast<qsizetype>(c)] = static_cast<uchar>(sum[c] / width);
         }
       }
     }
   };
   for (int y = 0; y < picture.height(); ++y) pass(picture.scanLine(y), 4, picture.width());
-  for (int x = 0; x < picture.width(); ++x) pass(picture.bits() + x * 4, picture.bytesPerLine(), picture.height());
+  for (int x = 0; x < picture.width(); ++x) pass(picture.bits() + qsizetype{x} * 4, picture.bytesPerLine(), picture.height());
 }
 
 bool ownPicture(Art& art) {

@@ -101,12 +101,13 @@ void DataWindow::build() {
     const forms::Control& caption = *form_->controls()[i];
     if (has(caption, "buddy")) static_cast<QLabel*>(widgets_.at(&caption))->setBuddy(widgets_.at(form_->controls()[i + 1]));
   }
-  if (QWidget* tabs = findChild<QWidget*>(QStringLiteral("TabPanel0"))) gridOf(tabs, nullptr)->setColumnStretch(9, 1);
-  if (QWidget* advanced = findChild<QWidget*>(QStringLiteral("Frame3D1"))) {
-    gridOf(advanced, nullptr)->setRowStretch(9, 1);
-    gridOf(advanced, nullptr)->setColumnStretch(9, 1);
+  // Panels whose children keep to the left or the top have an empty last column or row that takes the rest.
+  constexpr int kLast = 9;
+  for (const auto& [control, widget] : widgets_) {
+    if (control->kind() != forms::Kind::Panel) continue;
+    if (has(*control, "left")) gridOf(widget, control)->setColumnStretch(kLast, 1);
+    if (has(*control, "top")) gridOf(widget, control)->setRowStretch(kLast, 1);
   }
-  if (QWidget* column = findChild<QWidget*>(QStringLiteral("Middle"))) gridOf(column, nullptr)->setRowStretch(9, 1);
 }
 
 QWidget* DataWindow::make(forms::Control& control, QWidget* parent) {
@@ -255,12 +256,13 @@ void DataWindow::showText(forms::Control& control) {
 }
 
 void DataWindow::showVisibility(forms::Control& control) {
-  QWidget* widget = widgetOf(control);
-  if (auto* tab = dynamic_cast<QPushButton*>(widget); tab != nullptr && tab->isCheckable()) {
-    tab->setChecked(!control.visible);
+  QWidget& widget = *widgets_.at(&control);
+  // The tab that shows has its key hidden: here it is the one that is pressed in.
+  if (has(control, "tab")) {
+    static_cast<QPushButton&>(widget).setChecked(!control.visible);
     return;
   }
-  widget->setVisible(control.visible && control.insideForm());
+  widget.setVisible(control.visible && control.insideForm());
 }
 
 void DataWindow::showFrames() {
@@ -283,6 +285,7 @@ void DataWindow::flush() {
 
 void DataWindow::showRows(forms::ListBox& list, QTreeWidget& view) {
   std::vector<std::string> rows;
+  rows.reserve(static_cast<size_t>(list.count()));
   for (int row = 0; row < list.count(); ++row) rows.push_back(list.row(row));
   fillRows(view, rows);
 }

@@ -111,9 +111,9 @@ constexpr forms::GridRow kEditorGrid[] = {
     {"Command11", kNoIndex, "Keys", {0, 4, 1, 1}, "C&DDB", "", true},
     {"Command12", kNoIndex, "Keys", {0, 5, 1, 1}, "Submit to CDDB", "", true},
     {"Command6", kNoIndex, "Keys", {1, 0, 1, 1}, "&Add Genre", "", true},
-    {"Command10", kNoIndex, "Keys", {1, 1, 1, 1}, "&Add Tracks", "", true, false},
-    {"Command5", kNoIndex, "Keys", {1, 2, 1, 1}, "Clea&r", "", true},
-    {"Command3", kNoIndex, "Keys", {1, 3, 1, 1}, "&Help", "", true},
+    {"Command5", kNoIndex, "Keys", {1, 1, 1, 1}, "Clea&r", "", true},
+    {"Command3", kNoIndex, "Keys", {1, 2, 1, 1}, "&Help", "", true},
+    {"Command10", kNoIndex, "Keys", {1, 3, 1, 1}, "&Add Tracks", "", true, false},
     {"Command1", kNoIndex, "Keys", {1, 4, 1, 1}, "&OK", "", true},
     {"Command2", kNoIndex, "Keys", {1, 5, 1, 1}, "&Cancel", "", true},
 };

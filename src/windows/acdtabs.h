@@ -95,9 +95,9 @@ struct acdtabs : forms::Form {
   Button Command11{*this, "Command11"};  ///< look up in the CDDB
   Button Command12{*this, "Command12"};  ///< submit to the CDDB
   Button Command6{*this, "Command6"};    ///< starts the music library, whatever it says
-  Button Command10{*this, "Command10"};  ///< never shown here
   Button Command5{*this, "Command5"};    ///< clear
   Button Command3{*this, "Command3"};    ///< help
+  Button Command10{*this, "Command10"};  ///< never shown here
   Button Command1{*this, "Command1"};    ///< OK
   Button Command2{*this, "Command2"};    ///< Cancel
 

@@ -310,7 +310,8 @@ void DataWindow::followFocus(forms::Control* control) {
   if (widget == nullptr || widget->hasFocus()) return;
   flush();
   telling_ = true;
-  widget->setFocus(Qt::OtherFocusReason);
+  // As by Tab: what stands in a field is selected, so that typing replaces it.
+  widget->setFocus(Qt::TabFocusReason);
   telling_ = false;
 }
 

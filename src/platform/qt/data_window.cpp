@@ -171,6 +171,7 @@ QWidget* DataWindow::makeList(forms::ListBox& list, QWidget* parent) {
     if (!telling_ && QApplication::mouseButtons() == Qt::NoButton) selected();
   });
   QObject::connect(view, &QTreeWidget::itemDoubleClicked, this, [this, &list] { enter([&] { form_->doubleClick(&list); }); });
+  view->onDrag = [this] { enter([&] { form_->mouseUp({forms::MouseButton::Left, -1, -1, false}); }); };
   view->onMove = [this, &list](int from, int to) { enter([&] { form_->userMovedRow(list, from, to); }); };
   return view;
 }

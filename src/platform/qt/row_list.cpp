@@ -33,6 +33,11 @@ RowList::RowList(QWidget* parent, bool draggable) : QTreeWidget(parent) {
   setDefaultDropAction(Qt::MoveAction);
 }
 
+void RowList::startDrag(Qt::DropActions actions) {
+  if (onDrag) onDrag();
+  QTreeWidget::startDrag(actions);
+}
+
 void RowList::dropEvent(QDropEvent* event) {
   const int from = indexOfTopLevelItem(currentItem());
   const QModelIndex over = indexAt(event->position().toPoint());

@@ -15,8 +15,11 @@ class RowList : public QTreeWidget {
   RowList(QWidget* parent, bool draggable);
   /// A row was dragged to another place; the list itself leaves it where it was.
   std::function<void(int from, int to)> onMove;
+  /// A drag begins: the system keeps the release of the mouse to itself.
+  std::function<void()> onDrag;
 
  protected:
+  void startDrag(Qt::DropActions actions) override;
   void dropEvent(QDropEvent* event) override;
 };
 

@@ -96,6 +96,8 @@ void Orvanta::runSetup() {
   }
   colours_.loadorvanta1();
   colours_.loadorvanta1b();
+  if (state.settings.smallFaceplate != kOn) layout_.sizeLarge();
+  volume_.activate();
   if (state.disc.noDiscState == 0 && state.disc.drawerOpen == kOff) colours_.loadorvanta1a();
   form.minimised = false;
 }

@@ -27,7 +27,7 @@ using forms::Change;
 
 namespace {
 
-constexpr int kNotesLines = 4;
+constexpr int kNotesHeight = 74;  ///< design pixels: three lines and a half
 
 std::string fromQt(const QString& text) { return text.toStdString(); }
 
@@ -139,7 +139,7 @@ QWidget* DataWindow::makeText(forms::TextBox& box, QWidget* parent) {
   }
   auto* notes = new QPlainTextEdit(toQt(box.caption), parent);
   notes->setTabChangesFocus(true);
-  notes->setMaximumHeight(notes->fontMetrics().lineSpacing() * kNotesLines + static_cast<int>(14 * scale_.factor));
+  notes->setFixedHeight(static_cast<int>(kNotesHeight * scale_.factor));
   watch(notes, box);
   QObject::connect(notes, &QPlainTextEdit::textChanged, this, [this, &box, notes] { userTyped(box, notes->toPlainText()); });
   return notes;
@@ -393,6 +393,8 @@ bool DataWindow::eventFilter(QObject* watched, QEvent* event) {
       if (!static_cast<QKeyEvent*>(event)->isAutoRepeat()) enter([&] { form_->keyUp(keyPress(*static_cast<QKeyEvent*>(event))); });
       break;
     case QEvent::FocusIn: enter([&] { form_->userFocus(control); }); break;
+    // A combo that the wheel happens to pass over keeps its value.
+    case QEvent::Wheel: used = control.kind() == forms::Kind::Combo; break;
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonRelease: used = mouse(control, event); break;
     default: break;

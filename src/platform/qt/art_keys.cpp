@@ -36,7 +36,9 @@ bool isPressed(const forms::Control& control) { return control.form().pressed() 
 void transport(Art& art, Symbol which) {
   if (ownPicture(art)) return;
   QPainter& p = art.painter;
-  graphite(p, QRectF(1, 1, art.w - 2, art.h - 2), 2.5, isPressed(art.control));
+  // A press that is refused leaves the face as it is: only a taken one shows its plateau.
+  const forms::Control* plateauShape = art.control.form().find("Shape2");
+  graphite(p, QRectF(1, 1, art.w - 2, art.h - 2), 2.5, isPressed(art.control) && plateauShape != nullptr && plateauShape->visible);
   const QRectF plateau(54 / 15.0 * art.k, 70 / 15.0 * art.k, 815 / 15.0 * art.k, 355 / 15.0 * art.k);
   fill(p, plateau, blend(plateau.topLeft(), plateau.bottomLeft(), {{0, QColor(0x1E, 0x21, 0x25)}, {.5, QColor(0x29, 0x2D, 0x32)}, {1, QColor(0x35, 0x3A, 0x40)}}), 2);
   p.setBrush(Qt::NoBrush);

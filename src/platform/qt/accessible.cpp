@@ -75,6 +75,8 @@ QAccessibleInterface* make(const QString& /*className*/, QObject* object) {
 
 }  // namespace
 
+bool testNames() { return qEnvironmentVariableIntValue("ORVANTA_TEST_NAMES") == 1; }
+
 void useAccessibleControls() {
   static const bool kInstalled = (QAccessible::installFactory(&make), true);
   Q_UNUSED(kInstalled);

@@ -7,6 +7,9 @@ namespace orvanta {
 
 class ControlWidget;
 
+/// ORVANTA_TEST_NAMES=1: descriptions are the controls' names, so that tests find them.
+bool testNames();
+
 /// Makes every ControlWidget known with its role, name, state and press.
 void useAccessibleControls();
 

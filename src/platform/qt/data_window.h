@@ -54,8 +54,13 @@ class DataWindow : public QWidget {
   void userTyped(forms::Control& control, const QString& text);
   void userSelected(forms::ListBox& list);
   bool mouse(forms::Control& control, QEvent* event);
+  /// Calls the core. The form may be gone when it comes back.
   template <class Work>
-  void enter(const Work& work);
+  void enter(const Work& work) {
+    if (form_ != nullptr && !telling_) gate_.enter(work);
+  }
+  /// The control's table has this hint for us.
+  static bool has(const forms::Control& control, std::string_view hint) { return control.art.find(hint) != std::string::npos; }
   bool onScreen() const;
 
   forms::Form* form_;

@@ -1,0 +1,117 @@
+// One control of a form of fixed places: a widget that is larger than it by the room for its glow.
+#include <QPainter>
+#include <cmath>
+
+#include "platform/qt/accessible.h"
+#include "platform/qt/art.h"
+#include "platform/qt/form_view.h"
+#include "platform/qt/to_qt.h"
+
+namespace orvanta {
+
+using forms::Change;
+
+ControlWidget::ControlWidget(FormWindow& window, QWidget* parent, forms::Control& control)
+    : QWidget(parent), window_(window), control_(control) {
+  setAttribute(Qt::WA_TransparentForMouseEvents);
+  setAttribute(Qt::WA_NoSystemBackground);
+  setFocusPolicy(Qt::NoFocus);
+  place();
+  showIfInside();
+}
+
+/// A panel's new place or size may bring its children in, or take them out.
+void ControlWidget::showIfInside() {
+  setVisible(control_.visible && control_.insideForm());
+  for (QObject* child : children()) {
+    if (auto* widget = dynamic_cast<ControlWidget*>(child)) widget->showIfInside();
+  }
+}
+
+void ControlWidget::place() {
+  const Scale& scale = window_.scale();
+  const int bleed = this->bleed();
+  const forms::Control& c = control_;
+  const auto* parent = dynamic_cast<const ControlWidget*>(parentWidget());
+  const int origin = parent != nullptr ? parent->bleed() : 0;
+  // A line has no height of its own: a pixel is its least.
+  QRect rect = scale.rect(c.left, c.top, c.width, c.height);
+  rect.setSize(rect.size().expandedTo({1, 1}));
+  setGeometry(rect.translated(origin, origin).adjusted(-bleed, -bleed, bleed, bleed));
+}
+
+int ControlWidget::bleed() const { return static_cast<int>(std::ceil(bleedOf(control_) * window_.scale().factor)); }
+
+QRect ControlWidget::controlRect() const {
+  const int bleed = this->bleed();
+  return rect().adjusted(bleed, bleed, -bleed, -bleed);
+}
+
+void ControlWidget::follow(Change change) {
+  if (change == Change::Geometry) place();
+  if (change == Change::Geometry || change == Change::Visibility) showIfInside();
+  if (change == Change::Text || change == Change::Look) update();
+  if (change != Change::Geometry && change != Change::Look) nameChanged(*this, change);
+}
+
+void ControlWidget::paintEvent(QPaintEvent* /*event*/) {
+  paintPicture();
+  if (!window_.form().focusShown() || window_.form().activeControl() != &control_) return;
+  const double factor = window_.scale().factor;
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(QColor(0xFF, 0xC2, 0x47), 1.2 * factor));
+  painter.drawRoundedRect(QRectF(controlRect()).adjusted(-1.5 * factor, -1.5 * factor, 1.5 * factor, 1.5 * factor), 3 * factor, 3 * factor);
+}
+
+void ControlWidget::paintPicture() {
+  QPainter painter(this);
+  std::string key = surfaceKey(control_);
+  if (key.empty()) {
+    paintArt(painter);
+    return;
+  }
+  const QPoint inWindow = mapTo(&window_, QPoint(0, 0));
+  key += ' ' + std::to_string(inWindow.x()) + ' ' + std::to_string(inWindow.y()) + ' ' + std::to_string(width()) + ' ' + std::to_string(height());
+  const QImage* picture = window_.artCache().find(key);
+  if (picture == nullptr) {
+    QImage fresh(size(), QImage::Format_ARGB32_Premultiplied);
+    fresh.fill(Qt::transparent);
+    {
+      QPainter inner(&fresh);
+      paintArt(inner);
+    }
+    picture = &window_.artCache().keep(key, std::move(fresh));
+  }
+  painter.drawImage(0, 0, *picture);
+}
+
+void ControlWidget::paintArt(QPainter& painter) {
+  const Scale& scale = window_.scale();
+  const QRect own = controlRect();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.translate(own.topLeft());
+  const QTransform plain = painter.worldTransform();
+  painter.scale(scale.factor, scale.factor);
+  const QPoint inWindow = mapTo(&window_, own.topLeft());
+  Art art{painter,
+          control_,
+          window_.fonts(),
+          window_.artCache(),
+          plain,
+          scale.factor,
+          15.0 / scale.twipsPerPixel,
+          own.width() / scale.factor,
+          own.height() / scale.factor,
+          inWindow.x() / scale.factor,
+          inWindow.y() / scale.factor};
+  paintControl(art);
+}
+
+void ControlWidget::describe() {
+  const std::string& shown = control_.caption;
+  setAccessibleName(toQt(shown.empty() ? control_.says : shown));
+  setAccessibleDescription(toQt(testNames() ? control_.fullName() : control_.toolTip.get()));
+}
+
+}  // namespace orvanta

@@ -39,6 +39,17 @@ start_deck() {
   window=$(xdotool search --sync --onlyvisible --name '^Orvanta LX$' | head -1)
 }
 
+# A sound server of our own, with one sink that sounds nowhere.
+start_server() {
+  for tool in pulseaudio parec pactl; do command -v $tool >/dev/null || { echo "skipped: no $tool"; exit 77; }; done
+  export PULSE_SERVER=unix:$home/pulse.socket
+  pulseaudio -n --daemonize=no --exit-idle-time=-1 --use-pid-file=no --load="module-native-protocol-unix socket=$home/pulse.socket auth-anonymous=1" \
+    --load="module-null-sink sink_name=speakers norewinds=1" >"$home/pulse.log" 2>&1 &
+  server=$!
+  pids="$pids $server"
+  until_true 10 pactl info
+}
+
 press() { xdotool windowfocus --sync "$window" key "$1"; }
 
 finish() {

@@ -99,8 +99,7 @@ const QImage& grainTile(double factor) {
 }  // namespace
 
 void edge(QPainter& painter, const QRectF& rect, double radius, double light, double dark, double width) {
-  const QPointF to(rect.left() + rect.width() * .35, rect.bottom());
-  const auto pen = blend(rect.topLeft(), to, {{0, alpha(Qt::white, light)}, {.45, alpha(Qt::white, light * .25)}, {.55, alpha(Qt::black, dark * .25)}, {1, alpha(Qt::black, dark)}});
+  const auto pen = blendIn(rect, .35, 1, {{0, alpha(Qt::white, light)}, {.45, alpha(Qt::white, light * .25)}, {.55, alpha(Qt::black, dark * .25)}, {1, alpha(Qt::black, dark)}});
   painter.setPen(QPen(QBrush(pen), width));
   painter.setBrush(Qt::NoBrush);
   const double in = width / 2;
@@ -109,7 +108,7 @@ void edge(QPainter& painter, const QRectF& rect, double radius, double light, do
 
 void well(QPainter& painter, const QRectF& rect, double radius, const QColor& ground, double lip) {
   const QRectF outer = rect.adjusted(-lip, -lip, lip, lip);
-  fill(painter, outer, blend(outer.topLeft(), QPointF(outer.left() + outer.width() * .25, outer.bottom()), {{0, alpha(Qt::black, .75)}, {.5, alpha(Qt::black, .35)}, {1, alpha(Qt::white, .3)}}), radius + lip);
+  fill(painter, outer, blendIn(outer, .25, 1, {{0, alpha(Qt::black, .75)}, {.5, alpha(Qt::black, .35)}, {1, alpha(Qt::white, .3)}}), radius + lip);
   const double half = lip * .45;
   const QRectF inner = rect.adjusted(-half, -half, half, half);
   fill(painter, inner, blend(inner.topLeft(), inner.bottomLeft(), {{0, QColor(5, 6, 7)}, {1, QColor(27, 30, 33)}}), radius + half);
@@ -124,7 +123,7 @@ void metal(Art& art, const QRectF& rect, const QColor& base, double radius, doub
   painter.setOpacity(grain);
   fill(painter, rect, streaks, radius);
   painter.setOpacity(1);
-  fill(painter, rect, blend(rect.topLeft(), QPointF(rect.right(), rect.center().y()), {{0, alpha(Qt::white, .1)}, {.28, alpha(Qt::white, .015)}, {.5, alpha(Qt::white, .05)}, {.62, alpha(Qt::white, 0)}, {1, alpha(Qt::black, .16)}}), radius);
+  fill(painter, rect, blendIn(rect, 1, .5, {{0, alpha(Qt::white, .1)}, {.28, alpha(Qt::white, .015)}, {.5, alpha(Qt::white, .05)}, {.62, alpha(Qt::white, 0)}, {1, alpha(Qt::black, .16)}}), radius);
 }
 
 void aluminium(QPainter& painter, const QRectF& rect, double radius, bool pressed) {

@@ -156,8 +156,8 @@ void power(Art& art) {
   disc(r, QColor(0x0A, 0x0B, 0x0C));
   disc(r - art.k, sheen(centre, QColor(0x4A, 0x50, 0x57), QColor(0xF1, 0xF3, 0xF5), .625, 1.6));
   disc(r - 3.2 * art.k, QColor(0x0C, 0x0D, 0x0E));
-  disc(r - 3.9 * art.k, blend({0, 0}, {art.w * .4, art.h}, {{0, QColor(0x26, 0x29, 0x2D)}, {.5, QColor(0x33, 0x37, 0x3C)}, {1, QColor(0x4A, 0x4F, 0x56)}}),
-       QPen(QBrush(blend({0, 0}, {art.w * .3, art.h}, {{0, alpha(Qt::black, .7)}, {1, alpha(Qt::white, .25)}})), .8));
+  disc(r - 3.9 * art.k, blendIn(area(art), .4, 1, {{0, QColor(0x26, 0x29, 0x2D)}, {.5, QColor(0x33, 0x37, 0x3C)}, {1, QColor(0x4A, 0x4F, 0x56)}}),
+       QPen(QBrush(blendIn(area(art), .3, 1, {{0, alpha(Qt::black, .7)}, {1, alpha(Qt::white, .25)}})), .8));
   const forms::Control* source = colourSource(art.control);
   const QColor colour = source == nullptr ? QColor(0x32, 0xC8, 0x55) : qColour(source->backColor);
   QPainterPath path;

@@ -1,5 +1,6 @@
 // The deck's lettering: by glyph, at any size, engraved or shining.
 #include <QGlyphRun>
+#include <QTextLayout>
 #include <algorithm>
 #include <cmath>
 
@@ -18,16 +19,32 @@ struct Line {
   double width = 0;
 };
 
+/// Shaped and kerned by the face's own tables. A text that it lacks letters for is only measured here.
 Line layOutLine(const QRawFont& face, const QString& text, double spacing) {
-  Line line;
-  const auto indexes = face.glyphIndexesForString(text);
-  const auto advances = face.advancesForGlyphIndexes(indexes, QRawFont::KernedAdvances);
-  QList<QPointF> places;
-  for (const QPointF& advance : advances) {
-    places.append({line.width, 0});
-    line.width += advance.x() + spacing;
+  const auto known = face.glyphIndexesForString(text);
+  if (known.contains(0)) {
+    Line line;
+    line.glyphs.setGlyphIndexes(known);
+    for (const QPointF& advance : face.advancesForGlyphIndexes(known)) line.width += advance.x() + spacing;
+    return line;
   }
-  if (!advances.isEmpty()) line.width -= spacing;
+  QTextLayout layout(text);
+  layout.setRawFont(face);
+  layout.beginLayout();
+  layout.createLine();
+  layout.endLayout();
+  Line line;
+  QList<quint32> indexes;
+  QList<QPointF> places;
+  for (const QGlyphRun& run : layout.glyphRuns()) {
+    const auto runPlaces = run.positions();
+    const auto runIndexes = run.glyphIndexes();
+    for (qsizetype i = 0; i < runIndexes.size(); ++i) {
+      indexes.append(runIndexes[i]);
+      places.append({runPlaces[i].x() + static_cast<double>(indexes.size() - 1) * spacing, 0});
+    }
+  }
+  line.width = layout.lineAt(0).naturalTextWidth() + static_cast<double>(std::max<qsizetype>(indexes.size() - 1, 0)) * spacing;
   line.glyphs.setRawFont(face);
   line.glyphs.setGlyphIndexes(indexes);
   line.glyphs.setPositions(places);

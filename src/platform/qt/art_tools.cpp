@@ -32,6 +32,13 @@ QLinearGradient blend(QPointF from, QPointF to, std::initializer_list<Stop> stop
   return gradient;
 }
 
+QLinearGradient blendIn(const QRectF& rect, double u, double v, std::initializer_list<Stop> stops) {
+  const double length = u * u + v * v;
+  const QPointF slope(u / rect.width() / length, v / rect.height() / length);
+  const double steep = slope.x() * slope.x() + slope.y() * slope.y();
+  return blend(rect.topLeft(), rect.topLeft() + slope / steep, stops);
+}
+
 void fill(QPainter& painter, const QRectF& rect, const QBrush& brush, double radius) {
   if (radius <= 0) {
     painter.fillRect(rect, brush);

@@ -22,6 +22,10 @@ struct Stop {
 /// Along the line from (x1, y1) to (x2, y2).
 QLinearGradient blend(QPointF from, QPointF to, std::initializer_list<Stop> stops);
 
+/// From a rectangle's top left corner towards (u, v) in parts of its sides, skewed as the rectangle is: all
+/// of a wide one's top edge is at the start of a gradient that runs mostly down.
+QLinearGradient blendIn(const QRectF& rect, double u, double v, std::initializer_list<Stop> stops);
+
 void fill(QPainter& painter, const QRectF& rect, const QBrush& brush, double radius = 0);
 /// A thin frame, light at the top left and dark at the bottom right.
 void edge(QPainter& painter, const QRectF& rect, double radius, double light, double dark, double width);

@@ -16,7 +16,6 @@ constexpr int kIsLarge = 9000;      ///< a wider one the large one
 constexpr int kMarkWidthSmall = 150;  ///< of the record key's mask, so that it stands in the middle of the key
 constexpr int kTitleLeft = 110;
 constexpr int kTitleTop = 80;
-constexpr int kTitleWide = 2300;
 
 }  // namespace
 
@@ -61,8 +60,8 @@ void Layout::placeDisplay(Display display) {
     return display == Display::Expanded ? row.expanded : display == Display::Normal ? row.normal : row.small;
   };
   for (const auto& row : layouts::displayLefts()) form_.find(row.name)->left = value(row);
-  for (const auto& row : layouts::displayWidths()) form_.find(row.name)->width = value(row);
   const bool wide = display != Display::Normal;
+  form_.Panel3D1.width = wide ? layouts::kPaneWide : layouts::kPaneNarrow;
   form_.Panel3D2.left = wide ? screen_.widthTwips() + kBeyondScreen : form_.designPlace(form_.Panel3D2).left;
   form_.Line1.visible = form_.Line8.visible = wide;
   const auto& online = coarse() ? layouts::kOnlineCoarse : layouts::kOnlineFine;
@@ -82,12 +81,12 @@ void Layout::layTitles() {
     disc.height = discPlace.height;
     track.height = trackPlace.height;
     disc.wordWrap = track.wordWrap = true;
-    disc.width = track.width = wide ? layouts::displayWidths()[1].expanded : discPlace.width;
+    disc.width = track.width = wide ? layouts::kTitlesWide : discPlace.width;
     return;
   }
   const forms::Font& font = disc.font;
-  disc.width = track.width = wide ? layouts::displayWidths()[1].expanded : kTitleWide;
-  if (screen_.textWidthTwips(disc.caption, font.family, font.points, font.bold) > kTitleWide) {
+  disc.width = track.width = wide ? layouts::kTitlesWide : layouts::kTitlesNarrow;
+  if (screen_.textWidthTwips(disc.caption, font.family, font.points, font.bold) > layouts::kTitlesNarrow) {
     disc.left = kTitleLeft;
     disc.height = 440;
     track.top = disc.top + disc.height + 50;

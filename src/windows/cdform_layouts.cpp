@@ -23,11 +23,6 @@ constexpr DisplayRow kDisplayLefts[] = {
     {"Label43", 5112, 1992, 5112},
     {"CDStatusBar", 3156, 36, 3156},
 };
-constexpr DisplayRow kDisplayWidths[] = {
-    {"Panel3D1", 5652, 2532, 5652},
-    {"Label12", 5400, 2300, 5400},
-    {"Label13", 5400, 2300, 5400},
-};
 constexpr SmallRow kSmallSpots[] = {
     // at 12 twips a pixel, at 15
     {"Label1", kNoIndex, {80, 60}, {80, 60}},
@@ -62,7 +57,6 @@ constexpr SmallRow kSmallSpots[] = {
 }  // namespace
 
 std::span<const DisplayRow> displayLefts() { return kDisplayLefts; }
-std::span<const DisplayRow> displayWidths() { return kDisplayWidths; }
 std::span<const SmallRow> smallSpots() { return kSmallSpots; }
 
 }  // namespace orvanta::layouts

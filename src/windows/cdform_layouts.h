@@ -6,7 +6,7 @@
 
 namespace orvanta::layouts {
 
-/// Of the right pane and what lies on it.
+/// Left edges of the right pane and of what lies on it.
 struct DisplayRow {
   const char* name;
   int expanded;
@@ -14,7 +14,12 @@ struct DisplayRow {
   int small;
 };
 std::span<const DisplayRow> displayLefts();
-std::span<const DisplayRow> displayWidths();
+
+/// Of the right pane and of the title lines on it; the small faceplate has the wide ones.
+constexpr int kPaneWide = 5652;
+constexpr int kPaneNarrow = 2532;
+constexpr int kTitlesWide = 5400;
+constexpr int kTitlesNarrow = 2300;
 
 struct Spot {
   int left;

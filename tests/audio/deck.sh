@@ -4,7 +4,8 @@ set -eu
 build=$1
 for tool in xdotool xvfb-run cmp; do command -v $tool >/dev/null || { echo "skipped: no $tool"; exit 77; }; done
 if [ -z "${ORVANTA_INSIDE:-}" ]; then
-  ORVANTA_INSIDE=1 exec xvfb-run -a "$0" "$@"
+  # Without -noreset the server starts afresh when its last client goes, and refuses the next for a moment.
+  ORVANTA_INSIDE=1 exec xvfb-run -a -s "-screen 0 1280x1024x24 -noreset" "$0" "$@"
 fi
 home=$(mktemp -d)
 chmod 700 "$home"

@@ -26,6 +26,11 @@ void fore(std::initializer_list<forms::Label*> labels, Colour colour) {
 
 }  // namespace
 
+void paintLevelBars(CDForm& form, const Settings& settings) {
+  const bool muted = form.Image2[0].visible;
+  form.VbarbtmL.backColor = form.VbarbtmR.backColor = muted ? colours::kRed : settings.customColor[4];
+}
+
 void DisplayColours::loadorvanta1() {
   for (auto& lamp : form_.Shape15) lamp.visible = state_.settings.showLights != 0;
   fonts();
@@ -38,8 +43,7 @@ void DisplayColours::loadorvanta1() {
   spareLamps();
   form_.Label21.foreColor = state_.settings.lcdColor[state_.settings.repeatOn == kOn ? kLcdRepeatOn : kLcdRepeatOff];
   form_.CDStatusBar.visible = true;
-  form_.VbarbtmL.backColor = state_.settings.customColor[4];
-  form_.VbarbtmR.backColor = state_.settings.customColor[4];
+  paintLevelBars(form_, state_.settings);
   titleFonts();
   background();
   pictures();
@@ -116,16 +120,12 @@ void DisplayColours::titleFonts() {
 /// The picture that the user has put behind it all; it takes the window's own colour away.
 void DisplayColours::background() {
   Settings& settings = state_.settings;
-  const bool border = settings.faceplateBorder == 1;
-  const bool large = form_.width > form_.designPlace(form_.Image8).width - 100;
-  for (auto* line : {&form_.Line2, &form_.Line3, &form_.Line4, &form_.Line5}) line->visible = border && large;
+  layout_.border();
   const bool picture = settings.faceplateBitmapOn > 0 && !settings.faceplateBitmap.empty() && files_.exists(settings.faceplateBitmap);
   form_.Image8.picture = picture ? settings.faceplateBitmap : std::string();
   if (!picture) return;
   settings.customColor[1] = 0;
-  if (border) return;
-  form_.Label41.foreColor = kModelOnPicture;
-  if (large) layout_.sizeLarge();
+  if (settings.faceplateBorder != 1) form_.Label41.foreColor = kModelOnPicture;
 }
 
 /// Pictures in the data folder's "system" take the place of the deck's own drawings, one by one.
@@ -168,7 +168,7 @@ void DisplayColours::loadorvanta1b() {
     paint({&form_.Panel3D3, &form_.SSPanel1}, colour[3]);
   }
   if (state_.settings.lcdCustom != 1 && colour[4] != state_.settings.lcdFore) form_.CDStatusBar.floodColor = colour[4];
-  if (!form_.Image2[0].visible) form_.VbarbtmL.backColor = form_.VbarbtmR.backColor = colour[4];
+  paintLevelBars(form_, state_.settings);
   if (colour[9] != 0) fore({&form_.Label7, &form_.Label9, &form_.Label11}, colour[9]);
   if (colour[10] != 0) fore({&form_.Label8, &form_.Label10}, colour[10]);
   // A legend in the colour of its ground could not be read.

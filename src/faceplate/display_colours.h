@@ -10,6 +10,9 @@ class Files;
 class Layout;
 class Screen;
 
+/// The lit channels of the sliders: red while muted.
+void paintLevelBars(CDForm& form, const Settings& settings);
+
 class DisplayColours {
  public:
   DisplayColours(Files& files, Screen& screen, Layout& layout, CDForm& form, SharedState& state)

@@ -34,6 +34,8 @@ class Layout {
 
   /// The window's size on the large faceplate.
   void sizeLarge();
+  /// The border's lines, as the settings and the size have them.
+  void border();
   /// The volume panel, or the mixer key in its place, as soundMode has it.
   void placeVolumePanel();
 
@@ -42,7 +44,6 @@ class Layout {
   void placeDisplay(Display display);
   void showLargeParts(bool show);
   void resize(int width, int height);
-  void border();
   bool drawerOpen() const;
   bool coarse() const { return state_.process.smallFonts == kOn; }
 

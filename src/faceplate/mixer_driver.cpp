@@ -13,11 +13,11 @@ namespace orvanta {
 
 namespace {
 
-constexpr const char* kTitle = "Volume Control";
+using mixer::kPage;
+using mixer::kPlaces;
+using mixer::kTitle;
 constexpr const char* kOldTitle = "Sndvol32";
-constexpr int kPlaces = 250;
 constexpr int kMiddle = 125;
-constexpr int kPage = 50;
 constexpr int kBusy = 3;
 constexpr int kMostWindows = 16;  ///< a window that will not close must not hold us up
 

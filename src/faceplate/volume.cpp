@@ -4,8 +4,10 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "base/text.h"
+#include "faceplate/display_colours.h"
 #include "platform/ports/aux_volume.h"
 #include "platform/ports/dialogs.h"
 #include "platform/ports/ports.h"
@@ -64,8 +66,7 @@ void Volume::activate() {
   if (mode == kOwnVolume && state_.volume.volBlocked == -1) cdvol();
   layout_.placeVolumePanel();
   if (mode == kOwnVolume && state_.volume.volDrag == kArea) state_.volume.volDrag = kNoDrag;
-  if (mode == kMixerProgram && fresh_) {
-    fresh_ = false;
+  if (std::exchange(fresh_, false) && mode == kMixerProgram) {
     mixer_.prepare();
     for (Channel* channel : {&left_, &right_}) {
       channel->atten = channel->attenPrev = kPrepared;
@@ -74,7 +75,6 @@ void Volume::activate() {
       channel->upper.visible = true;
     }
   }
-  fresh_ = false;
 }
 
 void Volume::slidersOff() {
@@ -192,7 +192,7 @@ void Volume::setVolume(Channel& channel) {
 void Volume::unmuted() {
   form_.Image2[0].visible = false;
   form_.Image2[1].visible = true;
-  form_.VbarbtmL.backColor = form_.VbarbtmR.backColor = state_.settings.customColor[4];
+  paintLevelBars(form_, state_.settings);
   state_.volume.rightRaw = state_.volume.muteRight;
   state_.volume.leftRaw = state_.volume.muteLeft;
 }
@@ -203,7 +203,7 @@ void Volume::Image2_MouseUp(size_t index) {
   const bool byMixer = state_.settings.soundMode == kMixerProgram;
   form_.Image2[1].visible = !mute;
   form_.Image2[0].visible = mute;
-  form_.VbarbtmL.backColor = form_.VbarbtmR.backColor = mute ? colours::kRed : state_.settings.customColor[4];
+  paintLevelBars(form_, state_.settings);
   if (byMixer) {
     mixer_.setMute(mute);
     return;
@@ -318,6 +318,8 @@ void Volume::moveTo(Channel& channel, int y) {
 bool Volume::step(const forms::Control& control, int steps) {
   Channel* channel = channelOf(control);
   if (channel == nullptr) return false;
+  // A slider that has left may still have the focus.
+  if (state_.settings.soundMode == kNoSliders) return true;
   state_.volume.volDrag = kArea;
   // From either end the first step leaves the snap zone by its own edge.
   moveTo(*channel, channel->thumb.top + 60 - steps * kStep);

@@ -32,14 +32,12 @@ void CdInfo::open() {
 }
 
 void CdInfo::load() {
-  state_.library.cdInfoOpening = kOn;
   const DiscState& disc = state_.disc;
   const std::string artist(trim(disc.discArtist));
   form_.caption = artist.empty() ? std::string("CD Info") : "CD Info  [" + artist + " - " + disc.discTitle + "]";
   place();
   dressList(form_.List1, state_.settings);
   fillCdInfoList(form_.List1, state_.disc, state_.library);
-  state_.library.cdInfoOpening = kOff;
 }
 
 void CdInfo::place() {

@@ -106,7 +106,6 @@ struct LibraryState {
   int16_t dataDirty = kOff;    ///< something was changed; never cleared, so every later OK saves
   int16_t askOnCancel = kOff;  ///< a main field was changed
   int16_t cddbMode = 0;        ///< 3: the editor saves unseen; 9: no submission
-  int16_t cdInfoOpening = kOff;  ///< the track list's window is being placed
   std::array<std::string, 101> trackLyrics;  ///< [1]..[100]: the editor's working copy, with line breaks
   std::array<std::string, 2> userCaptions;   ///< of the two user defined fields; "" for the usual ones
 };

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
+#include <tuple>
 #include <vector>
 
 #include "platform/linux/host_processes.h"
@@ -12,12 +13,12 @@ namespace orvanta {
 
 namespace {
 
-constexpr const char* kTitle = "Volume Control";
+using mixer::kPage;
+using mixer::kTitle;
+constexpr int kTop = mixer::kPlaces;
 constexpr const char* kSink = "@DEFAULT_SINK@";
 constexpr int kMiddle = 32;
 constexpr int kRight = 64;
-constexpr int kTop = 250;
-constexpr int kPage = 50;
 constexpr double kFull = 65536;
 
 class Pactl : public MasterVolume {
@@ -38,10 +39,10 @@ class Pactl : public MasterVolume {
     return true;
   }
 
-  void write(const MasterLevel& level) override {
+  bool write(const MasterLevel& level) override {
     const auto words = [](double part) { return std::to_string(std::lround(part * kFull)); };
-    outputOf({"pactl", "set-sink-volume", kSink, words(level.left), words(level.right)});
-    outputOf({"pactl", "set-sink-mute", kSink, level.mute ? "1" : "0"});
+    return outputOf({"pactl", "set-sink-volume", kSink, words(level.left), words(level.right)}) &&
+           outputOf({"pactl", "set-sink-mute", kSink, level.mute ? "1" : "0"});
   }
 };
 
@@ -81,6 +82,7 @@ void MixerStandIn::press(const std::string& key, int times) {
     focus_ = static_cast<Control>((static_cast<int>(focus_) + times) % 3);
     return;
   }
+  const auto before = std::tuple(balance_, volume_, mute_);
   if (focus_ == Control::Mute) {
     if (key != "+" && key != "-") return;
     mute_ = key == "+";
@@ -95,14 +97,15 @@ void MixerStandIn::press(const std::string& key, int times) {
     const int way = key == "PGUP" ? kPage : key == "PGDN" ? -kPage : key == "UP" ? 1 : key == "DOWN" ? -1 : 0;
     volume_ = std::clamp(volume_ + way * times, 0, kTop);
   }
-  store();
+  if (std::tuple(balance_, volume_, mute_) != before) store();
 }
 
 void MixerStandIn::store() {
   const double most = static_cast<double>(volume_) / kTop;
   const double left = std::min(1.0, static_cast<double>(kRight - balance_) / kMiddle);
   const double right = std::min(1.0, static_cast<double>(balance_) / kMiddle);
-  master_.write({most * left, most * right, mute_});
+  // A sound system that does not answer is not asked again for each key: the window thread waits for it.
+  open_ = master_.write({most * left, most * right, mute_});
 }
 
 }  // namespace orvanta

@@ -20,7 +20,8 @@ class MasterVolume {
   virtual ~MasterVolume() = default;
   /// false when there is no sound system; `level` then stays.
   virtual bool read(MasterLevel& level) = 0;
-  virtual void write(const MasterLevel& level) = 0;
+  /// false when the sound system did not take it.
+  virtual bool write(const MasterLevel& level) = 0;
 };
 
 /// Through the sound server's own control program.

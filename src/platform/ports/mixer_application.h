@@ -5,6 +5,13 @@
 
 namespace orvanta {
 
+/// The mixer's window as both sides know it.
+namespace mixer {
+constexpr const char* kTitle = "Volume Control";
+constexpr int kPlaces = 250;  ///< of its slider, from the bottom up
+constexpr int kPage = 50;     ///< of them to a page key
+}  // namespace mixer
+
 class MixerApplication {
  public:
   virtual ~MixerApplication() = default;

@@ -2,8 +2,8 @@
 #include "platform/qt/data_window.h"
 
 #include <QCloseEvent>
-#include <QGuiApplication>
 #include <QComboBox>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -137,7 +137,10 @@ void DataWindow::followForm(Change change) {
   if (form_ == nullptr) return;
   if (change == Change::Text) setWindowTitle(toQt(form_->caption));
   if (change == Change::Enabled) setEnabled(form_->enabled);
-  if (change == Change::Geometry) place();
+  if (change == Change::Geometry) {
+    place();
+    setVisible(wanted_ && onScreen());
+  }
 }
 
 void DataWindow::followFocus(forms::Control* control) {
@@ -163,10 +166,7 @@ void DataWindow::place() {
 
 void DataWindow::showWanted(bool wanted) {
   wanted_ = wanted;
-  if (wanted) {
-    place();
-    flush();
-  }
+  if (wanted) flush();
   setVisible(wanted && onScreen());
 }
 

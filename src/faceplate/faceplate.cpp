@@ -44,8 +44,8 @@ void Faceplate::load() {
     const auto program = upward_.readProgram();
     state_.program.pgmStored = program && !program->empty() && program->front() >= 1 ? kOn : kOff;
     state_.disc.timeCorrection = upward_.readTimeCorrection();
-    upward_.readUserCaptions();
   }
+  upward_.readUserCaptions();
   on_.colours.loadorvanta1a();
   if (disc && device_.mode() == DeviceMode::Playing) {
     on_.discLoad.deferredTable();

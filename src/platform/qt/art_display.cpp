@@ -33,7 +33,7 @@ QRectF displayArea(const Art& art) {
 }
 
 /// Glass with two reflections that run on from pane to pane.
-void glass(Art& art) {
+void glass(Art& art, std::string_view detail) {
   QPainter& p = art.painter;
   const QRectF area(0, 0, art.w, art.h);
   const OwnColours own = ownColours(art.control);
@@ -62,12 +62,12 @@ void glass(Art& art) {
   band(.55, .58, .43, strength * .8);
   p.restore();
   const forms::Control* joint = art.control.form().find("Line1");
-  if (art.control.name() == "Panel3D5" && (joint == nullptr || !joint->visible)) {
+  if (detail == "joint" && (joint == nullptr || !joint->visible)) {
     const QColor line = own.set ? mix(own.back, Qt::black, .16) : mix(Qt::black, Qt::white, .10);
     fill(p, QRectF(0, 0, art.w, .8), line);
     fill(p, QRectF(art.w - .8, 0, .8, art.h), line);
   }
-  if (art.control.name() != "Panel3D1") return;
+  if (detail != "rule") return;
   // A hairline over the digits.
   const double unit = art.k / 15;
   const double left = joint != nullptr && joint->visible ? 3120 * unit : 0;
@@ -143,20 +143,17 @@ void indicator(Art& art) {
 
 }  // namespace
 
-bool paintDisplay(Art& art, std::string_view name, std::string_view /*detail*/) {
+bool paintDisplay(Art& art, std::string_view name, std::string_view detail) {
   const forms::Control& c = art.control;
   const QRectF area(0, 0, art.w, art.h);
   if (name == "glass") {
-    glass(art);
+    glass(art, detail);
   } else if (name == "digits") {
     digits(art);
   } else if (name == "lit") {
-    const bool mark = &c == c.form().find("Label16") || &c == c.form().find("Label21") || &c == c.form().find("Label30");
-    if (mark) {
-      indicator(art);
-    } else {
-      lit(art, {c.align, c.font.get().points < 8 ? .3 : 0, 0, false, c.wordWrap}, 0);
-    }
+    lit(art, {c.align, c.font.get().points < 8 ? .3 : 0, 0, false, c.wordWrap}, 0);
+  } else if (name == "indicator") {
+    indicator(art);
   } else if (name == "cell") {
     cell(art);
   } else if (name == "segments") {

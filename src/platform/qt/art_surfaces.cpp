@@ -78,7 +78,7 @@ void openSign(Art& art, double right, double top, double k) {
   ejectSign(art.painter, {art.w - right * art.k, top * art.k}, k * art.k);
 }
 
-void door(Art& art) {
+void door(Art& art, bool moving) {
   const auto* panel = dynamic_cast<const forms::Panel*>(&art.control);
   if (panel != nullptr && panel->bevelInner == 1) {
     recess(art);
@@ -86,7 +86,7 @@ void door(Art& art) {
   }
   const QColor base = qColour(art.control.backColor);
   // The front as it starts to move lies lower, with a light lip above and its shadow below.
-  if (art.control.form().find("Panel3D6") == &art.control) {
+  if (moving) {
     const double k = art.k;
     soft(art.painter, QRectF(3, 4, art.w - 4, art.h - 4), 3, alpha(Qt::black, .6), 3);
     QPainterPath lip;
@@ -226,7 +226,7 @@ bool paintSurface(Art& art, std::string_view name, std::string_view detail) {
   } else if (name == "metal") {
     sunkPanel(art, detail == "scale");
   } else if (name == "door") {
-    door(art);
+    door(art, detail == "moving");
   } else if (name == "tray") {
     paintTray(art, detail == "half");
   } else if (name == "emblem") {

@@ -1,6 +1,7 @@
 // The core's UTF-8 text as Qt's.
 #pragma once
 
+#include <QColor>
 #include <QString>
 #include <string>
 

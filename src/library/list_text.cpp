@@ -26,22 +26,11 @@ void addWrapped(forms::ListBox& list, std::string_view text) {
   for (const std::string& row : wrapWords(text, kWrap)) list.add(row);
 }
 
-std::vector<std::string> pieces(const std::string& text) {
-  std::vector<std::string> all;
-  size_t from = 0;
-  for (size_t at = text.find("\r\n"); at != std::string::npos; at = text.find("\r\n", from)) {
-    all.push_back(text.substr(from, at - from));
-    from = at + 2;
-  }
-  all.push_back(text.substr(from));
-  return all;
-}
-
 void addNotes(forms::ListBox& list, DiscState& disc) {
   if (trim(disc.linerNotes).empty()) return;
   list.add("");
   list.add("LINER NOTES:");
-  const auto lines = pieces(disc.linerNotes);
+  const auto lines = splitLines(disc.linerNotes);
   const bool fit = std::all_of(lines.begin(), lines.end(), [](const std::string& line) { return characterCount(line) <= kNotesLine; });
   if (lines.size() > 1 && fit) {
     for (const std::string& line : lines) list.add(line);
@@ -110,8 +99,6 @@ void setLyrics(DiscState& disc, int track, const std::string& text) {
 
 std::string extraField(const DiscState& disc, size_t index) { return unescapeField(disc.extraInfo[index]); }
 
-std::string catalogNumber(const DiscState& disc) { return disc.discKey; }
-
 std::string trackRow(const DiscState& disc, int track, const std::string& title) {
   return std::to_string(track) + ":\t" + title + "\t" + disc.trackLengths[static_cast<size_t>(track)];
 }
@@ -164,7 +151,7 @@ void fillCdInfoList(forms::ListBox& list, DiscState& disc, const LibraryState& l
   addIfSet(list, "COMPOSER:", disc.discInfo[3]);
   addIfSet(list, "COST:", extraField(disc, 0));
   addIfSet(list, "CD CHANGER ID:", extraField(disc, 65));
-  list.add("Orvanta Catalog #:  " + catalogNumber(disc));
+  list.add("Orvanta Catalog #:  " + disc.discKey);
   addLyrics(list, disc);
 }
 

@@ -18,9 +18,6 @@ void setLyrics(DiscState& disc, int track, const std::string& text);
 /// An extended field as the user wrote it: after a save the table holds it escaped.
 std::string extraField(const DiscState& disc, size_t index);
 
-/// The eight digits of the disc's file name.
-std::string catalogNumber(const DiscState& disc);
-
 /// Number, ":", TAB, title, TAB, time.
 std::string trackRow(const DiscState& disc, int track, const std::string& title);
 /// Number, ":", TAB, the text on one line.

@@ -50,7 +50,7 @@ void RecordPrint::head() {
   printer_.newLine();
   printer_.setFont(kFont, kPoints, true);
   printer_.newLine();
-  line(45, "Orvanta Music Library [" + catalogNumber(state_.disc) + ".CD]");
+  line(45, "Orvanta Music Library [" + state_.disc.discKey + ".CD]");
   printer_.newLine();
   printer_.setFont(kFont, kPoints, false);
   printer_.moveTo(kHeadEnd);

@@ -13,7 +13,7 @@ std::vector<RecordRow> recordRows(const acdtabs& form, const DiscState& disc) {
           {"GENRE:", form.cat.caption},
           {"DATE / TIME ENTERED:", form.Label23.caption, true},
           {"MEDIA TYPE:", form.mediatype.caption, true},
-          {"ORV CATALOG #:", catalogNumber(disc), true},
+          {"ORV CATALOG #:", disc.discKey, true},
           {"CD CHANGER ID:", form.Text24.caption},
           {"LABEL:", form.Text6.caption, false, false},
           {"CATALOG #:", form.catnum.caption, false, true, "LABEL / CATALOG #:"},

@@ -86,13 +86,6 @@ void ListBox::move(int from, int to) {
   propertyChanged(Change::Rows);
 }
 
-void ListBox::select(int index, bool on) {
-  if (!inRange(index)) return;
-  if (!multiSelect && on) selectOnly(index);
-  rows_[static_cast<size_t>(index)].selected = on;
-  propertyChanged(Change::Selection);
-}
-
 void ListBox::selectOnly(int index) {
   for (int i = 0; i < count(); ++i) rows_[static_cast<size_t>(i)].selected = i == index;
   propertyChanged(Change::Selection);

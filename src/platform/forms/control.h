@@ -162,7 +162,6 @@ class ListBox : public Simple<Kind::List> {
   void move(int from, int to);
 
   bool selected(int index) const { return inRange(index) && rows_[static_cast<size_t>(index)].selected; }
-  void select(int index, bool on);
   void selectOnly(int index);
   /// The row that the keyboard stands on; -1 for none.
   int listIndex() const { return listIndex_; }

@@ -8,7 +8,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size);
 
 int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   using orvanta::SettingsFile;
-  for (const auto file : {SettingsFile::Orvwin, SettingsFile::Orvwin1, SettingsFile::Orvwin3, SettingsFile::Orvwin4, SettingsFile::Orvwin7, SettingsFile::SettingsDat}) {
+  for (const auto file : {SettingsFile::Orvwin, SettingsFile::Orvwin1, SettingsFile::Orvwin3, SettingsFile::Orvwin4, SettingsFile::Orvwin7,
+                          SettingsFile::SettingsDat}) {
     orvanta::Settings settings;
     orvanta::readFields(file, {reinterpret_cast<const char*>(data), size}, settings);
     orvanta::fillLcdColours(settings);

@@ -18,7 +18,7 @@
 namespace orvanta {
 namespace {
 
-constexpr int kTick = 200;                                ///< milliseconds between two looks
+constexpr int kTick = 200;                                  ///< milliseconds between two looks
 constexpr auto kOrphan = std::chrono::milliseconds(10000);  ///< without a word from the deck
 
 class PlayOn {
@@ -51,7 +51,8 @@ class PlayOn {
     } else if (request.line.rfind("play ", 0) == 0) {
       const auto stretch = stretchOf(request.line.substr(5));
       const Toc toc = player_.toc();
-      const bool good = stretch && toc.count() > 0 && stretch->from >= kFirstFrame && stretch->from < stretch->to && stretch->to <= toc.leadOut;
+      const bool good =
+          stretch && toc.count() > 0 && stretch->from >= kFirstFrame && stretch->from < stretch->to && stretch->to <= toc.leadOut;
       if (good) {
         player_.play(stretch->from, stretch->to);
         to_ = stretch->to;

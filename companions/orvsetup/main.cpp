@@ -49,7 +49,8 @@ int run(int argc, char** argv) {
   HostFiles files;
   const HostSystem system({});
   Settings settings = presentSettings(files, system);
-  const bool display = !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") || !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
+  const bool display = !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") ||
+                       !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
   if (display && !has(argc, argv, "--defaults")) {
     const QApplication application(argc, argv);
     SettingsWindow window(settings);

@@ -84,7 +84,8 @@ SettingsWindow::SettingsWindow(Settings& settings) : settings_(settings) {
 QWidget* SettingsWindow::drivePage() {
   const auto [page, rows] = newPage();
   path(rows, tr("CD drive"), settings_.cdProbePath, Pick::Folder, tr("A folder with a disc image, or a device such as /dev/sr0"));
-  choice(rows, tr("Volume sliders"), settings_.soundMode, {{0, tr("none: a button for the mixer")}, {3, tr("the deck's own volume")}, {4, tr("the system's mixer")}});
+  choice(rows, tr("Volume sliders"), settings_.soundMode,
+         {{0, tr("none: a button for the mixer")}, {3, tr("the deck's own volume")}, {4, tr("the system's mixer")}});
   check(rows, tr("Sounds of keys and door"), settings_.soundsOff, true);
   return page;
 }
@@ -107,7 +108,8 @@ QWidget* SettingsWindow::looksPage() {
   check(rows, tr("Picture on the faceplate"), settings_.faceplateBitmapOn);
   path(rows, tr("Picture"), settings_.faceplateBitmap, Pick::File);
   check(rows, tr("Level lamps beside the sliders"), settings_.showLights);
-  choice(rows, tr("Wallpaper"), settings_.wallpaperOption, {{0, tr("off")}, {1, tr("with the deck")}, {2, tr("on demand")}, {3, tr("before the deck")}});
+  choice(rows, tr("Wallpaper"), settings_.wallpaperOption,
+         {{0, tr("off")}, {1, tr("with the deck")}, {2, tr("on demand")}, {3, tr("before the deck")}});
   choice(rows, tr("Wallpaper's filling"), settings_.wallpaperMode,
          {{0, tr("plain colour")}, {1, tr("centred")}, {2, tr("stretched")}, {3, tr("tiled")}, {4, tr("as it is")}});
   colour(rows, tr("Wallpaper's colour"), settings_.wallpaperColor);
@@ -134,9 +136,19 @@ QWidget* SettingsWindow::fontsPage() {
 
 QWidget* SettingsWindow::coloursPage() {
   const auto [page, rows] = newPage();
-  const QString names[] = {tr("Border"),         tr("Faceplate"),    tr("Door"),     tr("Keypad and volume panel"), tr("Progress bar and sliders"),
-                           tr("Reserved (5)"),   tr("Reserved (6)"), tr("Lists"),    tr("Reserved (8)"),            tr("Legends of the display"),
-                           tr("Track and time"), tr("Reserved (11)"), tr("Reserved (12)")};
+  const QString names[] = {tr("Border"),
+                           tr("Faceplate"),
+                           tr("Door"),
+                           tr("Keypad and volume panel"),
+                           tr("Progress bar and sliders"),
+                           tr("Reserved (5)"),
+                           tr("Reserved (6)"),
+                           tr("Lists"),
+                           tr("Reserved (8)"),
+                           tr("Legends of the display"),
+                           tr("Track and time"),
+                           tr("Reserved (11)"),
+                           tr("Reserved (12)")};
   for (size_t i = 0; i < settings_.customColor.size(); ++i) colour(rows, names[i], settings_.customColor[i]);
   auto* scroll = new QScrollArea;
   scroll->setWidget(page);
@@ -174,7 +186,8 @@ void SettingsWindow::path(QFormLayout* page, const QString& label, std::string& 
   row->addWidget(browse);
   page->addRow(label, row);
   QObject::connect(browse, &QToolButton::clicked, this, [this, edit, pick] {
-    const QString chosen = pick == Pick::Folder ? QFileDialog::getExistingDirectory(this, {}, edit->text()) : QFileDialog::getOpenFileName(this, {}, edit->text());
+    const QString chosen = pick == Pick::Folder ? QFileDialog::getExistingDirectory(this, {}, edit->text())
+                                                : QFileDialog::getOpenFileName(this, {}, edit->text());
     if (!chosen.isEmpty()) edit->setText(chosen);
   });
   takers_.emplace_back([edit, &value] { value = edit->text().toStdString(); });
@@ -238,7 +251,8 @@ void SettingsWindow::font(QFormLayout* page, const QString& label, FontGroup& va
   auto* first = new QHBoxLayout;
   for (QWidget* widget : std::initializer_list<QWidget*>{own, family, size}) first->addWidget(widget);
   auto* second = new QHBoxLayout;
-  for (QWidget* widget : std::initializer_list<QWidget*>{bold, italic, underline, colourButton(value.fontColor, chosen)}) second->addWidget(widget);
+  for (QWidget* widget : std::initializer_list<QWidget*>{bold, italic, underline, colourButton(value.fontColor, chosen)})
+    second->addWidget(widget);
   auto* both = new QVBoxLayout;
   both->addLayout(first);
   both->addLayout(second);

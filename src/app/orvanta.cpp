@@ -33,7 +33,8 @@ Orvanta::Orvanta(Ports& ports)
       exit_(ports, volume_, sounds_, form, state),
       restart_(ports, volume_, state),
       record_(ports, position_, volume_, form, state),
-      faceplate_(ports, {discLoad_, layer_, engine_, modes_, clock_, buttons_, colours_, position_, layout_, volume_, sounds_}, form, state, *this) {
+      faceplate_(ports, {discLoad_, layer_, engine_, modes_, clock_, buttons_, colours_, position_, layout_, volume_, sounds_}, form, state,
+                 *this) {
   form.setEvents(&faceplate_);
 }
 

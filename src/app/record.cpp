@@ -35,7 +35,8 @@ void RecorderLaunch::run() {
   form_.minimised = true;
   clearMarker(ports_.files, settings.appDir, kRunningMarker);
   if (!settings.recordCommand.empty()) {
-    ports_.processes.start({splitCommand(settings.recordCommand, ports_.files.exists(settings.recordCommand)), settings.appDir, WindowStyle::Normal});
+    ports_.processes.start(
+        {splitCommand(settings.recordCommand, ports_.files.exists(settings.recordCommand)), settings.appDir, WindowStyle::Normal});
     end();
   }
   writeTexts();

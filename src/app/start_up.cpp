@@ -97,7 +97,8 @@ void StartUp::readSettingsFiles() {
     ports_.processes.start({{joinPath(state_.process.windowsDir, "orvsetup"), "INITSETUPLX"}, folder, WindowStyle::Normal});
     end();
   }
-  for (const auto file : {SettingsFile::Orvwin1, SettingsFile::Orvwin7, SettingsFile::SettingsDat, SettingsFile::Orvwin3, SettingsFile::Orvwin4}) {
+  for (const auto file :
+       {SettingsFile::Orvwin1, SettingsFile::Orvwin7, SettingsFile::SettingsDat, SettingsFile::Orvwin3, SettingsFile::Orvwin4}) {
     readSettings(file, ports_.files, folder, settings);
   }
   // A mixer beside the programs, or in their subfolder, serves where none was chosen.

@@ -5,9 +5,7 @@
 
 namespace orvanta {
 
-Msf msfOfFrames(int frames) {
-  return {frames / kFramesPerMinute, frames / kFramesPerSecond % 60, frames % kFramesPerSecond};
-}
+Msf msfOfFrames(int frames) { return {frames / kFramesPerMinute, frames / kFramesPerSecond % 60, frames % kFramesPerSecond}; }
 
 int framesOf(const Msf& msf) { return (msf.minutes * 60 + msf.seconds) * kFramesPerSecond + msf.frames; }
 

@@ -61,7 +61,8 @@ void DisplayColours::fonts() {
   form_.Label8.font = forms::Font{"Arial", 19, true};
   form_.Label33.font = forms::Font{"Arial", 19};
   form_.Label10.font = forms::Font{"Arial", 12, coarse || form_.Label10.font.get().bold};
-  form_.Label24.font = coarse ? forms::Font{"Arial", 8, true} : forms::Font{"Arial", form_.Label24.font.get().points, form_.Label24.font.get().bold};
+  form_.Label24.font =
+      coarse ? forms::Font{"Arial", 8, true} : forms::Font{"Arial", form_.Label24.font.get().points, form_.Label24.font.get().bold};
   if (coarse) {
     form_.Label24.move(5370, 2280);
   } else {

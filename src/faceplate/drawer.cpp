@@ -47,7 +47,14 @@ void bevels(forms::Panel& panel, int style) {
 }  // namespace
 
 Drawer::Drawer(Ports& ports, Engine& engine, InterfaceSounds& sounds, CDForm& form, SharedState& state, PlaybackUpward& upward)
-    : clock_(ports.clock), files_(ports.files), screen_(ports.screen), engine_(engine), sounds_(sounds), form_(form), state_(state), upward_(upward) {}
+    : clock_(ports.clock),
+      files_(ports.files),
+      screen_(ports.screen),
+      engine_(engine),
+      sounds_(sounds),
+      form_(form),
+      state_(state),
+      upward_(upward) {}
 
 bool Drawer::isOpen() const { return form_.Panel3D7.top == kOpenMain.top; }
 

@@ -18,9 +18,11 @@ constexpr std::array<std::string_view, 6> kFiles = {"click.wav", "minimize.wav",
 
 constexpr const char* kNoMixer =
     "NOTE: to use the Audio Mixer option, you must locate the mixer application written specifically for your sound board.\n\n"
-    "This is usually a Windows application named something similar to JAZZPMIX.EXE, SB32WMIX.EXE or AUDIOMIX.EXE. Common subdirectory names "
+    "This is usually a Windows application named something similar to JAZZPMIX.EXE, SB32WMIX.EXE or AUDIOMIX.EXE. Common subdirectory "
+    "names "
     "in which the mixer application may be found include: JAZZ, SB32, SBPRO, VOYETRA, etc.\n\n"
-    "Once the proper mixer application is located, it will be automatically used by Orvanta to allow you to change the Volume, Balance, Bass "
+    "Once the proper mixer application is located, it will be automatically used by Orvanta to allow you to change the Volume, Balance, "
+    "Bass "
     "& Treble tone control settings, etc. "
     "You may also use the standard Windows Volume Control Application SNDVOL32.EXE located in your Windows directory.\n\n"
     "Note:  Access the Orvanta Setup Section to enter or change mixer settings.";

@@ -10,9 +10,9 @@ namespace orvanta {
 
 namespace {
 
-constexpr int kBeyondScreen = 100;   ///< past the screen's right edge
-constexpr int kIsSmall = 6000;      ///< a window narrower than this is the small one
-constexpr int kIsLarge = 9000;      ///< a wider one the large one
+constexpr int kBeyondScreen = 100;    ///< past the screen's right edge
+constexpr int kIsSmall = 6000;        ///< a window narrower than this is the small one
+constexpr int kIsLarge = 9000;        ///< a wider one the large one
 constexpr int kMarkWidthSmall = 150;  ///< of the record key's mask, so that it stands in the middle of the key
 constexpr int kTitleLeft = 110;
 constexpr int kTitleTop = 80;
@@ -124,7 +124,8 @@ void Layout::icntlsf() {
 }
 
 void Layout::showLargeParts(bool show) {
-  for (auto* label : {&form_.Label18, &form_.Label19, &form_.Label20, &form_.Label25, &form_.Label17, &form_.Label24}) label->visible = show;
+  for (auto* label : {&form_.Label18, &form_.Label19, &form_.Label20, &form_.Label25, &form_.Label17, &form_.Label24})
+    label->visible = show;
   form_.SSPanel3.visible = form_.Image5.visible = show;
   form_.Shape6.visible = form_.Shape7.visible = show;
   for (auto& key : form_.Image10) key.visible = show;

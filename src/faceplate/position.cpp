@@ -21,7 +21,9 @@ int kept(int place, int size, int margin, int screen) {
 
 }  // namespace
 
-std::string Position::path() const { return joinPath(state_.settings.appDir, state_.settings.smallFaceplate == kOn ? "SMPOS1.DAT" : "CDPOSN.DAT"); }
+std::string Position::path() const {
+  return joinPath(state_.settings.appDir, state_.settings.smallFaceplate == kOn ? "SMPOS1.DAT" : "CDPOSN.DAT");
+}
 
 void Position::saveposn1() {
   if (state_.process.commandWord == "RUNRIPPER") return;

@@ -11,7 +11,7 @@ namespace {
 constexpr int kPanelDepth = 10;
 
 /// Keys of the window by name; those of the volume panel go ten twips in either metric variant.
-constexpr std::array<std::string_view, 10> kWindowKeys = {"Image10", "Image16", "Image17", "Image4", "Image5",
+constexpr std::array<std::string_view, 10> kWindowKeys = {"Image10", "Image16", "Image17", "Image4",  "Image5",
                                                           "Image6",  "Image7",  "Image11", "Image13", "Image12"};
 
 }  // namespace
@@ -20,7 +20,8 @@ forms::Label* PressedLook::captionOf(const forms::Control& control) {
   const auto index = static_cast<size_t>(std::max(control.index(), 0));
   if (control.name() == "Image17") return &form_.Label34[index];
   if (control.name() == "Image10") return std::array{&form_.Label18, &form_.Label19, &form_.Label20, &form_.Label25}.at(index);
-  if (control.name() == "Image16") return std::array{&form_.Label44, &form_.Label38, &form_.Label39, &form_.Label40, &form_.Label35}.at(index);
+  if (control.name() == "Image16")
+    return std::array{&form_.Label44, &form_.Label38, &form_.Label39, &form_.Label40, &form_.Label35}.at(index);
   if (control.name() == "scntla" && index == 1) return &form_.Label24;
   if (control.name() == "scntla" && index == 2) return &form_.Label17;
   return nullptr;

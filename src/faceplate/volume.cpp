@@ -23,12 +23,12 @@ constexpr int kUpperSnap = 100;   ///< above it the thumb jumps to kLoudest
 constexpr int kLowerSnap = 1060;  ///< below it to kSilent
 constexpr int kBarTop = 90;
 constexpr int kThumbLine = 79;
-constexpr int kDeadStrip = 70;    ///< left of the slider: no press counts
-constexpr int kThumbGrip = 90;    ///< a press that far below the thumb's top does not move it
+constexpr int kDeadStrip = 70;  ///< left of the slider: no press counts
+constexpr int kThumbGrip = 90;  ///< a press that far below the thumb's top does not move it
 constexpr int kBarGrip = 40;
-constexpr int kWrapped = 1500;    ///< a drag above the upper bar reports a value beyond this
-constexpr int kPrepared = 50;     ///< attenuation that the mixer program is set to at first
-constexpr int kStep = 50;         ///< twips to a notch of the wheel: five percent
+constexpr int kWrapped = 1500;  ///< a drag above the upper bar reports a value beyond this
+constexpr int kPrepared = 50;   ///< attenuation that the mixer program is set to at first
+constexpr int kStep = 50;       ///< twips to a notch of the wheel: five percent
 constexpr Colour kThumbColour = 0xB8B8BA;
 constexpr Colour kThumbDragged = 0x7EFEDE;
 constexpr const char* kNoDevice =
@@ -53,10 +53,24 @@ Volume::Volume(Ports& ports, Layout& layout, MixerDriver& mixer, InterfaceSounds
       sounds_(sounds),
       form_(form),
       state_(state),
-      left_{form.PctL,   form.VolumeL, form.VbartopL,         form.VbarbtmL,          form.ThumbL,
-            form.TlineL, state.volume.leftRaw, state.volume.leftAtten, state.volume.leftAttenPrev},
-      right_{form.PctR,   form.VolumeR, form.VbartopR,          form.VbarbtmR,           form.ThumbR,
-             form.TlineR, state.volume.rightRaw, state.volume.rightAtten, state.volume.rightAttenPrev} {}
+      left_{form.PctL,
+            form.VolumeL,
+            form.VbartopL,
+            form.VbarbtmL,
+            form.ThumbL,
+            form.TlineL,
+            state.volume.leftRaw,
+            state.volume.leftAtten,
+            state.volume.leftAttenPrev},
+      right_{form.PctR,
+             form.VolumeR,
+             form.VbartopR,
+             form.VbarbtmR,
+             form.ThumbR,
+             form.TlineR,
+             state.volume.rightRaw,
+             state.volume.rightAtten,
+             state.volume.rightAttenPrev} {}
 
 // ---- modes
 

@@ -35,8 +35,8 @@ std::string enteredText(const std::optional<FileTime>& time) {
   static constexpr const char* kMonths[] = {"Jan", "Feb", "Mar", "Apr", "May", "Jun", "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
   if (!time) return {};
   const int hour = time->hour % 12 == 0 ? 12 : time->hour % 12;
-  return std::string(kMonths[time->month - 1]) + " " + std::to_string(time->day) + ", " + std::to_string(time->year) + " " + std::to_string(hour) + ":" +
-         padded(time->minute, 2) + (time->hour < 12 ? " AM" : " PM");
+  return std::string(kMonths[time->month - 1]) + " " + std::to_string(time->day) + ", " + std::to_string(time->year) + " " +
+         std::to_string(hour) + ":" + padded(time->minute, 2) + (time->hour < 12 ? " AM" : " PM");
 }
 
 }  // namespace
@@ -254,12 +254,13 @@ void CdData::cancel() {
 
 void CdData::clear() {
   form_.Command12.enabled = false;
-  for (forms::TextBox* box : {&form_.Text1, &form_.Text2, &form_.Text3, &form_.Text4, &form_.Text6, &form_.Text7, &form_.Text8, &form_.Text10,
-                              &form_.Text11, &form_.Text13, &form_.Text15, &form_.Text16, &form_.Text18, &form_.upcnum, &form_.cdcost}) {
+  for (forms::TextBox* box :
+       {&form_.Text1, &form_.Text2, &form_.Text3, &form_.Text4, &form_.Text6, &form_.Text7, &form_.Text8, &form_.Text10, &form_.Text11,
+        &form_.Text13, &form_.Text15, &form_.Text16, &form_.Text18, &form_.upcnum, &form_.cdcost}) {
     box->caption = "";
   }
-  for (forms::Combo* combo : {&form_.cat, &form_.mediatype, &form_.stloc, &form_.recdtype, &form_.mrat, &form_.rrat, &form_.mcrat, &form_.pcrat,
-                              &form_.crat}) {
+  for (forms::Combo* combo :
+       {&form_.cat, &form_.mediatype, &form_.stloc, &form_.recdtype, &form_.mrat, &form_.rrat, &form_.mcrat, &form_.pcrat, &form_.crat}) {
     combo->caption = "";
   }
   for (int row = 0; row < kClearedRows; ++row) {
@@ -275,8 +276,7 @@ void CdData::clear() {
 /// Lyrics go along from their rows' fourth character on; from row 10 on that is the TAB, which receivers know.
 void CdData::submit() {
   if (state_.disc.trackCount > kMostToSubmit) {
-    ports_.dialogs.message(BoxStyle::Critical, "Orvanta",
-                           "Unable To Submit - Track Limit Exceeded For CDDB Submission From Orvanta");
+    ports_.dialogs.message(BoxStyle::Critical, "Orvanta", "Unable To Submit - Track Limit Exceeded For CDDB Submission From Orvanta");
     return;
   }
   for (forms::TextBox* box : {&form_.Text2, &form_.Text4}) box->caption = withoutControls(box->caption.get());

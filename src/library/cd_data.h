@@ -100,7 +100,7 @@ class CdData : public forms::FormEvents {
   SharedState& state_;
   LibraryUpward& upward_;
   int16_t currentTab_ = MusicInfo;
-  int currentRow_ = -1;  ///< zero-based, under edit in List1 or List2
+  int currentRow_ = -1;         ///< zero-based, under edit in List1 or List2
   bool listMouseDown_ = false;  ///< the next focus of an input box leaves its text unselected
   std::array<std::string, 101> savedTitles_;
 };

@@ -18,11 +18,11 @@ struct Link {
 };
 /// Where ENTER goes.
 constexpr Link kChain[] = {
-    {"Text2", "cat"},      {"cat", "Text4"},      {"Text4", "Text24"},  {"Text24", "mediatype"}, {"mediatype", "Text6"}, {"Text6", "Text18"},
-    {"Text18", "Text7"},   {"Text23", "stloc"},   {"Text10", "stloc"},  {"stloc", "Text16"},     {"Text16", "recdtype"}, {"Text22", "Text15"},
-    {"Text15", "recdtype"}, {"recdtype", "mrat"}, {"mrat", "rrat"},     {"rrat", "mcrat"},       {"mcrat", "pcrat"},     {"pcrat", "crat"},
-    {"crat", "Text13"},    {"Text13", "Text11"},  {"Text11", "upcnum"}, {"upcnum", "cdcost"},    {"cdcost", "Text8"},    {"Text7", "cdcost"},
-    {"reccode", "Text8"},
+    {"Text2", "cat"},       {"cat", "Text4"},     {"Text4", "Text24"},    {"Text24", "mediatype"}, {"mediatype", "Text6"},
+    {"Text6", "Text18"},    {"Text18", "Text7"},  {"Text23", "stloc"},    {"Text10", "stloc"},     {"stloc", "Text16"},
+    {"Text16", "recdtype"}, {"Text22", "Text15"}, {"Text15", "recdtype"}, {"recdtype", "mrat"},    {"mrat", "rrat"},
+    {"rrat", "mcrat"},      {"mcrat", "pcrat"},   {"pcrat", "crat"},      {"crat", "Text13"},      {"Text13", "Text11"},
+    {"Text11", "upcnum"},   {"upcnum", "cdcost"}, {"cdcost", "Text8"},    {"Text7", "cdcost"},     {"reccode", "Text8"},
 };
 
 /// Whose change makes Cancel ask.
@@ -30,7 +30,9 @@ constexpr std::string_view kAsking[] = {"Text2", "Text4", "Text7", "Text18", "ca
 /// The inputs of the rows: what stands in them is nothing before ENTER.
 constexpr std::string_view kInputs[] = {"Text1", "Text8"};
 
-bool oneOf(std::span<const std::string_view> names, const std::string& name) { return std::find(names.begin(), names.end(), name) != names.end(); }
+bool oneOf(std::span<const std::string_view> names, const std::string& name) {
+  return std::find(names.begin(), names.end(), name) != names.end();
+}
 
 }  // namespace
 

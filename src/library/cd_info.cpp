@@ -15,7 +15,7 @@ namespace orvanta {
 namespace {
 
 constexpr int kInfoHelp = 15;
-constexpr int kGap = 20;         ///< twips below the faceplate
+constexpr int kGap = 20;  ///< twips below the faceplate
 constexpr int kLeastHeight = 900;
 constexpr int kLowHeight = 2500;  ///< where the faceplate stands too low for a window under it
 

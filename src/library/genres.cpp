@@ -17,18 +17,101 @@ namespace {
 constexpr size_t kMostOwn = 208;
 constexpr size_t kMostGenres = 300;
 
+// clang-format off: one long list.
 constexpr const char* kGenres[] = {
-    "African music", "Aleatory", "Alternative Rock", "American music", "American Indian music", "Austrian music", "Arabian music",
-    "Ballet", "Baroque", "Big Band", "Bluegrass", "Blues", "Broadway Musicals", "Calyso", "Children's music", "Chinese music", "Choral",
-    "Chorus", "Christmas music", "Classic Rock", "Classical", "Comedy", "Computer", "Consort (Concert)", "Contemporary", "Country",
-    "Czech music", "Dance", "Disco", "Dixieland", "Easy Listening", "Electronic", "English music", "Ensemble", "Favorites", "Folk",
-    "French music", "Gospel", "General", "German music", "Greek music", "Guitar", "Hard Rock", "Holiday", "Hungarian music", "Hymn",
-    "Instrumental", "Indian music", "Italian music", "Japanese music", "Jazz", "Jewish music", "Latin", "Medieval", "Miscellaneous",
-    "Movie Soundtrack", "Multimedia", "New Age", "Oldies", "Opera", "Orchestral", "Piano", "Polka", "Popular", "Punk Rock", "Rap",
-    "Ragtime", "Reggae", "Renaissance", "Rococo", "Rock & Roll", "Rhythm & Blues", "Russian music", "Sampler", "Scandinavian music",
-    "Serial", "Soft Rock", "Soul", "Sound Effects", "Spanish music", "Spoken Word", "Square Dance", "Steel Band", "String Quartet",
-    "Swing", "Symphonic", "Test", "Top 40", "United Kingdom music", "Vocalists, Female", "Vocalists, Male",
+    "African music",
+    "Aleatory",
+    "Alternative Rock",
+    "American music",
+    "American Indian music",
+    "Austrian music",
+    "Arabian music",
+    "Ballet",
+    "Baroque",
+    "Big Band",
+    "Bluegrass",
+    "Blues",
+    "Broadway Musicals",
+    "Calyso",
+    "Children's music",
+    "Chinese music",
+    "Choral",
+    "Chorus",
+    "Christmas music",
+    "Classic Rock",
+    "Classical",
+    "Comedy",
+    "Computer",
+    "Consort (Concert)",
+    "Contemporary",
+    "Country",
+    "Czech music",
+    "Dance",
+    "Disco",
+    "Dixieland",
+    "Easy Listening",
+    "Electronic",
+    "English music",
+    "Ensemble",
+    "Favorites",
+    "Folk",
+    "French music",
+    "Gospel",
+    "General",
+    "German music",
+    "Greek music",
+    "Guitar",
+    "Hard Rock",
+    "Holiday",
+    "Hungarian music",
+    "Hymn",
+    "Instrumental",
+    "Indian music",
+    "Italian music",
+    "Japanese music",
+    "Jazz",
+    "Jewish music",
+    "Latin",
+    "Medieval",
+    "Miscellaneous",
+    "Movie Soundtrack",
+    "Multimedia",
+    "New Age",
+    "Oldies",
+    "Opera",
+    "Orchestral",
+    "Piano",
+    "Polka",
+    "Popular",
+    "Punk Rock",
+    "Rap",
+    "Ragtime",
+    "Reggae",
+    "Renaissance",
+    "Rococo",
+    "Rock & Roll",
+    "Rhythm & Blues",
+    "Russian music",
+    "Sampler",
+    "Scandinavian music",
+    "Serial",
+    "Soft Rock",
+    "Soul",
+    "Sound Effects",
+    "Spanish music",
+    "Spoken Word",
+    "Square Dance",
+    "Steel Band",
+    "String Quartet",
+    "Swing",
+    "Symphonic",
+    "Test",
+    "Top 40",
+    "United Kingdom music",
+    "Vocalists, Female",
+    "Vocalists, Male",
 };
+// clang-format on
 
 /// As the list sorts: letters without their case, the rest by code.
 bool before(const std::string& a, const std::string& b) { return upper(a) < upper(b); }
@@ -59,10 +142,11 @@ void Genres::fillGenres(forms::Combo& combo) const {
 }
 
 std::optional<std::string> Genres::addGenre() {
-  const auto answer = dialogs_.askText("Orvanta - Add New Music Genre",
-                                       "Please enter the new Music Genre Category below.\n\nNote: to delete user defined categories, edit the "
-                                       "'addcats.dat' file in your Orvanta directory using Windows Notepad or Wordpad.",
-                                       "");
+  const auto answer =
+      dialogs_.askText("Orvanta - Add New Music Genre",
+                       "Please enter the new Music Genre Category below.\n\nNote: to delete user defined categories, edit the "
+                       "'addcats.dat' file in your Orvanta directory using Windows Notepad or Wordpad.",
+                       "");
   if (!answer || trim(*answer).empty()) return std::nullopt;
   const std::string genre(trim(*answer));
   std::vector<std::string> own;
@@ -93,7 +177,8 @@ void Genres::askUserCaptions() {
   std::array<std::string, 2> answers;
   for (size_t i = 0; i < 2; ++i) {
     const std::string number = std::to_string(i + 1);
-    const auto answer = dialogs_.askText("User Defined " + number + " Description", "Enter User Defined " + number + " Description", state_.library.userCaptions[i]);
+    const auto answer = dialogs_.askText("User Defined " + number + " Description", "Enter User Defined " + number + " Description",
+                                         state_.library.userCaptions[i]);
     if (!answer) return;
     answers[i] = trim(withoutControls(*answer));
   }

@@ -56,7 +56,8 @@ HtmlExport::HtmlExport(Ports& ports, acdtabs& form, SharedState& state)
 void HtmlExport::run() {
   std::string name = form_.Text2.caption.get() + " - " + form_.Text4.caption.get() + ".htm";
   std::replace(name.begin(), name.end(), '/', '-');
-  const auto path = dialogs_.askSaveFile({"Save Orvanta CD Data As...", joinPath(state_.settings.appDir, "datacd"), name, "HTML File (*.htm)|*.htm"});
+  const auto path =
+      dialogs_.askSaveFile({"Save Orvanta CD Data As...", joinPath(state_.settings.appDir, "datacd"), name, "HTML File (*.htm)|*.htm"});
   if (!path || path->empty()) return;
   files_.write(*path, encoded(page()));
 }

@@ -10,8 +10,8 @@ namespace orvanta {
 inline void dressList(forms::ListBox& list, const Settings& settings) {
   const FontGroup& group = settings.fonts[3];
   if (!group.fontName.empty()) {
-    list.font = forms::Font{group.fontName, group.fontSize > 0 ? static_cast<double>(group.fontSize) : list.font.get().points, group.fontBold != 0,
-                            group.fontItalic != 0, group.fontUnderline != 0};
+    list.font = forms::Font{group.fontName, group.fontSize > 0 ? static_cast<double>(group.fontSize) : list.font.get().points,
+                            group.fontBold != 0, group.fontItalic != 0, group.fontUnderline != 0};
     list.foreColor = group.fontColor;
   }
   if (settings.customColor[7] != 0) list.backColor = settings.customColor[7];

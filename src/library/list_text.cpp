@@ -141,11 +141,13 @@ void fillCdInfoList(forms::ListBox& list, DiscState& disc, const LibraryState& l
   const std::string media(trim(extraField(disc, 1)));
   list.add("MEDIA TYPE:  " + (disc.enhancedCd > 0 ? "Enhanced Audio CD" : media.empty() ? "Audio CD" : media));
   static constexpr std::pair<const char*, size_t> kFields[] = {
-      {"YEAR RELEASED:", 2},  {"UPC #:", 73},          {"ARTIST WEB SITE:", 3}, {"ARTIST INFO:", 63},     {"STORAGE LOCATION:", 4},
-      {"ALBUM CREDITS:", 75}, {"ALBUM INFO:", 64},     {"RECORDING INFO:", 5},  {"RECORDING VENUE:", 6},  {"MUSIC RATING:", 7},
-      {"RECORDING RATING:", 8}, {"MEDIA RATING:", 9},  {"PACKAGING RATING:", 10}, {"CONTENTS RATING:", 11}, {"RECORDING CODE:", 67}};
+      {"YEAR RELEASED:", 2},    {"UPC #:", 73},       {"ARTIST WEB SITE:", 3},   {"ARTIST INFO:", 63},     {"STORAGE LOCATION:", 4},
+      {"ALBUM CREDITS:", 75},   {"ALBUM INFO:", 64},  {"RECORDING INFO:", 5},    {"RECORDING VENUE:", 6},  {"MUSIC RATING:", 7},
+      {"RECORDING RATING:", 8}, {"MEDIA RATING:", 9}, {"PACKAGING RATING:", 10}, {"CONTENTS RATING:", 11}, {"RECORDING CODE:", 67}};
   for (const auto& [caption, index] : kFields) addIfSet(list, caption, extraField(disc, index));
-  const auto caption = [&](size_t which, const char* usual) { return library.userCaptions[which].empty() ? std::string(usual) : library.userCaptions[which]; };
+  const auto caption = [&](size_t which, const char* usual) {
+    return library.userCaptions[which].empty() ? std::string(usual) : library.userCaptions[which];
+  };
   addOwnField(list, caption(0, "USER DEFINED 1:"), extraField(disc, 12));
   addOwnField(list, caption(1, "USER DEFINED 2:"), extraField(disc, 74));
   addIfSet(list, "COMPOSER:", disc.discInfo[3]);

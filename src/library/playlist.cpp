@@ -22,7 +22,14 @@ constexpr size_t kProgramEntries = 100;
 
 Playlist::Playlist(Ports& ports, CdRecords& records, Engine& engine, Modes& modes, TimeDisplay& display, cdplist& form, CDForm& faceplate,
                    SharedState& state)
-    : ports_(ports), records_(records), engine_(engine), modes_(modes), display_(display), form_(form), faceplate_(faceplate), state_(state) {
+    : ports_(ports),
+      records_(records),
+      engine_(engine),
+      modes_(modes),
+      display_(display),
+      form_(form),
+      faceplate_(faceplate),
+      state_(state) {
   form.setEvents(this);
 }
 

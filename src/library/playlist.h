@@ -16,7 +16,8 @@ struct Ports;
 
 class Playlist : public forms::FormEvents {
  public:
-  Playlist(Ports& ports, CdRecords& records, Engine& engine, Modes& modes, TimeDisplay& display, cdplist& form, CDForm& faceplate, SharedState& state);
+  Playlist(Ports& ports, CdRecords& records, Engine& engine, Modes& modes, TimeDisplay& display, cdplist& form, CDForm& faceplate,
+           SharedState& state);
 
   /// Nothing without tracks.
   void open();

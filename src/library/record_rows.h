@@ -12,8 +12,8 @@ namespace orvanta {
 struct RecordRow {
   std::string caption;
   std::string value;
-  bool always = false;   ///< shown on the page without a value too
-  bool printed = true;   ///< the page's last rows have other places on paper
+  bool always = false;            ///< shown on the page without a value too
+  bool printed = true;            ///< the page's last rows have other places on paper
   std::string paperCaption = {};  ///< where it differs; "" for the same
 };
 

@@ -31,7 +31,7 @@ class PlaybackClock : public CdDeviceEvents {
   void timer2_timer();
   void timer3_timer();
 
-  static constexpr int kTimer2Interval = 100;   ///< milliseconds
+  static constexpr int kTimer2Interval = 100;  ///< milliseconds
   static constexpr int kTimer3Interval = 1100;
 
  private:

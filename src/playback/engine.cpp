@@ -16,7 +16,14 @@
 namespace orvanta {
 
 Engine::Engine(Ports& ports, TimeDisplay& display, CDForm& form, SharedState& state, PlaybackUpward& upward)
-    : device_(ports.device), clock_(ports.clock), files_(ports.files), screen_(ports.screen), display_(display), form_(form), state_(state), upward_(upward) {}
+    : device_(ports.device),
+      clock_(ports.clock),
+      files_(ports.files),
+      screen_(ports.screen),
+      display_(display),
+      form_(form),
+      state_(state),
+      upward_(upward) {}
 
 void Engine::setTimer2Interval(int milliseconds) {
   if (timer2_ != nullptr) timer2_->setInterval(milliseconds);

@@ -10,8 +10,8 @@ namespace orvanta {
 
 namespace {
 
-constexpr int64_t kBlink = 400;        ///< milliseconds
-constexpr int kUsualIntro = 7;         ///< seconds
+constexpr int64_t kBlink = 400;  ///< milliseconds
+constexpr int kUsualIntro = 7;   ///< seconds
 
 }  // namespace
 

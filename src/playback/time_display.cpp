@@ -86,12 +86,8 @@ void TimeDisplay::updateTime(std::string_view deviceTime) {
   const bool cont = transport.playMode == Cont;
   std::string text;
   switch (state_.settings.timeMode) {
-    case Time:
-      text = minutesSeconds(std::max(0, smoothed(display.elapsedSec, true, 1)));
-      break;
-    case Rem:
-      text = "-" + minutesSeconds(std::max(0, smoothed(left, false, -1)));
-      break;
+    case Time: text = minutesSeconds(std::max(0, smoothed(display.elapsedSec, true, 1))); break;
+    case Rem: text = "-" + minutesSeconds(std::max(0, smoothed(left, false, -1))); break;
     case Total:
       if (cont) {
         text = longTime(std::max(0, smoothed(sumOfSeconds(1, static_cast<int16_t>(transport.curTrack - 1)) + display.elapsedSec, true, 1)));
@@ -101,8 +97,9 @@ void TimeDisplay::updateTime(std::string_view deviceTime) {
       break;
     default: {
       // The guard runs the other way than in "Rem": it holds the display against falling too fast.
-      const double more = cont ? sumOfSeconds(static_cast<int16_t>(transport.curTrack + 1), state_.disc.trackCount)
-                               : transport.playMode == Pgm ? restOfProgram() : 0;
+      const double more = cont                        ? sumOfSeconds(static_cast<int16_t>(transport.curTrack + 1), state_.disc.trackCount)
+                          : transport.playMode == Pgm ? restOfProgram()
+                                                      : 0;
       const int shown = std::max(0, smoothed(more + left, true, -1));
       text = "-" + (transport.playMode == One ? minutesSeconds(shown) : longTime(shown));
       break;
@@ -114,9 +111,8 @@ void TimeDisplay::updateTime(std::string_view deviceTime) {
 void TimeDisplay::showTrack(int16_t track) {
   const bool none = track < 1;
   form_.Label8.caption = std::to_string(track);
-  form_.Label43.caption = none || static_cast<size_t>(track) >= state_.disc.trackLengths.size()
-                              ? "0:00"
-                              : state_.disc.trackLengths[static_cast<size_t>(track)];
+  form_.Label43.caption =
+      none || static_cast<size_t>(track) >= state_.disc.trackLengths.size() ? "0:00" : state_.disc.trackLengths[static_cast<size_t>(track)];
   form_.Label43.foreColor = state_.settings.lcdColor[none ? kLcdDim : kLcdLit];
 }
 

@@ -38,16 +38,31 @@ std::vector<Target> orvwinFields() {
 }
 
 std::vector<Target> orvwin1Fields() {
-  return {&Settings::mixerPath,     Kept{12, false}, &Settings::wallpaperMode, &Settings::wallpaperColor,
-          &Settings::wallpaperFile, &Settings::wallpaperOption, Kept{13, false}, Kept{14, false},
-          &Settings::editorFromFaceplate, &Settings::soundMode};
+  return {&Settings::mixerPath,       Kept{12, false}, &Settings::wallpaperMode, &Settings::wallpaperColor,      &Settings::wallpaperFile,
+          &Settings::wallpaperOption, Kept{13, false}, Kept{14, false},          &Settings::editorFromFaceplate, &Settings::soundMode};
 }
 
 std::vector<Target> orvwin4Fields() {
-  return {Kept{15, false}, Kept{16, true}, &Settings::lyricsSite, Kept{17, false}, &Settings::soundsOff, &Settings::minToTray,
-          Kept{18, false}, &Settings::browserPath, Kept{19, true}, Kept{20, true}, &Settings::faceplateBorder,
-          &Settings::faceplateBitmap, &Settings::faceplateBitmapOn, &Settings::noLcdFont, AlwaysEmpty{true}, &Settings::showLights,
-          &Settings::lcdCustom, &Settings::lcdFore, &Settings::lcdBack, Kept{21, false}};
+  return {Kept{15, false},
+          Kept{16, true},
+          &Settings::lyricsSite,
+          Kept{17, false},
+          &Settings::soundsOff,
+          &Settings::minToTray,
+          Kept{18, false},
+          &Settings::browserPath,
+          Kept{19, true},
+          Kept{20, true},
+          &Settings::faceplateBorder,
+          &Settings::faceplateBitmap,
+          &Settings::faceplateBitmapOn,
+          &Settings::noLcdFont,
+          AlwaysEmpty{true},
+          &Settings::showLights,
+          &Settings::lcdCustom,
+          &Settings::lcdFore,
+          &Settings::lcdBack,
+          Kept{21, false}};
 }
 
 std::vector<Target> orvwin7Fields() {
@@ -265,7 +280,8 @@ Settings defaultSettings(const std::string& appDir, const std::string& drive) {
 
 bool writeMissingSettings(Files& files, const Settings& settings) {
   bool all = files.makeFolder(joinPath(settings.appDir, "datacd"));
-  for (const auto file : {SettingsFile::Orvwin1, SettingsFile::Orvwin3, SettingsFile::Orvwin4, SettingsFile::Orvwin7, SettingsFile::SettingsDat}) {
+  for (const auto file :
+       {SettingsFile::Orvwin1, SettingsFile::Orvwin3, SettingsFile::Orvwin4, SettingsFile::Orvwin7, SettingsFile::SettingsDat}) {
     if (!files.exists(joinPath(settings.appDir, fileName(file)))) all = writeSettings(file, files, settings.appDir, settings) && all;
   }
   return all;

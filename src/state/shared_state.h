@@ -20,10 +20,10 @@ constexpr int16_t kOn = 1;
 
 /// The disc in the drive and its texts. Tables are by track number, from 1.
 struct DiscState {
-  int16_t trackCount = 0;  ///< 0 with no disc or the drawer open
-  int16_t lampCount = 0;   ///< trackCount, at most 20: there are twenty lamps and number keys
-  std::array<std::string, 102> trackLengths;   ///< "m:ss"; filled on the first tick after the load
-  std::array<int32_t, 101> trackFrames{};      ///< [0]: start of the disc in frames; [t]: frames part of t's length
+  int16_t trackCount = 0;                     ///< 0 with no disc or the drawer open
+  int16_t lampCount = 0;                      ///< trackCount, at most 20: there are twenty lamps and number keys
+  std::array<std::string, 102> trackLengths;  ///< "m:ss"; filled on the first tick after the load
+  std::array<int32_t, 101> trackFrames{};     ///< [0]: start of the disc in frames; [t]: frames part of t's length
   std::array<std::string, 101> trackTitles;
   std::string discArtist;
   std::string discTitle;
@@ -39,26 +39,26 @@ struct DiscState {
   int16_t timeCorrection = 0;  ///< seconds, -3 to 5, kept per disc
   int16_t trackTableDone = kOff;
   int16_t enhancedCd = kOff;
-  std::string linerNotes;                   ///< may hold line breaks
-  std::array<std::string, 6> discInfo;      ///< [1] time list, [2] track count, [3] composer, [4] label, [5] genre
-  std::array<std::string, 76> extraInfo;    ///< the extended fields; [13]..[62] are the lyrics of tracks 1 to 50
-  std::array<std::string, 51> lyricsHigh;   ///< [1]..[50]: lyrics of tracks 51 to 100
-  int16_t clearDiscRequest = kOff;  ///< the clock clears the disc's texts
+  std::string linerNotes;                  ///< may hold line breaks
+  std::array<std::string, 6> discInfo;     ///< [1] time list, [2] track count, [3] composer, [4] label, [5] genre
+  std::array<std::string, 76> extraInfo;   ///< the extended fields; [13]..[62] are the lyrics of tracks 1 to 50
+  std::array<std::string, 51> lyricsHigh;  ///< [1]..[50]: lyrics of tracks 51 to 100
+  int16_t clearDiscRequest = kOff;         ///< the clock clears the disc's texts
 };
 
 struct TransportState {
-  int16_t curTrack = 0;      ///< 0 after the end of the disc; may pass trackCount by one for a tick
-  int16_t deviceTrack = 0;   ///< as the device last reported
-  int16_t selTrack = 0;      ///< zero-based target of a jump
-  int16_t playMode = Cont;   ///< PlayMode; shuffle runs as Pgm, Intro as Cont with introTrack above 0
+  int16_t curTrack = 0;     ///< 0 after the end of the disc; may pass trackCount by one for a tick
+  int16_t deviceTrack = 0;  ///< as the device last reported
+  int16_t selTrack = 0;     ///< zero-based target of a jump
+  int16_t playMode = Cont;  ///< PlayMode; shuffle runs as Pgm, Intro as Cont with introTrack above 0
   int16_t playingFlag = kOff;
-  int16_t pausedFlag = kOff;  ///< never both; both off when stopped
-  int32_t pausePosition = 0;  ///< device position at pause; not 0: play must resume
-  int16_t playEnded = kOff;   ///< after the end of program or disc: next does nothing until play
-  int16_t trackGo = 0;        ///< 1 running; 0 track's end reached in Pgm or One; 99 on entering One
-  int16_t scanCount = 0;      ///< ticks of a scan, below 0 backwards
+  int16_t pausedFlag = kOff;   ///< never both; both off when stopped
+  int32_t pausePosition = 0;   ///< device position at pause; not 0: play must resume
+  int16_t playEnded = kOff;    ///< after the end of program or disc: next does nothing until play
+  int16_t trackGo = 0;         ///< 1 running; 0 track's end reached in Pgm or One; 99 on entering One
+  int16_t scanCount = 0;       ///< ticks of a scan, below 0 backwards
   double lastAdvanceTime = 0;  ///< seconds since midnight of the last automatic advance in Cont
-  double abPointA = 0;        ///< place on the bar, in twips, of the loop's start; 0 not set
+  double abPointA = 0;         ///< place on the bar, in twips, of the loop's start; 0 not set
   double abPointB = 0;
   int16_t abTrack = 0;
   int16_t introTrack = 0;
@@ -75,12 +75,12 @@ struct ProgramState {
 
 struct DisplayState {
   double elapsedSec = 0;
-  int16_t nearEndSec = 0;      ///< track length in seconds less 5; 4 more on the last lamp's track in Cont
-  int16_t lastShownSec = 0;    ///< with lastShownTrack 0: the next display is taken as it comes
+  int16_t nearEndSec = 0;    ///< track length in seconds less 5; 4 more on the last lamp's track in Cont
+  int16_t lastShownSec = 0;  ///< with lastShownTrack 0: the next display is taken as it comes
   int16_t lastShownTrack = 0;
   int16_t holdTrackLabel = kOff;  ///< right after a jump: the clock leaves the track label alone once
-  int16_t positionKnown = kOff;  ///< the faceplate stands where the user put it
-  int16_t quietOnce = kOff;      ///< no interface sound for now
+  int16_t positionKnown = kOff;   ///< the faceplate stands where the user put it
+  int16_t quietOnce = kOff;       ///< no interface sound for now
   int16_t popupOpen = kOff;
   int16_t popupLayout = 0;
 };
@@ -103,9 +103,9 @@ struct VolumeState {
 
 /// What the windows of the disc's texts share.
 struct LibraryState {
-  int16_t dataDirty = kOff;    ///< something was changed; never cleared, so every later OK saves
-  int16_t askOnCancel = kOff;  ///< a main field was changed
-  int16_t cddbMode = 0;        ///< 3: the editor saves unseen; 9: no submission
+  int16_t dataDirty = kOff;                  ///< something was changed; never cleared, so every later OK saves
+  int16_t askOnCancel = kOff;                ///< a main field was changed
+  int16_t cddbMode = 0;                      ///< 3: the editor saves unseen; 9: no submission
   std::array<std::string, 101> trackLyrics;  ///< [1]..[100]: the editor's working copy, with line breaks
   std::array<std::string, 2> userCaptions;   ///< of the two user defined fields; "" for the usual ones
 };
@@ -124,7 +124,7 @@ struct ProcessState {
   std::string systemDir;
   std::string windowsDir;
   int16_t osFamily = 1;
-  int16_t screenClass = 2;  ///< 1 below 800 pixels, 2 from 800, 3 from 1024, 4 from 1280
+  int16_t screenClass = 2;   ///< 1 below 800 pixels, 2 from 800, 3 from 1024, 4 from 1280
   int16_t smallFonts = kOn;  ///< metric variant: above 14 twips to a pixel
   int64_t colourCount = 0;
 };

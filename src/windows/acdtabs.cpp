@@ -9,8 +9,10 @@ namespace {
 
 using forms::kNoIndex;
 constexpr const char* kCorrectionText =
-    "Use this option only if this particular Audio CD either cuts off the end of the songs OR does not correctly update the song/track display "
-    "during programmed/shuffle playback. Valid entries are between -3 and 5 seconds. This correction is required only for those Audio CDs which "
+    "Use this option only if this particular Audio CD either cuts off the end of the songs OR does not correctly update the song/track "
+    "display "
+    "during programmed/shuffle playback. Valid entries are between -3 and 5 seconds. This correction is required only for those Audio CDs "
+    "which "
     "do not accurately indicate the track times or do not conform to CD standards.";
 
 // clang-format off

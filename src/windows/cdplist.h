@@ -32,7 +32,7 @@ struct cdplist : forms::Form {
   Button Command10{*this, "Command10"};  ///< delete
   Button Command1{*this, "Command1"};    ///< save
   Button Command4{*this, "Command4"};    ///< play
-  ListBox List3{*this, "List3"};  ///< never shown: the track numbers of List2, row for row
+  ListBox List3{*this, "List3"};         ///< never shown: the track numbers of List2, row for row
 
  protected:
   std::span<const forms::GridRow> grid() const override;

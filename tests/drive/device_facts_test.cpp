@@ -196,7 +196,8 @@ TEST_P(DeviceFacts, ClosedOrEmptyAnswersNothing) {
   EXPECT_EQ(command("Open"), device_error::kNoDisc);
 }
 
-INSTANTIATE_TEST_SUITE_P(Drives, DeviceFacts, testing::Bool(), [](const auto& drive) { return std::string(drive.param ? "Image" : "Simulated"); });
+INSTANTIATE_TEST_SUITE_P(Drives, DeviceFacts, testing::Bool(),
+                         [](const auto& drive) { return std::string(drive.param ? "Image" : "Simulated"); });
 
 }  // namespace
 }  // namespace orvanta::test

@@ -91,7 +91,8 @@ TEST(Player, SeeksAndSkipsDataTracks) {
   const TempFolder folder;
   writeFile(folder / "disc.bin", frameBytes(150, 400));
   writeFile(folder / "disc.cue",
-            "FILE disc.bin BINARY\nTRACK 01 AUDIO\nINDEX 01 00:00:00\nTRACK 02 MODE1/2352\nINDEX 01 00:01:25\nTRACK 03 AUDIO\nINDEX 01 00:02:50\n");
+            "FILE disc.bin BINARY\nTRACK 01 AUDIO\nINDEX 01 00:00:00\nTRACK 02 MODE1/2352\nINDEX 01 00:01:25\nTRACK 03 AUDIO\nINDEX 01 "
+            "00:02:50\n");
   Deck deck(folder.path());
   deck.player.play(200, 550);
   ASSERT_TRUE(becomes([&] { return deck.outputs.open(); }));

@@ -137,7 +137,9 @@ const std::vector<Scene>& scenes() {
       {"drawer_frame1", 15, {}, drawerAt(2)},
       {"drawer_frame2", 15, {}, drawerAt(3)},
       {"drawer_open", 15, {}, drawerAt(0)},
-      {"muted", 15, {},
+      {"muted",
+       15,
+       {},
        [](Deck& deck) {
          playSeventh(deck);
          deck.gate.enter([&] { deck.core.form.press(deck.core.form.Image2[1]); });

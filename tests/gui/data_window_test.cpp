@@ -4,10 +4,10 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QComboBox>
+#include <QDir>
 #include <QFile>
 #include <QLineEdit>
 #include <QPlainTextEdit>
-#include <QDir>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QTest>
@@ -52,7 +52,8 @@ TEST(DataWindow, TypingReachesTheDisc) {
   EXPECT_EQ(rig.editor.activeControl(), &rig.editor.addGenreKey);
   QTest::keyClick(Windows::of(rig.editor).widgetOf(rig.editor.addGenreKey), Qt::Key_Backtab, Qt::ShiftModifier);
   EXPECT_EQ(rig.editor.activeControl(), &rig.editor.cat) << "there and back by Tab";
-  rig.widget<QPlainTextEdit>(rig.editor.Text3).setPlainText(QString::fromUtf8("eins\nzwei \xE6\x97\xA5\xE6\x9C\xAC ") + QString(300, QLatin1Char('l')));
+  rig.widget<QPlainTextEdit>(rig.editor.Text3)
+      .setPlainText(QString::fromUtf8("eins\nzwei \xE6\x97\xA5\xE6\x9C\xAC ") + QString(300, QLatin1Char('l')));
   auto& rows = rig.widget<QTreeWidget>(rig.editor.List1);
   EXPECT_EQ(rows.topLevelItemCount(), 3);
   rows.setCurrentItem(rows.topLevelItem(1));
@@ -140,8 +141,8 @@ TEST(DataWindow, PrintsIntoAPdf) {
   rig.editor.List2.set(1, "2:\tWords of the second");
   const QString path = QDir::temp().filePath(QStringLiteral("orvanta-print-test.pdf"));
   PdfPrinter printer(rig.gate, path);
-  Ports ports{rig.device,    rig.tray,  rig.clock,  rig.dialogs, rig.files, rig.processes, rig.screen, rig.system,
-              rig.auxVolume, rig.mixer, rig.sounds, printer,     rig.qtDesktop};
+  Ports ports{rig.device, rig.tray,      rig.clock, rig.dialogs, rig.files, rig.processes, rig.screen,
+              rig.system, rig.auxVolume, rig.mixer, rig.sounds,  printer,   rig.qtDesktop};
   RecordPrint(ports, rig.editor, rig.core.state).run();
   QProcess text;
   text.start(QStringLiteral("pdftotext"), {QStringLiteral("-layout"), path, QStringLiteral("-")});

@@ -13,7 +13,8 @@ namespace orvanta::test {
 
 struct Deck : CoreRig {
   /// `prepare` may change settings, disc and levels before the start.
-  explicit Deck(double factor = 1, int twips = 15, const std::function<void(Deck&)>& prepare = {}) : scale{factor, twips}, qtDesktop(gate, scale) {
+  explicit Deck(double factor = 1, int twips = 15, const std::function<void(Deck&)>& prepare = {})
+      : scale{factor, twips}, qtDesktop(gate, scale) {
     screen.twips = twips;
     player.insert(discA());
     if (prepare) prepare(*this);

@@ -60,7 +60,9 @@ TEST(View, TabShowsFocusAndSpacePresses) {
 TEST(View, ScreenReadersFindEveryControl) {
   qputenv("ORVANTA_TEST_NAMES", "1");
   Deck deck;
-  const auto interfaceOf = [&](const forms::Control& control) { return QAccessible::queryAccessibleInterface(deck.window->widgetOf(control)); };
+  const auto interfaceOf = [&](const forms::Control& control) {
+    return QAccessible::queryAccessibleInterface(deck.window->widgetOf(control));
+  };
   int named = 0;
   for (const forms::Control* control : deck.core.form.controls()) {
     QAccessibleInterface* found = interfaceOf(*control);

@@ -217,7 +217,9 @@ class FakeSounds : public Sounds {
 class FakePrinter : public Printer {
  public:
   bool ask() override { return accepted; }
-  void setFont(const std::string& family, double /*points*/, bool bold) override { tape.push_back("font " + family + (bold ? " bold" : "")); }
+  void setFont(const std::string& family, double /*points*/, bool bold) override {
+    tape.push_back("font " + family + (bold ? " bold" : ""));
+  }
   void print(int column, const std::string& text) override { tape.push_back(std::to_string(column) + ": " + text); }
   void newLine() override { tape.emplace_back("/"); }
   void moveTo(int top) override { tape.push_back("at " + std::to_string(top)); }

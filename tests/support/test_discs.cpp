@@ -109,7 +109,8 @@ std::string makeDisc(const TempFolder& folder, const std::vector<int>& lengths, 
 std::string makeEnhancedDisc(const TempFolder& folder, const std::vector<int>& lengths, const std::string& file) {
   const int audio = total(lengths);
   writeFile(folder / "disc.bin", frameBytes(kFirstFrame, audio) + isoSectors(audio, file));
-  const std::string data = "  TRACK " + padded(static_cast<long>(lengths.size()) + 1, 2) + " MODE1/2352\n    INDEX 01 " + cueTime(audio) + "\n";
+  const std::string data =
+      "  TRACK " + padded(static_cast<long>(lengths.size()) + 1, 2) + " MODE1/2352\n    INDEX 01 " + cueTime(audio) + "\n";
   writeFile(folder / "disc.cue", "FILE \"disc.bin\" BINARY\n" + trackLines(lengths, 0) + data);
   return folder / "disc.cue";
 }
@@ -121,7 +122,8 @@ std::string makeSoundDisc(const TempFolder& folder, const std::vector<int>& leng
   info.format = (flac ? SF_FORMAT_FLAC : SF_FORMAT_WAV) | SF_FORMAT_PCM_16;
   const std::string name = flac ? "disc.flac" : "disc.wav";
   SNDFILE* file = sf_open((folder / name).c_str(), SFM_WRITE, &info);
-  for (int frame = kFirstFrame; frame < kFirstFrame + total(lengths); ++frame) sf_writef_short(file, frameSamples(frame).data(), kSamplesPerFrame);
+  for (int frame = kFirstFrame; frame < kFirstFrame + total(lengths); ++frame)
+    sf_writef_short(file, frameSamples(frame).data(), kSamplesPerFrame);
   sf_close(file);
   writeFile(folder / "disc.cue", "FILE \"" + name + "\" WAVE\r\n" + trackLines(lengths, 0));
   return folder / "disc.cue";

@@ -40,7 +40,7 @@ class VirtualClock : public Clock {
     now_ = std::max(now_, target);
   }
 
-  double startOfDay = 36000;  ///< seconds since midnight at the clock's zero
+  double startOfDay = 36000;      ///< seconds since midnight at the clock's zero
   std::function<void()> onDelay;  ///< at each pause, before it
 
  private:

@@ -10,8 +10,9 @@ namespace orvanta {
 namespace {
 
 TEST(Text, ReadsLeadingNumbers) {
-  const std::pair<const char*, double> cases[] = {{"4:18", 4},  {"  12abc", 12}, {"-3", -3}, {"+7", 7},  {"2.5x", 2.5}, {"", 0},
-                                                  {"inf", 0},   {"nan", 0},      {"x1", 0},  {"0:45", 0}, {"-", 0},      {"99999999999999999999", 1e20}};
+  const std::pair<const char*, double> cases[] = {{"4:18", 4},   {"  12abc", 12}, {"-3", -3}, {"+7", 7},
+                                                  {"2.5x", 2.5}, {"", 0},         {"inf", 0}, {"nan", 0},
+                                                  {"x1", 0},     {"0:45", 0},     {"-", 0},   {"99999999999999999999", 1e20}};
   for (const auto& [text, value] : cases) EXPECT_DOUBLE_EQ(leadingNumber(text), value) << text;
 }
 
@@ -36,7 +37,10 @@ TEST(CodePage, KeepsWhatItKnowsAndMarksTheRest) {
   std::string expected = all;
   for (const int open : {0x81, 0x8D, 0x8F, 0x90, 0x9D}) expected[static_cast<size_t>(open - 1)] = '?';
   EXPECT_EQ(toWindows1252(text), expected);
-  EXPECT_EQ(toWindows1252("\xE2\x82\xAC \xC5\x81\xC3\xB3" "d\xC5\xBA \xE6\x97\xA5"), "\x80 L\xF3" "dz ?");
+  EXPECT_EQ(toWindows1252("\xE2\x82\xAC \xC5\x81\xC3\xB3"
+                          "d\xC5\xBA \xE6\x97\xA5"),
+            "\x80 L\xF3"
+            "dz ?");
   for (const char* broken : {"\xC3", "\xC0\x80", "\xED\xA0\x80", "\xF8\x88\x80\x80\x80", "\x80", "\xF4\x90\x80\x80"}) {
     EXPECT_FALSE(isUtf8(broken));
     EXPECT_NE(toWindows1252(broken).find('?'), std::string::npos);
@@ -59,10 +63,14 @@ TEST(FieldFile, ReadsWhatHandsAndProgramsWrite) {
   EXPECT_EQ(valuesOf("caf\xE9\r\n"), (Values{"caf\xC3\xA9"}));
   EXPECT_EQ(valuesOf(""), Values{});
   FieldWriter writer;
-  writer.text("Stra\xC3\x9F" "e");
+  writer.text(
+      "Stra\xC3\x9F"
+      "e");
   writer.number(-3);
   writer.empty();
-  EXPECT_EQ(writer.bytes(), "\"Stra\xDF" "e\"\r\n-3\r\n\r\n");
+  EXPECT_EQ(writer.bytes(),
+            "\"Stra\xDF"
+            "e\"\r\n-3\r\n\r\n");
 }
 
 }  // namespace

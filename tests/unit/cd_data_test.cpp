@@ -100,10 +100,12 @@ TEST(CdData, ADiscTypedByKeysAlone) {
   EXPECT_FALSE(rig.window.loaded());
   EXPECT_EQ(rig.form.Label12.caption.get(), "Artist, \"The\" - Title");
 
-  EXPECT_EQ(rig.file(""), quoted({"Title", "Artist~ `The`", "First line\r\nsecond"}) + quoted({std::string(60, 'x').c_str(), "Two three", "\xC9t\xE9 ?"}) +
-                              blanks(42) + quoted({"13:29,4:06,4:58,4:25,", "3", "Composer", "Label", "Jazz"}));
+  EXPECT_EQ(rig.file(""), quoted({"Title", "Artist~ `The`", "First line\r\nsecond"}) +
+                              quoted({std::string(60, 'x').c_str(), "Two three", "\xC9t\xE9 ?"}) + blanks(42) +
+                              quoted({"13:29,4:06,4:58,4:25,", "3", "Composer", "Label", "Jazz"}));
   EXPECT_EQ(rig.file("1"), blanks(42) + "0\r\n");
-  EXPECT_EQ(rig.file("3"), quoted({"14.99", "LP", "1997"}) + blanks(11) + quoted({"Line one\r\nLine two"}) + blanks(50) + quoted({"12"}) + blanks(10));
+  EXPECT_EQ(rig.file("3"),
+            quoted({"14.99", "LP", "1997"}) + blanks(11) + quoted({"Line one\r\nLine two"}) + blanks(50) + quoted({"12"}) + blanks(10));
   EXPECT_EQ(rig.file("4"), "(none)");
 
   // Read back as it was typed, in any script.
@@ -123,8 +125,15 @@ TEST(CdData, CancelAsksOnlyForTheMainFields) {
     const char* field;
     bool asks;
   };
-  for (const Case& c : std::initializer_list<Case>{{"Text2", true}, {"Text4", true}, {"Text7", true}, {"Text18", true}, {"cat", true},
-                                                   {"reccode", true}, {"Text10", false}, {"Text6", false}, {"mediatype", false}}) {
+  for (const Case& c : std::initializer_list<Case>{{"Text2", true},
+                                                   {"Text4", true},
+                                                   {"Text7", true},
+                                                   {"Text18", true},
+                                                   {"cat", true},
+                                                   {"reccode", true},
+                                                   {"Text10", false},
+                                                   {"Text6", false},
+                                                   {"mediatype", false}}) {
     Editor rig;
     forms::Control& field = *rig.window.find(c.field);
     rig.gate.enter([&] { rig.window.userText(field, "changed"); });
@@ -315,14 +324,16 @@ TEST(CdData, ThePrintInItsColumns) {
   const auto has = [&](std::initializer_list<const char*> lines) {
     return std::search(tape.begin(), tape.end(), lines.begin(), lines.end()) != tape.end();
   };
-  EXPECT_TRUE(has({"/", "font MS Sans Serif bold", "/", "45: Orvanta Music Library [19443766.CD]", "/", "/", "font MS Sans Serif", "at 1100"}));
+  EXPECT_TRUE(
+      has({"/", "font MS Sans Serif bold", "/", "45: Orvanta Music Library [19443766.CD]", "/", "/", "font MS Sans Serif", "at 1100"}));
   EXPECT_TRUE(has({"5: ARTIST:", "47: Artist", "/", "5: TITLE:", "47: ", "/", "5: GENRE:"}));
   EXPECT_TRUE(has({"5: LABEL / CATALOG #:"}));
   EXPECT_FALSE(has({"5: RECORDING CODE:"}));
   EXPECT_TRUE(has({"5: LINER NOTES: ", "/", ("5: " + std::string(74, 'n')).c_str()}));
   EXPECT_TRUE(has({"5: # of TRACKS:", "23: 3", "/", "5: TOTAL TIME:", "23: 13:29"}));
   EXPECT_TRUE(has({"7: 2", "23: ", "93: 4:58"}));
-  EXPECT_TRUE(has({"7: 1", ("23: " + std::string(100, 'w')).c_str(), "/", "23: ", "/"})) << "a whole number of slices ends in an empty line";
+  EXPECT_TRUE(has({"7: 1", ("23: " + std::string(100, 'w')).c_str(), "/", "23: ", "/"}))
+      << "a whole number of slices ends in an empty line";
   EXPECT_EQ(tape.back(), "end");
   rig.printer.tape.clear();
   rig.printer.accepted = false;

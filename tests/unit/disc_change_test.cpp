@@ -186,9 +186,10 @@ TEST(CommandWords, TellTheStartWhatToDo) {
     bool minimised;
   };
   for (const auto& [words, track, mode, minimised] :
-       {Case{"", "3", DeviceMode::Stopped, false}, Case{"AUDIOCD", "3", DeviceMode::Stopped, false}, Case{"D:\\TRACK02.CDA", "2", DeviceMode::Playing, false},
-        Case{"/media/Track03.cda", "3", DeviceMode::Playing, false}, Case{"D:\\TRACK09.CDA", "3", DeviceMode::Stopped, false},
-        Case{"orvlite", "1", DeviceMode::Playing, true}, Case{"/no/such.exe", "3", DeviceMode::Stopped, false}}) {
+       {Case{"", "3", DeviceMode::Stopped, false}, Case{"AUDIOCD", "3", DeviceMode::Stopped, false},
+        Case{"D:\\TRACK02.CDA", "2", DeviceMode::Playing, false}, Case{"/media/Track03.cda", "3", DeviceMode::Playing, false},
+        Case{"D:\\TRACK09.CDA", "3", DeviceMode::Stopped, false}, Case{"orvlite", "1", DeviceMode::Playing, true},
+        Case{"/no/such.exe", "3", DeviceMode::Stopped, false}}) {
     CoreRig rig;
     rig.install();
     rig.player.insert(discB());

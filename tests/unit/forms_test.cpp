@@ -12,7 +12,10 @@ namespace {
 using namespace forms;
 
 constexpr DesignRow row(const char* name, int index, int z, Place place, const char* caption, bool tabStop, const char* parent = "Little") {
-  return {name, index, parent, z, place, {place.left * 2, place.top, place.width, place.height}, caption, 0, 0, "Arial", 8, false, true, Align::Left, false, tabStop, false, "", "", ""};
+  return {name,    index,       parent, z,       place, {place.left * 2, place.top, place.width, place.height},
+          caption, 0,           0,      "Arial", 8,     false,
+          true,    Align::Left, false,  tabStop, false, "",
+          "",      ""};
 }
 
 struct Little : Form {
@@ -22,9 +25,12 @@ struct Little : Form {
   Panel box{*this, "box"};
   Bar bar{*this, "bar"};
   std::span<const DesignRow> design() const override {
-    static constexpr DesignRow kRows[] = {row("Little", -1, 0, {0, 0, 1000, 500}, "A little form", false), row("bar", -1, 1, {0, 0, 100, 10}, "", true, "box"),
-                                          row("title", -1, 1, {10, 10, 100, 20}, "Hello", false), row("keys", 2, 1, {300, 0, 90, 90}, "", true),
-                                          row("keys", 0, 1, {100, 0, 90, 90}, "", true), row("keys", 1, 1, {200, 0, 90, 90}, "", true),
+    static constexpr DesignRow kRows[] = {row("Little", -1, 0, {0, 0, 1000, 500}, "A little form", false),
+                                          row("bar", -1, 1, {0, 0, 100, 10}, "", true, "box"),
+                                          row("title", -1, 1, {10, 10, 100, 20}, "Hello", false),
+                                          row("keys", 2, 1, {300, 0, 90, 90}, "", true),
+                                          row("keys", 0, 1, {100, 0, 90, 90}, "", true),
+                                          row("keys", 1, 1, {200, 0, 90, 90}, "", true),
                                           row("box", -1, 0, {0, 200, 500, 100}, "", false)};
     return kRows;
   }

@@ -53,7 +53,8 @@ TEST(DiscImage, LaysSeveralFilesGapsAndSwappedBytesEndToEnd) {
   writeFile(folder / "two.raw", swapped + "odd");
   // Any letter case, CR LF, a byte order mark, Windows-1252 text, names without quotes, PREGAP.
   writeFile(folder / "disc.cue",
-            "\xEF\xBB\xBFrem made by hand\r\ntitle \"Caf\xE9\"\r\nfile one part.bin binary\r\n track 01 audio\r\n  flags dcp\r\n  index 01 00:00:00\r\n"
+            "\xEF\xBB\xBFrem made by hand\r\ntitle \"Caf\xE9\"\r\nfile one part.bin binary\r\n track 01 audio\r\n  flags dcp\r\n  index 01 "
+            "00:00:00\r\n"
             " track 02 audio\r\n  index 00 00:00:60\r\n  index 01 00:01:00\r\nFILE \"TWO.RAW\" MOTOROLA\r\n TRACK 03 AUDIO\r\n"
             "  INDEX 01 00:00:00\r\n TRACK 04 AUDIO\r\n  PREGAP 00:00:30\r\n  INDEX 01 00:00:40\r\n  POSTGAP 00:00:05\r\n");
   std::string error;
@@ -119,8 +120,9 @@ TEST(DiscImage, RefusesFilesThatAreNotItsOwn) {
   writeFile(folder / "empty.bin", "");
   writeFile(folder / "sliver.bin", std::string(2351, 'x'));
   const std::string up = "../" + std::filesystem::path(outside.path()).filename().string() + "/far.bin";
-  for (const std::string& name : {std::string("missing.bin"), std::string("folder.bin"), std::string("pipe.bin"), std::string("link.bin"), std::string("empty.bin"),
-                                  std::string("sliver.bin"), up, outside / "far.bin", std::string("C:\\far.bin"), std::string()}) {
+  for (const std::string& name :
+       {std::string("missing.bin"), std::string("folder.bin"), std::string("pipe.bin"), std::string("link.bin"), std::string("empty.bin"),
+        std::string("sliver.bin"), up, outside / "far.bin", std::string("C:\\far.bin"), std::string()}) {
     for (const char* type : {"BINARY", "WAVE"}) {
       writeFile(folder / "bad.cue", "FILE \"" + name + "\" " + type + "\nTRACK 01 AUDIO\nINDEX 01 00:00:00\n");
       EXPECT_NE(errorOf(folder / "bad.cue"), "") << name;

@@ -46,17 +46,19 @@ struct Variant {
   bool small;
   bool expanded;
 };
-constexpr Variant kVariants[] = {{"large", 15, false, false}, {"large0", 12, false, false}, {"expanded", 15, false, true},
-                                 {"expanded0", 12, false, true}, {"small", 15, true, false}, {"small0", 12, true, false}};
+constexpr Variant kVariants[] = {{"large", 15, false, false},    {"large0", 12, false, false}, {"expanded", 15, false, true},
+                                 {"expanded0", 12, false, true}, {"small", 15, true, false},   {"small0", 12, true, false}};
 
 /// What the table says of a place; "" when it says nothing.
 std::string wanted(const Row& row, const std::string& edge, const Variant& variant) {
   const std::string fine = variant.twips == 12 ? "0" : "";
   const bool wide = variant.small || variant.expanded;
   const bool inPane = row.at("parent") != "CDForm";
-  if (variant.small && (edge == "left" || edge == "top") && !row.at("small" + fine + "_left").empty()) return row.at("small" + fine + "_" + edge);
+  if (variant.small && (edge == "left" || edge == "top") && !row.at("small" + fine + "_left").empty())
+    return row.at("small" + fine + "_" + edge);
   // The table has no heights of its own for the small faceplate at 12 twips: they are the large one's.
-  if (variant.small && (edge == "width" || edge == "height") && !row.at("small_width").empty() && (fine.empty() || row.at("name") != "icntlb")) {
+  if (variant.small && (edge == "width" || edge == "height") && !row.at("small_width").empty() &&
+      (fine.empty() || row.at("name") != "icntlb")) {
     return fine == "0" && edge == "height" && row.at("name") == "Panel3D1" ? row.at("height0") : row.at("small_" + edge);
   }
   if (wide && edge == "left" && !row.at("exp_left").empty() && (variant.expanded || inPane)) {
@@ -153,7 +155,9 @@ TEST(Layout, TitleLinesMakeRoomForALongOne) {
 TEST(Layout, KeysGiveWayAndComeBack) {
   CoreRig rig;
   rig.startWith(discA());
-  const auto hold = [&](forms::Control& control) { rig.gate.enter([&] { rig.form.mouseDown(&control, {forms::MouseButton::Left, 100, 100}); }); };
+  const auto hold = [&](forms::Control& control) {
+    rig.gate.enter([&] { rig.form.mouseDown(&control, {forms::MouseButton::Left, 100, 100}); });
+  };
   const auto letGo = [&] { rig.gate.enter([&] { rig.form.mouseUp({forms::MouseButton::Left, 100, 100}); }); };
   hold(rig.form.Image2[1]);
   EXPECT_EQ(rig.form.Image2[1].left, 730);

@@ -122,7 +122,8 @@ TEST(Program, IsRecalledFromTheDiscsFile) {
   EXPECT_EQ(rig.form.Label40.foreColor, colours::kBlack);
   rig.press(rig.form.Label30);
   EXPECT_EQ(unpackTmsf(rig.device.position()).track, 3);
-  EXPECT_EQ(std::vector<int16_t>(rig.state.program.pgmList.begin() + 1, rig.state.program.pgmList.begin() + 6), (std::vector<int16_t>{3, 1, 0, 2, 0}))
+  EXPECT_EQ(std::vector<int16_t>(rig.state.program.pgmList.begin() + 1, rig.state.program.pgmList.begin() + 6),
+            (std::vector<int16_t>{3, 1, 0, 2, 0}))
       << "what the disc does not have ends the list";
   EXPECT_TRUE(rig.form.icntlc[Play].visible);
 }
@@ -242,8 +243,9 @@ TEST(Display, TimeModesInOneAndPgm) {
     TimeMode time;
     const char* at10;
   };
-  for (const auto& [mode, time, text] : {Case{OneKey, Time, "0:10"}, Case{OneKey, Rem, "-2:50"}, Case{OneKey, Total, "00:10"}, Case{OneKey, TotRem, "-2:50"},
-                                         Case{PgmKey, Time, "0:10"}, Case{PgmKey, Rem, "-2:50"}, Case{PgmKey, Total, "00:10"}, Case{PgmKey, TotRem, "-10:50"}}) {
+  for (const auto& [mode, time, text] :
+       {Case{OneKey, Time, "0:10"}, Case{OneKey, Rem, "-2:50"}, Case{OneKey, Total, "00:10"}, Case{OneKey, TotRem, "-2:50"},
+        Case{PgmKey, Time, "0:10"}, Case{PgmKey, Rem, "-2:50"}, Case{PgmKey, Total, "00:10"}, Case{PgmKey, TotRem, "-10:50"}}) {
     ModeRig rig;
     rig.state.settings.timeMode = time;
     if (mode == PgmKey) {

@@ -35,9 +35,9 @@ TEST(Display, Time) {
     const char* tick;
     const char* track;
   };
-  for (const auto& [second, status, tick, track] : {Case{1, "0:01", "0:01", "1"}, Case{175, "2:55", "2:55", "1"}, Case{179, "2:59", "2:59", "1"},
-                                                    Case{180, "3:00", "0:00", "2"}, Case{181, "0:01", "0:01", "2"}, Case{420, "4:00", "0:00", "3"},
-                                                    Case{658, "3:58", "", "0"}, Case{659, "", "", "0"}}) {
+  for (const auto& [second, status, tick, track] :
+       {Case{1, "0:01", "0:01", "1"}, Case{175, "2:55", "2:55", "1"}, Case{179, "2:59", "2:59", "1"}, Case{180, "3:00", "0:00", "2"},
+        Case{181, "0:01", "0:01", "2"}, Case{420, "4:00", "0:00", "3"}, Case{658, "3:58", "", "0"}, Case{659, "", "", "0"}}) {
     deck.at(second);
     EXPECT_EQ(deck.time(), status) << second;
     if (second == 175) {
@@ -107,8 +107,11 @@ TEST(Disc, EndsInEverySize) {
   };
   std::vector<int> many;
   for (int i = 0; i < 24; ++i) many.push_back(150 + i * 75 * 30);
-  const Case cases[] = {{"A", discA(), 811}, {"24 tracks", tocOf(many, 150 + 24 * 75 * 30), 722}, {"one short track", tocOf({150}, 150 + 75 * 12), 13},
-                        {"tracks under 8 s", tocOf({150, 150 + 375, 150 + 750}, 150 + 1125), 17, "2"}, {"a long track", tocOf({150, 150 + 75 * 4000}, 150 + 75 * 4100), 4102}};
+  const Case cases[] = {{"A", discA(), 811},
+                        {"24 tracks", tocOf(many, 150 + 24 * 75 * 30), 722},
+                        {"one short track", tocOf({150}, 150 + 75 * 12), 13},
+                        {"tracks under 8 s", tocOf({150, 150 + 375, 150 + 750}, 150 + 1125), 17, "2"},
+                        {"a long track", tocOf({150, 150 + 75 * 4000}, 150 + 75 * 4100), 4102}};
   for (const auto& [name, toc, seconds, again] : cases) {
     CoreRig rig;
     rig.clock.startOfDay = 86300;  // midnight passes while it plays

@@ -145,10 +145,32 @@ TEST(CdInfo, ShowsEverythingAndPlaysATrack) {
     for (int row = 0; row < window.List1.count(); ++row) all.push_back(window.List1.row(row));
     return all;
   };
-  EXPECT_EQ(rows(), (std::vector<std::string>{"1:\t\t3:00", "2:\tSecond\t4:00", "3:\t\t3:59", "", "LINER NOTES:", "short", "lines", "", "TOTAL DISC TIME:  10:59",
-                                              "", "GENRE:  Jazz", "", "CATALOG #:  C,1", "", "MEDIA TYPE:  Audio CD", "", "USER DEFINED 1:", "own",
-                                              "Orvanta Catalog #:  19459115", "", "TRACK LYRICS / INFORMATION:", "1:\t" + std::string(73, 'a'), "",
-                                              "TRACK 2:  [Second]", std::string(74, 'b'), "caf"}));
+  EXPECT_EQ(rows(), (std::vector<std::string>{"1:\t\t3:00",
+                                              "2:\tSecond\t4:00",
+                                              "3:\t\t3:59",
+                                              "",
+                                              "LINER NOTES:",
+                                              "short",
+                                              "lines",
+                                              "",
+                                              "TOTAL DISC TIME:  10:59",
+                                              "",
+                                              "GENRE:  Jazz",
+                                              "",
+                                              "CATALOG #:  C,1",
+                                              "",
+                                              "MEDIA TYPE:  Audio CD",
+                                              "",
+                                              "USER DEFINED 1:",
+                                              "own",
+                                              "Orvanta Catalog #:  19459115",
+                                              "",
+                                              "TRACK LYRICS / INFORMATION:",
+                                              "1:\t" + std::string(73, 'a'),
+                                              "",
+                                              "TRACK 2:  [Second]",
+                                              std::string(74, 'b'),
+                                              "caf"}));
   EXPECT_EQ(window.caption.get(), "CD Info  [Artist - Title]");
   disc.linerNotes = std::string(80, 'n') + "\r\nend";
   EXPECT_EQ(rows()[5], std::string(74, 'n')) << "a line that is too long: all are wrapped";

@@ -76,11 +76,15 @@ TEST_F(Records, WritesCompanionsByTheirRules) {
 
 TEST_F(Records, KeepsAnyScriptBesideTheFamily) {
   disc.discTitle = "\xE6\x97\xA5\xE6\x9C\xAC, ~\n\ttab\\";
-  disc.discArtist = "\xC5\x81\xC3\xB3" "d\xC5\xBA";
+  disc.discArtist =
+      "\xC5\x81\xC3\xB3"
+      "d\xC5\xBA";
   disc.extraInfo[13] = "\xD0\x96, \xD0\x96";
   disc.extraInfo[1] = "Audio CD";
   for (int saves = 0; saves < 2; ++saves) records.writeCdRecord();
-  EXPECT_NE(file("").find("\"L\xF3" "dz\""), std::string::npos);
+  EXPECT_NE(file("").find("\"L\xF3"
+                          "dz\""),
+            std::string::npos);
   const std::string title = disc.discTitle;
   const std::string artist = disc.discArtist;
   fresh();
@@ -90,7 +94,9 @@ TEST_F(Records, KeepsAnyScriptBesideTheFamily) {
   EXPECT_EQ(disc.extraInfo[13], "\xD0\x96, \xD0\x96");
   // Another program of the family changes the artist: that wins over what we kept.
   std::string& main = files.files["/DATA/DATACD/00012345.CD"];
-  main.replace(main.find("L\xF3" "dz"), 4, "Lima");
+  main.replace(main.find("L\xF3"
+                         "dz"),
+               4, "Lima");
   fresh();
   records.readCdRecord();
   EXPECT_EQ(disc.discArtist, "Lima");

@@ -7,7 +7,8 @@
 namespace orvanta::test {
 namespace {
 
-constexpr SettingsFile kAll[] = {SettingsFile::Orvwin, SettingsFile::Orvwin1, SettingsFile::Orvwin3, SettingsFile::Orvwin4, SettingsFile::Orvwin7, SettingsFile::SettingsDat};
+constexpr SettingsFile kAll[] = {SettingsFile::Orvwin,  SettingsFile::Orvwin1, SettingsFile::Orvwin3,
+                                 SettingsFile::Orvwin4, SettingsFile::Orvwin7, SettingsFile::SettingsDat};
 
 /// A file with a different value in each of its lines.
 std::string numbered(int lines, int gap = 0, int gap2 = 0) {

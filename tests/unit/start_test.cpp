@@ -17,11 +17,12 @@ TEST(CommandLineWords, AreSortedByTheirEnding) {
     const char* word;
     int track;
   };
-  for (const auto& [line, kind, word, track] : {Case{"", Kind::Plain, "", 0}, Case{"play", Kind::Plain, "", 0}, Case{"RunRipper ", Kind::Word, "RUNRIPPER", 0},
-                                                Case{"orvlite", Kind::Word, "ORVLITE", 0}, Case{"audiocd", Kind::Word, "AUDIOCD", 0},
-                                                Case{"D:\\Track05.cda", Kind::TrackFile, "AUDIOCD1", 5}, Case{"/media/cd/Track12.cda", Kind::TrackFile, "AUDIOCD1", 12},
-                                                Case{"D:\\FOLDER\\TRACK09.CDA", Kind::TrackFile, "AUDIOCD1", 9}, Case{"D:\\X.CDA", Kind::TrackFile, "AUDIOCD1", 0},
-                                                Case{"tool.exe", Kind::Program, "", 0}}) {
+  for (const auto& [line, kind, word, track] :
+       {Case{"", Kind::Plain, "", 0}, Case{"play", Kind::Plain, "", 0}, Case{"RunRipper ", Kind::Word, "RUNRIPPER", 0},
+        Case{"orvlite", Kind::Word, "ORVLITE", 0}, Case{"audiocd", Kind::Word, "AUDIOCD", 0},
+        Case{"D:\\Track05.cda", Kind::TrackFile, "AUDIOCD1", 5}, Case{"/media/cd/Track12.cda", Kind::TrackFile, "AUDIOCD1", 12},
+        Case{"D:\\FOLDER\\TRACK09.CDA", Kind::TrackFile, "AUDIOCD1", 9}, Case{"D:\\X.CDA", Kind::TrackFile, "AUDIOCD1", 0},
+        Case{"tool.exe", Kind::Program, "", 0}}) {
     const CommandLine found = classify(line);
     EXPECT_EQ(found.kind, kind) << line;
     EXPECT_EQ(found.word, word) << line;
@@ -30,7 +31,8 @@ TEST(CommandLineWords, AreSortedByTheirEnding) {
 }
 
 TEST(Options, StandBeforeTheWords) {
-  const Options options = readOptions({"--data", "here", "--audio=file:x.wav", "--scale", "1.5", "--disc", "/a/b.cue", "TRACK05.CDA", "--data"}, "/cur");
+  const Options options =
+      readOptions({"--data", "here", "--audio=file:x.wav", "--scale", "1.5", "--disc", "/a/b.cue", "TRACK05.CDA", "--data"}, "/cur");
   EXPECT_EQ(options.error, "");
   EXPECT_EQ(options.host.dataDir, "/cur/here");
   EXPECT_EQ(options.audio, "file:/cur/x.wav");
@@ -144,7 +146,8 @@ TEST(Start, WithoutSettingsAsksOrSetsUp) {
   helped.files.files["/PROGRAMS/LXINIT"] = "";
   helped.start();
   EXPECT_EQ(helped.processes.tape, Tape{"/programs/lxinit /usual"});
-  EXPECT_EQ(helped.dialogs.tape, Tape{"Orvanta LX Setup Wizard: Orvanta LX setup file successfully initialized; please restart Orvanta LX."});
+  EXPECT_EQ(helped.dialogs.tape,
+            Tape{"Orvanta LX Setup Wizard: Orvanta LX setup file successfully initialized; please restart Orvanta LX."});
   EXPECT_TRUE(helped.gate.ended());
 
   for (const auto& [answers, boxes] : {std::pair{std::deque<std::optional<std::string>>{}, 1U}, {{"C"}, 1U}, {{"/x", "/y"}, 2U}}) {

@@ -69,7 +69,9 @@ std::pair<int, int> formula(int p) {
 TEST(Volume, EveryPlaceOfADrag) {
   for (const int part : {0, 1, 2}) {
     Sliders rig(0x80008000);
-    forms::Control& control = part == 0 ? static_cast<forms::Control&>(rig.form.VolumeL) : part == 1 ? rig.form.VbartopL : rig.form.VbarbtmL;
+    forms::Control& control = part == 0   ? static_cast<forms::Control&>(rig.form.VolumeL)
+                              : part == 1 ? rig.form.VbartopL
+                                          : rig.form.VbarbtmL;
     rig.down(control, 100, rig.form.ThumbL.top);  // on the thumb: nothing moves
     EXPECT_EQ(rig.percent(), part == 1 ? rig.percent() : 50);
     for (int y = 0; y <= 1300; ++y) {
@@ -187,10 +189,32 @@ TEST(Volume, TheRightButtonTakesTheSlidersAway) {
 TEST(Volume, TheMixerGetsItsKeys) {
   Sliders rig(0xFFFFFFFF, 4);
   const std::string start = "start /programs/sndvol32.exe";
-  EXPECT_EQ(rig.mixer.tape, (Tape{"close Volume Control", "close Sndvol32", start, "activate Volume Control", "{TAB}", "activate Volume Control",
-                                  "{TAB}", "{END}", "{PGUP 2}", "{UP 25}", "{TAB}", "{+}", "{-}", "close Volume Control", start,
-                                  "activate Volume Control", "{HOME}", "{RIGHT 32}", "{TAB}", "{END}", "{PGUP 2}", "{UP 25}", "{TAB}", "{+}",
-                                  "{-}", "close Volume Control"}));
+  EXPECT_EQ(rig.mixer.tape, (Tape{"close Volume Control",
+                                  "close Sndvol32",
+                                  start,
+                                  "activate Volume Control",
+                                  "{TAB}",
+                                  "activate Volume Control",
+                                  "{TAB}",
+                                  "{END}",
+                                  "{PGUP 2}",
+                                  "{UP 25}",
+                                  "{TAB}",
+                                  "{+}",
+                                  "{-}",
+                                  "close Volume Control",
+                                  start,
+                                  "activate Volume Control",
+                                  "{HOME}",
+                                  "{RIGHT 32}",
+                                  "{TAB}",
+                                  "{END}",
+                                  "{PGUP 2}",
+                                  "{UP 25}",
+                                  "{TAB}",
+                                  "{+}",
+                                  "{-}",
+                                  "close Volume Control"}));
   EXPECT_EQ(rig.percent(), 50);
   const auto dragTo = [&](int y) {
     rig.mixer.tape.clear();

@@ -50,13 +50,15 @@ void make(const std::string& scorePath, const std::filesystem::path& out) {
   std::filesystem::create_directories(out.parent_path());
   std::ofstream bin(out.string() + ".bin", std::ios::binary);
   std::ofstream cue(out.string() + ".cue");
-  cue << "TITLE \"" << score.title << "\"\nPERFORMER \"" << score.performer << "\"\nFILE \"" << out.filename().string() << ".bin\" BINARY\n";
+  cue << "TITLE \"" << score.title << "\"\nPERFORMER \"" << score.performer << "\"\nFILE \"" << out.filename().string()
+      << ".bin\" BINARY\n";
   size_t pairs = 0;
   std::vector<int> lengths;
   for (size_t i = 0; i < score.pieces.size(); ++i) {
     const auto samples = synthesise(score.pieces[i]);
     bin.write(reinterpret_cast<const char*>(samples.data()), static_cast<std::streamsize>(samples.size() * sizeof samples[0]));
-    cue << "  TRACK " << (i < 9 ? "0" : "") << i + 1 << " AUDIO\n    TITLE \"" << score.pieces[i].title << "\"\n    INDEX 01 " << cueTime(pairs) << "\n";
+    cue << "  TRACK " << (i < 9 ? "0" : "") << i + 1 << " AUDIO\n    TITLE \"" << score.pieces[i].title << "\"\n    INDEX 01 "
+        << cueTime(pairs) << "\n";
     pairs += samples.size() / 2;
     lengths.push_back(static_cast<int>(samples.size() / 2 / 588));
   }

@@ -11,9 +11,9 @@
 #include <vector>
 
 struct Note {
-  double beat = 0;    ///< from the start of the piece
+  double beat = 0;  ///< from the start of the piece
   double beats = 1;
-  double pitch = 0;   ///< semitones above A4, 440 Hz
+  double pitch = 0;  ///< semitones above A4, 440 Hz
 };
 
 struct Voice {

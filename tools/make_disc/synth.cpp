@@ -50,7 +50,8 @@ void addTone(Sound& out, size_t start, double frequency, double length, double l
     const double fade = std::exp(-1 / (partial.decay * kRate));
     double level = loudness * partial.level;
     for (size_t i = 0; i < count && start + i < out.size(); ++i, level *= fade) {
-      out[start + i] += static_cast<float>(level * envelope(static_cast<double>(i) / kRate, length, from) * std::sin(step * static_cast<double>(i)));
+      out[start + i] +=
+          static_cast<float>(level * envelope(static_cast<double>(i) / kRate, length, from) * std::sin(step * static_cast<double>(i)));
     }
   }
 }

@@ -21,10 +21,10 @@ struct Picture {
   int index;
 };
 constexpr Picture kPictures[] = {
-    {"apower1.bmp", "Image5", -1},  {"afrewa1.bmp", "scntla", 0}, {"ambtns1.bmp", "scntla", 1}, {"affwda1.bmp", "scntla", 3},
-    {"zpreva.bmp", "icntla", 0},    {"znexta.bmp", "icntla", 1},  {"zplaya.bmp", "icntla", 2},  {"zpausea.bmp", "icntla", 3},
-    {"zstopa.bmp", "icntla", 4},    {"zrecorda.bmp", "icntla", 5}, {"acblueds.bmp", "Image9", 0}, {"acbluels.bmp", "Image9", 1},
-    {"acredls.bmp", "Image2", 0},   {"acredds.bmp", "Image2", 1},
+    {"apower1.bmp", "Image5", -1}, {"afrewa1.bmp", "scntla", 0},  {"ambtns1.bmp", "scntla", 1},  {"affwda1.bmp", "scntla", 3},
+    {"zpreva.bmp", "icntla", 0},   {"znexta.bmp", "icntla", 1},   {"zplaya.bmp", "icntla", 2},   {"zpausea.bmp", "icntla", 3},
+    {"zstopa.bmp", "icntla", 4},   {"zrecorda.bmp", "icntla", 5}, {"acblueds.bmp", "Image9", 0}, {"acbluels.bmp", "Image9", 1},
+    {"acredls.bmp", "Image2", 0},  {"acredds.bmp", "Image2", 1},
 };
 
 }  // namespace
@@ -47,7 +47,8 @@ int main(int argc, char** argv) {
   for (const Picture& picture : kPictures) {
     orvanta::forms::Control* control = form.find(picture.control, picture.index);
     // Several keys share these two: their signs are drawn over the picture.
-    if (control->name() == "Image9" || control->name() == "Image2") control->art = picture.index == 0 && control->name() == "Image2" ? "key:red" : "key:small";
+    if (control->name() == "Image9" || control->name() == "Image2")
+      control->art = picture.index == 0 && control->name() == "Image2" ? "key:red" : "key:small";
     const QString path = QString::fromUtf8(argv[1]) + QLatin1Char('/') + QLatin1String(picture.file);
     written = orvanta::drawingOf(*control, kTimes).save(path) && written;
   }

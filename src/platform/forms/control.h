@@ -91,7 +91,6 @@ class Control : protected PropertyOwner {
   void propertyChanged(Change change) final;
 
  private:
-
   Form& form_;
   std::string name_;
   int index_;

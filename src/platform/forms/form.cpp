@@ -11,9 +11,7 @@ namespace {
 
 FormEvents noEvents;
 
-bool takesFocus(const Control& control) {
-  return control.tabStop && control.enabled && control.shown() && control.insideForm();
-}
+bool takesFocus(const Control& control) { return control.tabStop && control.enabled && control.shown() && control.insideForm(); }
 
 }  // namespace
 
@@ -26,9 +24,8 @@ std::span<const DesignRow> Form::design() const { return {}; }
 std::span<const GridRow> Form::grid() const { return {}; }
 
 Control* Form::find(std::string_view controlName, int index) const {
-  const auto found = std::find_if(controls_.begin(), controls_.end(), [&](const Control* control) {
-    return control->index() == index && control->name() == controlName;
-  });
+  const auto found = std::find_if(controls_.begin(), controls_.end(),
+                                  [&](const Control* control) { return control->index() == index && control->name() == controlName; });
   return found == controls_.end() ? nullptr : *found;
 }
 
@@ -164,7 +161,8 @@ bool Form::keyDown(const KeyPress& pressed) {
     return true;
   }
   const bool presses = pressed.code == key::kSpace || pressed.code == key::kEnter;
-  const bool pressable = active_ != nullptr && active_->kind() != Kind::TextBox && active_->kind() != Kind::Combo && active_->kind() != Kind::List;
+  const bool pressable =
+      active_ != nullptr && active_->kind() != Kind::TextBox && active_->kind() != Kind::Combo && active_->kind() != Kind::List;
   if (!presses || !pressable || keyPress_) return false;
   keyPress_ = true;
   mouseDown(active_, {MouseButton::Left, active_->width / 2, active_->height / 2});

@@ -25,8 +25,7 @@ ClockedOutput::~ClockedOutput() {
   if (thread_.joinable()) thread_.join();
 }
 
-ClockedOutput::ClockedOutput(SampleFeed& feed, WavFile* wav, Pace pace)
-    : feed_(feed), wav_(wav), pace_(pace), since_(SteadyClock::now()) {
+ClockedOutput::ClockedOutput(SampleFeed& feed, WavFile* wav, Pace pace) : feed_(feed), wav_(wav), pace_(pace), since_(SteadyClock::now()) {
   thread_ = std::thread([this] { run(); });
 }
 

@@ -33,7 +33,8 @@ class Layer {
     const int64_t end = lastOfFile ? fileEnd(track) : sheet_.tracks[i + 1].indexes.front().frame;
     const int start = startIndex(track);
     const std::string name = "track " + std::to_string(track.number);
-    if (track.indexes.front().frame < fileFrame_ || end < start) return refuse(name + " lies before the one it follows, or beyond its file");
+    if (track.indexes.front().frame < fileFrame_ || end < start)
+      return refuse(name + " lies before the one it follows, or beyond its file");
     if (start >= end || end > fileEnd(track)) return refuse(name + " lies beyond the end of its file");
     silence(track.pregap);
     out_.toc.tracks.push_back({track.number, at_ + start - fileFrame_, track.data});
@@ -56,7 +57,8 @@ class Layer {
   /// sound file, where silence fills it up, and not in a raw one.
   int64_t fileEnd(const CueTrack& track) const {
     const int64_t length = std::min(lengths_[track.file], kMaxLength);
-    const int64_t rest = isSound(track) ? (length - offset_ + kSamplesPerFrame - 1) / kSamplesPerFrame : (length - offset_) / track.sectorBytes;
+    const int64_t rest =
+        isSound(track) ? (length - offset_ + kSamplesPerFrame - 1) / kSamplesPerFrame : (length - offset_) / track.sectorBytes;
     return std::min<int64_t>(fileFrame_ + std::max<int64_t>(rest, 0), int64_t{2} * kMaxFrames);
   }
 
@@ -76,8 +78,8 @@ class Layer {
   std::span<const int64_t> lengths_;
   DiscLayout& out_;
   int at_ = kFirstFrame;
-  int fileFrame_ = 0;    ///< of the present file, where the next region starts
-  int64_t offset_ = 0;   ///< the same in its own units
+  int fileFrame_ = 0;   ///< of the present file, where the next region starts
+  int64_t offset_ = 0;  ///< the same in its own units
 };
 
 }  // namespace

@@ -32,7 +32,7 @@ class DiscPlayer {
   virtual void play(int from, int to) = 0;
   virtual void pause() = 0;
   virtual void resume() = 0;
-  virtual void stop() = 0;       ///< keeps the place
+  virtual void stop() = 0;           ///< keeps the place
   virtual void seek(int frame) = 0;  ///< stops there
   virtual void eject() = 0;
 

@@ -37,7 +37,8 @@ std::string HostFiles::actual(const std::string& path) {
   std::error_code error;
   if (fs::exists(path, error)) return path;
   const fs::path wanted(path);
-  for (auto entry = fs::directory_iterator(wanted.parent_path(), error); !error && entry != fs::directory_iterator(); entry.increment(error)) {
+  for (auto entry = fs::directory_iterator(wanted.parent_path(), error); !error && entry != fs::directory_iterator();
+       entry.increment(error)) {
     if (equalsNoCase(entry->path().filename().string(), wanted.filename().string())) return entry->path().string();
   }
   return path;

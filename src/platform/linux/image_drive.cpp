@@ -47,7 +47,8 @@ std::unique_ptr<DiscImage> DiscImage::open(const std::string& cuePath, std::stri
 std::string DiscImage::entryOfDisc() {
   const auto data = std::find_if(layout_.toc.tracks.begin(), layout_.toc.tracks.end(), [](const TocTrack& track) { return track.data; });
   if (data == layout_.toc.tracks.end()) return "Track01.cda";
-  const std::string file = firstRootFile(data->start - kFirstFrame, [this](int block, IsoBlock& out) { return readBlock(block, out.data()); });
+  const std::string file =
+      firstRootFile(data->start - kFirstFrame, [this](int block, IsoBlock& out) { return readBlock(block, out.data()); });
   return file.empty() && layout_.toc.hasAudio() ? "Track01.cda" : file;
 }
 
@@ -97,7 +98,8 @@ bool DiscImage::readBlock(int block, unsigned char* bytes) {
   return file.readBytes(offset + header, kIsoBlock, reinterpret_cast<char*>(bytes));
 }
 
-ImageDrive::ImageDrive(std::string folder, const std::string& disc, std::string memory) : folder_(std::move(folder)), memory_(std::move(memory)) {
+ImageDrive::ImageDrive(std::string folder, const std::string& disc, std::string memory)
+    : folder_(std::move(folder)), memory_(std::move(memory)) {
   if (!disc.empty()) {
     refusal_ = ImageDrive::accept(disc);
     ImageDrive::closeTray();

@@ -41,7 +41,8 @@ class RawFile : public ImageFile {
   bool readAudio(int64_t offset, int sectorBytes, int frames, int16_t* samples) override {
     auto* out = reinterpret_cast<char*>(samples);
     const int64_t wanted = int64_t{frames} * kBytesPerFrame;
-    const int64_t got = sectorBytes == kBytesPerFrame ? readAt(fd_.get(), offset, wanted, out) : readSectors(offset, sectorBytes, frames, out);
+    const int64_t got =
+        sectorBytes == kBytesPerFrame ? readAt(fd_.get(), offset, wanted, out) : readSectors(offset, sectorBytes, frames, out);
     std::memset(out + got, 0, static_cast<size_t>(wanted - got));
     if (swapped_) {
       for (int64_t i = 0; i + 1 < got; i += 2) std::swap(out[i], out[i + 1]);

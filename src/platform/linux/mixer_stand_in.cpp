@@ -57,7 +57,9 @@ bool MixerStandIn::startHidden(const std::string& /*program*/) {
   const double most = std::clamp(std::max(level.left, level.right), 0.0, 1.0);
   volume_ = static_cast<int>(std::lround(most * kTop));
   mute_ = level.mute;
-  if (most > 0) balance_ = static_cast<int>(std::lround(level.left > level.right ? level.right / most * kMiddle : kRight - level.left / most * kMiddle));
+  if (most > 0)
+    balance_ =
+        static_cast<int>(std::lround(level.left > level.right ? level.right / most * kMiddle : kRight - level.left / most * kMiddle));
   return open_;
 }
 
@@ -74,7 +76,9 @@ void MixerStandIn::sendKeys(const std::string& keys) {
   if (!open_ || keys.size() < 3 || keys.front() != '{' || keys.back() != '}') return;
   const std::string inner = keys.substr(1, keys.size() - 2);
   const auto blank = inner.find(' ');
-  press(inner.substr(0, blank), blank == std::string::npos ? 1 : static_cast<int>(std::clamp(std::strtol(inner.c_str() + blank, nullptr, 10), 0L, static_cast<long>(kTop))));
+  press(inner.substr(0, blank), blank == std::string::npos ? 1
+                                                           : static_cast<int>(std::clamp(std::strtol(inner.c_str() + blank, nullptr, 10),
+                                                                                         0L, static_cast<long>(kTop))));
 }
 
 void MixerStandIn::press(const std::string& key, int times) {

@@ -1,8 +1,8 @@
 // The deck's side of the hand-over.
 #include "platform/linux/play_on.h"
 
-#include <chrono>
 #include <charconv>
+#include <chrono>
 #include <thread>
 
 #include "base/log.h"

@@ -27,11 +27,7 @@ constexpr int kGiveUp = 10 * kFramesPerSecond;  ///< frames that failed in a row
 }  // namespace
 
 Player::Player(DiscSource& source, SoundOutputs& outputs)
-    : source_(source),
-      outputs_(outputs),
-      ring_(kRingPairs),
-      scratch_(size_t{kReadFrames} * kShortsPerFrame),
-      thread_([this] { run(); }) {}
+    : source_(source), outputs_(outputs), ring_(kRingPairs), scratch_(size_t{kReadFrames} * kShortsPerFrame), thread_([this] { run(); }) {}
 
 Player::~Player() {
   finish(0);
@@ -228,9 +224,7 @@ void Player::carryOut(const Order& order) {
       if (output_) output_->resume();
       break;
     case Order::Kind::Stop:
-    case Order::Kind::Seek:
-      dropStream();
-      break;
+    case Order::Kind::Seek: dropStream(); break;
     case Order::Kind::Eject:
       dropStream();
       source_.openTray();

@@ -107,8 +107,8 @@ class Player : public DiscPlayer, private SampleFeed {
   std::atomic<int> skipped_{0};
 
   // Owner thread alone.
-  int next_ = 0;     ///< frame to be read next
-  int runEnd_ = 0;   ///< of the audio run that next_ lies in
+  int next_ = 0;    ///< frame to be read next
+  int runEnd_ = 0;  ///< of the audio run that next_ lies in
   int playTo_ = 0;
   uint64_t produced_ = 0;  ///< pairs put in the ring
   int skipAhead_ = 0;      ///< frames given up at the last failed read

@@ -23,7 +23,9 @@ class SampleRing {
   size_t write(const int16_t* pairs, size_t count) {
     const uint64_t at = written_.load(std::memory_order_relaxed);
     count = std::min(count, space());
-    transfer(at, count, [&](size_t place, size_t done, size_t shorts) { std::copy_n(pairs + done, shorts, samples_.begin() + static_cast<ptrdiff_t>(place)); });
+    transfer(at, count, [&](size_t place, size_t done, size_t shorts) {
+      std::copy_n(pairs + done, shorts, samples_.begin() + static_cast<ptrdiff_t>(place));
+    });
     written_.store(at + count, std::memory_order_release);
     return count;
   }
@@ -32,7 +34,9 @@ class SampleRing {
   size_t read(int16_t* pairs, size_t count) {
     const uint64_t at = read_.load(std::memory_order_relaxed);
     count = std::min(count, filled());
-    transfer(at, count, [&](size_t place, size_t done, size_t shorts) { std::copy_n(samples_.begin() + static_cast<ptrdiff_t>(place), shorts, pairs + done); });
+    transfer(at, count, [&](size_t place, size_t done, size_t shorts) {
+      std::copy_n(samples_.begin() + static_cast<ptrdiff_t>(place), shorts, pairs + done);
+    });
     read_.store(at + count, std::memory_order_release);
     return count;
   }

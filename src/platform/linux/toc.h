@@ -11,11 +11,11 @@ namespace orvanta {
 
 constexpr int kFirstFrame = 150;
 constexpr int kMaxTracks = 99;
-constexpr int kSamplesPerFrame = 588;                         ///< sample pairs, at 44,100 a second
-constexpr int kShortsPerFrame = 2 * kSamplesPerFrame;         ///< interleaved left, right
-constexpr int kBytesPerFrame = 2 * kShortsPerFrame;           ///< 2352
+constexpr int kSamplesPerFrame = 588;                  ///< sample pairs, at 44,100 a second
+constexpr int kShortsPerFrame = 2 * kSamplesPerFrame;  ///< interleaved left, right
+constexpr int kBytesPerFrame = 2 * kShortsPerFrame;    ///< 2352
 constexpr int kSampleRate = kSamplesPerFrame * kFramesPerSecond;
-constexpr int kMaxFrames = 100 * kFramesPerMinute;            ///< what a packed time can say
+constexpr int kMaxFrames = 100 * kFramesPerMinute;  ///< what a packed time can say
 
 struct TocTrack {
   int number = 0;

@@ -26,9 +26,7 @@ Name nameOf(const forms::Control& control) {
 void paintPlain(Art& art) {
   const forms::Control& c = art.control;
   switch (c.kind()) {
-    case forms::Kind::Label:
-      letters(art, c.caption, qColour(c.foreColor), {c.align, 0, 0, false, c.wordWrap});
-      break;
+    case forms::Kind::Label: letters(art, c.caption, qColour(c.foreColor), {c.align, 0, 0, false, c.wordWrap}); break;
     case forms::Kind::Line:
       art.painter.setPen(QPen(qColour(c.foreColor), 1));
       art.painter.drawLine(QPointF(0, .5), QPointF(art.w, art.h + .5));
@@ -85,7 +83,8 @@ QImage drawingOf(const forms::Control& control, double factor) {
   painter.scale(factor, factor);
   Fonts fonts;
   ArtCache cache;
-  Art art{painter, control, fonts, cache, {}, factor, 15.0 / scale.twipsPerPixel, picture.width() / factor, picture.height() / factor, 0, 0};
+  Art art{painter, control, fonts, cache, {}, factor, 15.0 / scale.twipsPerPixel, picture.width() / factor, picture.height() / factor,
+          0,       0};
   paintControl(art);
   return picture;
 }

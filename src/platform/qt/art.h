@@ -37,7 +37,7 @@ struct Art {
   double k;          ///< size of symbols and fonts: 1 at 15 twips a pixel
   double w;          ///< of the control, in design pixels, snapped to device pixels
   double h;
-  double windowX;    ///< of the control's corner in the window
+  double windowX;  ///< of the control's corner in the window
   double windowY;
 };
 

@@ -55,7 +55,8 @@ void glass(Art& art, std::string_view detail) {
     QPainterPath path;
     const auto x = [&](double part) { return display.left() + display.width() * part; };
     const double width = to - from;
-    path.addPolygon(QPolygonF({{x(from), display.top()}, {x(to), display.top()}, {x(lower + width), display.bottom()}, {x(lower), display.bottom()}}));
+    path.addPolygon(
+        QPolygonF({{x(from), display.top()}, {x(to), display.top()}, {x(lower + width), display.bottom()}, {x(lower), display.bottom()}}));
     p.fillPath(path, alpha(Qt::white, opacity));
   };
   band(.30, .52, .18, strength);
@@ -71,7 +72,8 @@ void glass(Art& art, std::string_view detail) {
   // A hairline over the digits.
   const double unit = art.k / 15;
   const double left = joint != nullptr && joint->visible ? 3120 * unit : 0;
-  fill(p, QRectF(left + 4 * art.k, 936 * unit - .4, art.w - left - 8 * art.k, .8), own.set ? mix(own.back, own.fore, .28) : QColor(0, 0x32, 0x3A));
+  fill(p, QRectF(left + 4 * art.k, 936 * unit - .4, art.w - left - 8 * art.k, .8),
+       own.set ? mix(own.back, own.fore, .28) : QColor(0, 0x32, 0x3A));
 }
 
 /// Text on the glass; bright text shines, a text in the colour of the user's glass is not there.
@@ -117,7 +119,8 @@ void segments(Art& art) {
     fill(art.painter, QRectF(i * step + .35, art.h * .12, step - .9, art.h * .76), on ? colour : dark, .5);
   }
   const bool lightGlass = ownColours(bar).set && brightness(back) > .4;
-  if (bar.floodPercent > 0 && !lightGlass) soft(art.painter, QRectF(0, 0, art.w * bar.floodPercent / 100.0, art.h), 1, alpha(colour, .16), 3);
+  if (bar.floodPercent > 0 && !lightGlass)
+    soft(art.painter, QRectF(0, 0, art.w * bar.floodPercent / 100.0, art.h), 1, alpha(colour, .16), 3);
 }
 
 /// A cell of the calendar: lit numbers sit on a faint ground.

@@ -40,9 +40,15 @@ void transport(Art& art, Symbol which) {
   const forms::Control* plateauShape = art.control.form().find("Shape2");
   graphite(p, QRectF(1, 1, art.w - 2, art.h - 2), 2.5, isPressed(art.control) && plateauShape != nullptr && plateauShape->visible);
   const QRectF plateau(54 / 15.0 * art.k, 70 / 15.0 * art.k, 815 / 15.0 * art.k, 355 / 15.0 * art.k);
-  fill(p, plateau, blend(plateau.topLeft(), plateau.bottomLeft(), {{0, QColor(0x1E, 0x21, 0x25)}, {.5, QColor(0x29, 0x2D, 0x32)}, {1, QColor(0x35, 0x3A, 0x40)}}), 2);
+  fill(p, plateau,
+       blend(plateau.topLeft(), plateau.bottomLeft(),
+             {{0, QColor(0x1E, 0x21, 0x25)}, {.5, QColor(0x29, 0x2D, 0x32)}, {1, QColor(0x35, 0x3A, 0x40)}}),
+       2);
   p.setBrush(Qt::NoBrush);
-  p.setPen(QPen(QBrush(blend(plateau.topLeft(), plateau.bottomLeft(), {{0, alpha(Qt::black, .6)}, {.49, alpha(Qt::black, .1)}, {.51, alpha(Qt::white, .03)}, {1, alpha(Qt::white, .22)}})), .8));
+  p.setPen(QPen(
+      QBrush(blend(plateau.topLeft(), plateau.bottomLeft(),
+                   {{0, alpha(Qt::black, .6)}, {.49, alpha(Qt::black, .1)}, {.51, alpha(Qt::white, .03)}, {1, alpha(Qt::white, .22)}})),
+      .8));
   p.drawRoundedRect(plateau, 2, 2);
   const QPointF centre(art.w / 2, art.h / 2);
   const bool covered = overlaid(art.control);
@@ -64,7 +70,10 @@ void overlay(Art& art, Symbol which, bool lit) {
   } else if (lit) {
     symbol(art.painter, which, centre, k, litColour(which));
   } else {
-    symbol(art.painter, which, centre, k, scan ? QColor(0x86, 0x8B, 0x91) : which == Symbol::Record ? QColor(0x6E, 0x3A, 0x37) : QColor(0x66, 0x6C, 0x73));
+    symbol(art.painter, which, centre, k,
+           scan                      ? QColor(0x86, 0x8B, 0x91)
+           : which == Symbol::Record ? QColor(0x6E, 0x3A, 0x37)
+                                     : QColor(0x66, 0x6C, 0x73));
   }
 }
 
@@ -130,7 +139,8 @@ void keySign(Art& art, std::string_view name) {
     sign(p, boxes({{-5, -2.3, 2.8, 2}, {-1.4, .8, 2.8, 2}, {2.2, -1.2, 2.8, 2}}), centre, art.k, {0, dark, below});
   } else if (name == "display") {
     QPainterPath path = boxes({{-5.2, -3.4, 10.4, 6.8}});
-    path.addPath(lines({{-2.4, 0, -3.9, 0}, {-3, -1.2, -4.2, 0}, {-4.2, 0, -3, 1.2}, {2.4, 0, 3.9, 0}, {3, -1.2, 4.2, 0}, {4.2, 0, 3, 1.2}}));
+    path.addPath(
+        lines({{-2.4, 0, -3.9, 0}, {-3, -1.2, -4.2, 0}, {-4.2, 0, -3, 1.2}, {2.4, 0, 3.9, 0}, {3, -1.2, 4.2, 0}, {4.2, 0, 3, 1.2}}));
     sign(p, path, centre, art.k, {.95, dark, below});
   } else if (name == "linked" || name == "unlinked") {
     const bool joined = name == "linked";
@@ -152,7 +162,10 @@ void panelKey(Art& art, std::string_view name, bool down) {
     // One picture serves several keys: the sign stays ours.
   } else if (name == "muted" || name == "red") {
     soft(p, cap, 3, alpha(QColor(0xFF, 0x3B, 0x30), .3), 3);
-    fill(p, cap, blend(cap.topLeft(), cap.bottomLeft(), {{0, QColor(0xFF, 0x8A, 0x7A)}, {.5, QColor(0xFF, 0x3B, 0x30)}, {1, QColor(0xB3, 0x15, 0x0F)}}), 2);
+    fill(p, cap,
+         blend(cap.topLeft(), cap.bottomLeft(),
+               {{0, QColor(0xFF, 0x8A, 0x7A)}, {.5, QColor(0xFF, 0x3B, 0x30)}, {1, QColor(0xB3, 0x15, 0x0F)}}),
+         2);
   } else {
     aluminium(p, cap, 2, down || name == "linked" || isPressed(art.control));
   }
@@ -167,8 +180,10 @@ void mixerKey(Art& art) {
   aluminium(p, cap, 3, isPressed(art.control));
   const QPointF centre(art.w / 2, art.h * .37);
   sign(p, lines({{-9, -8, -9, 8}, {-3, -8, -3, 8}, {3, -8, 3, 8}, {9, -8, 9, 8}}), centre, art.k * .85, {1.2, QColor(0x2A, 0x2E, 0x33)});
-  sign(p, boxes({{-11.2, -5, 4.4, 3}, {-5.2, 1.4, 4.4, 3}, {.8, -3, 4.4, 3}, {6.8, 3, 4.4, 3}}), centre, art.k * .85, {0, QColor(0x1C, 0x20, 0x24)});
-  letters(art, QRectF(0, art.h - 12 * art.k, art.w, 9 * art.k), {"Small Fonts", 7, true}, art.control.caption, QColor(0x10, 0x12, 0x14), {});
+  sign(p, boxes({{-11.2, -5, 4.4, 3}, {-5.2, 1.4, 4.4, 3}, {.8, -3, 4.4, 3}, {6.8, 3, 4.4, 3}}), centre, art.k * .85,
+       {0, QColor(0x1C, 0x20, 0x24)});
+  letters(art, QRectF(0, art.h - 12 * art.k, art.w, 9 * art.k), {"Small Fonts", 7, true}, art.control.caption, QColor(0x10, 0x12, 0x14),
+          {});
 }
 
 void titleKey(Art& art, std::string_view name) {
@@ -203,7 +218,8 @@ void modeKey(Art& art, bool lit) {
   fill(art.painter, cap.adjusted(-1, -1, 1, 1.4), alpha(Qt::black, .5), 3);
   aluminium(art.painter, cap, 2.4, isPressed(art.control));
   const double wide = cap.width() * .56;
-  lamp(art.painter, QRectF(cap.center().x() - wide / 2, cap.center().y() - 1.5 * art.k, wide, 3 * art.k), lit ? QColor(0xFF, 0xB4, 0x3A) : QColor(0x6A, 0x4A, 0x16), lit, 1.2);
+  lamp(art.painter, QRectF(cap.center().x() - wide / 2, cap.center().y() - 1.5 * art.k, wide, 3 * art.k),
+       lit ? QColor(0xFF, 0xB4, 0x3A) : QColor(0x6A, 0x4A, 0x16), lit, 1.2);
 }
 
 /// A plain key by its detail: a scan key with its symbol, a number key in its sunk rim, any other cap.

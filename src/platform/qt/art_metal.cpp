@@ -99,7 +99,11 @@ const QImage& grainTile(double factor) {
 }  // namespace
 
 void edge(QPainter& painter, const QRectF& rect, double radius, double light, double dark, double width) {
-  const auto pen = blendIn(rect, .35, 1, {{0, alpha(Qt::white, light)}, {.45, alpha(Qt::white, light * .25)}, {.55, alpha(Qt::black, dark * .25)}, {1, alpha(Qt::black, dark)}});
+  const auto pen = blendIn(rect, .35, 1,
+                           {{0, alpha(Qt::white, light)},
+                            {.45, alpha(Qt::white, light * .25)},
+                            {.55, alpha(Qt::black, dark * .25)},
+                            {1, alpha(Qt::black, dark)}});
   painter.setPen(QPen(QBrush(pen), width));
   painter.setBrush(Qt::NoBrush);
   const double in = width / 2;
@@ -108,7 +112,8 @@ void edge(QPainter& painter, const QRectF& rect, double radius, double light, do
 
 void well(QPainter& painter, const QRectF& rect, double radius, const QColor& ground, double lip) {
   const QRectF outer = rect.adjusted(-lip, -lip, lip, lip);
-  fill(painter, outer, blendIn(outer, .25, 1, {{0, alpha(Qt::black, .75)}, {.5, alpha(Qt::black, .35)}, {1, alpha(Qt::white, .3)}}), radius + lip);
+  fill(painter, outer, blendIn(outer, .25, 1, {{0, alpha(Qt::black, .75)}, {.5, alpha(Qt::black, .35)}, {1, alpha(Qt::white, .3)}}),
+       radius + lip);
   const double half = lip * .45;
   const QRectF inner = rect.adjusted(-half, -half, half, half);
   fill(painter, inner, blend(inner.topLeft(), inner.bottomLeft(), {{0, QColor(5, 6, 7)}, {1, QColor(27, 30, 33)}}), radius + half);
@@ -117,13 +122,23 @@ void well(QPainter& painter, const QRectF& rect, double radius, const QColor& gr
 
 void metal(Art& art, const QRectF& rect, const QColor& base, double radius, double grain) {
   QPainter& painter = art.painter;
-  fill(painter, rect, blend(rect.topLeft(), rect.bottomLeft(), {{0, mix(base, Qt::white, .16)}, {.1, mix(base, Qt::white, .08)}, {.5, base}, {1, mix(base, Qt::black, .34)}}), radius);
+  fill(painter, rect,
+       blend(rect.topLeft(), rect.bottomLeft(),
+             {{0, mix(base, Qt::white, .16)}, {.1, mix(base, Qt::white, .08)}, {.5, base}, {1, mix(base, Qt::black, .34)}}),
+       radius);
   QBrush streaks(grainTile(art.factor));
   streaks.setTransform(QTransform::fromTranslate(-art.windowX, -art.windowY).scale(1 / art.factor, 1 / art.factor));
   painter.setOpacity(grain);
   fill(painter, rect, streaks, radius);
   painter.setOpacity(1);
-  fill(painter, rect, blendIn(rect, 1, .5, {{0, alpha(Qt::white, .1)}, {.28, alpha(Qt::white, .015)}, {.5, alpha(Qt::white, .05)}, {.62, alpha(Qt::white, 0)}, {1, alpha(Qt::black, .16)}}), radius);
+  fill(painter, rect,
+       blendIn(rect, 1, .5,
+               {{0, alpha(Qt::white, .1)},
+                {.28, alpha(Qt::white, .015)},
+                {.5, alpha(Qt::white, .05)},
+                {.62, alpha(Qt::white, 0)},
+                {1, alpha(Qt::black, .16)}}),
+       radius);
 }
 
 void aluminium(QPainter& painter, const QRectF& rect, double radius, bool pressed) {
@@ -132,13 +147,19 @@ void aluminium(QPainter& painter, const QRectF& rect, double radius, bool presse
   const auto& a = pressed ? kPressed : kRest;
   if (!pressed) fill(painter, rect.translated(.5, 1.3), alpha(Qt::black, .55), radius);
   fill(painter, rect, blend(rect.topLeft(), rect.bottomLeft(), {{0, a[0]}, {.12, a[1]}, {.55, a[2]}, {.9, a[3]}, {1, a[4]}}), radius);
-  fill(painter, rect, blend(rect.topLeft(), rect.topRight(), {{0, alpha(Qt::white, .35)}, {.35, alpha(Qt::white, .05)}, {.6, alpha(Qt::white, .16)}, {1, alpha(Qt::black, .08)}}), radius);
+  fill(painter, rect,
+       blend(rect.topLeft(), rect.topRight(),
+             {{0, alpha(Qt::white, .35)}, {.35, alpha(Qt::white, .05)}, {.6, alpha(Qt::white, .16)}, {1, alpha(Qt::black, .08)}}),
+       radius);
   edge(painter, rect, radius, .95, .8, .7);
 }
 
 void graphite(QPainter& painter, const QRectF& rect, double radius, bool pressed) {
-  const auto face = pressed ? blend(rect.topLeft(), rect.bottomLeft(), {{0, QColor(0x26292D)}, {.5, QColor(0x272A2F)}, {1, QColor(0x2E3237)}})
-                            : blend(rect.topLeft(), rect.bottomLeft(), {{0, QColor(0x565B62)}, {.08, QColor(0x444950)}, {.5, QColor(0x2D3136)}, {.93, QColor(0x1C1F23)}, {1, QColor(0x121417)}});
+  const auto face =
+      pressed
+          ? blend(rect.topLeft(), rect.bottomLeft(), {{0, QColor(0x26292D)}, {.5, QColor(0x272A2F)}, {1, QColor(0x2E3237)}})
+          : blend(rect.topLeft(), rect.bottomLeft(),
+                  {{0, QColor(0x565B62)}, {.08, QColor(0x444950)}, {.5, QColor(0x2D3136)}, {.93, QColor(0x1C1F23)}, {1, QColor(0x121417)}});
   fill(painter, rect, face, radius);
   edge(painter, rect, radius, pressed ? .15 : .55, .9, .8);
 }
@@ -157,9 +178,12 @@ void lamp(QPainter& painter, const QRectF& rect, const QColor& colour, bool lit,
   fill(painter, rect.adjusted(-.6, -.6, .6, .6), QColor(5, 6, 7), radius + .6);
   if (lit) {
     soft(painter, rect.adjusted(-1, -1, 1, 1), radius + 1, alpha(colour, .35), 2.6);
-    fill(painter, rect, blend(rect.topLeft(), rect.bottomLeft(), {{0, mix(colour, Qt::white, .55)}, {.5, colour}, {1, mix(colour, Qt::black, .25)}}), radius);
+    fill(painter, rect,
+         blend(rect.topLeft(), rect.bottomLeft(), {{0, mix(colour, Qt::white, .55)}, {.5, colour}, {1, mix(colour, Qt::black, .25)}}),
+         radius);
   } else {
-    fill(painter, rect, blend(rect.topLeft(), rect.bottomLeft(), {{0, mix(colour, Qt::black, .86)}, {1, mix(colour, Qt::black, .72)}}), radius);
+    fill(painter, rect, blend(rect.topLeft(), rect.bottomLeft(), {{0, mix(colour, Qt::black, .86)}, {1, mix(colour, Qt::black, .72)}}),
+         radius);
   }
 }
 

@@ -69,14 +69,14 @@ void doorPlate(Art& art, const QRectF& rect, const QColor& base) {
 
 /// What the open door leaves: darkness with a lit lip.
 void recess(Art& art) {
-  fill(art.painter, area(art), blend({0, 0}, {0, art.h}, {{0, QColor(Qt::black)}, {.7, QColor(0x0A, 0x0B, 0x0C)}, {1, QColor(0x16, 0x18, 0x1A)}}));
+  fill(art.painter, area(art),
+       blend({0, 0}, {0, art.h}, {{0, QColor(Qt::black)}, {.7, QColor(0x0A, 0x0B, 0x0C)}, {1, QColor(0x16, 0x18, 0x1A)}}));
   edge(art.painter, area(art), 1.5, 0, .8, 2 * art.k);
-  fill(art.painter, QRectF(2, 2, art.w - 4, 10 * art.k), blend({0, 2}, {0, 2 + 10 * art.k}, {{0, alpha(Qt::black, .9)}, {1, alpha(Qt::black, 0)}}));
+  fill(art.painter, QRectF(2, 2, art.w - 4, 10 * art.k),
+       blend({0, 2}, {0, 2 + 10 * art.k}, {{0, alpha(Qt::black, .9)}, {1, alpha(Qt::black, 0)}}));
 }
 
-void openSign(Art& art, double right, double top, double k) {
-  ejectSign(art.painter, {art.w - right * art.k, top * art.k}, k * art.k);
-}
+void openSign(Art& art, double right, double top, double k) { ejectSign(art.painter, {art.w - right * art.k, top * art.k}, k * art.k); }
 
 void door(Art& art, bool moving) {
   const auto* panel = dynamic_cast<const forms::Panel*>(&art.control);
@@ -98,8 +98,8 @@ void door(Art& art, bool moving) {
   }
   doorPlate(art, area(art), base);
   openSign(art, 16, 19, 1.05);
-  engraved(art, QRectF(art.w - 66 * art.k, 28 * art.k, 57 * art.k, 9 * art.k), {"Small Fonts", 7, false}, "OPEN / CLOSE", QColor(0xA9, 0xB0, 0xB7),
-           {forms::Align::Right, .3});
+  engraved(art, QRectF(art.w - 66 * art.k, 28 * art.k, 57 * art.k, 9 * art.k), {"Small Fonts", 7, false}, "OPEN / CLOSE",
+           QColor(0xA9, 0xB0, 0xB7), {forms::Align::Right, .3});
 }
 
 /// Light and dark sectors round a middle, `turns` of them a round, brightest at `phase`.
@@ -126,7 +126,8 @@ void emblem(Art& art) {
   disc(centre + QPointF(0, .8), r, alpha(Qt::black, .5));
   disc(centre, r, sheen(centre, QColor(0x5C, 0x63, 0x6B), QColor(0xE9, 0xED, 0xF0), .12, 2.2));
   disc(centre, r - .35, Qt::NoBrush, QPen(alpha(QColor(0x14, 0x17, 0x1A), .6), .7));
-  for (const auto& [part, opacity] : {std::pair{.86, .25}, {.7, .18}, {.55, .15}}) disc(centre, r * part, Qt::NoBrush, QPen(alpha(Qt::black, opacity), .5));
+  for (const auto& [part, opacity] : {std::pair{.86, .25}, {.7, .18}, {.55, .15}})
+    disc(centre, r * part, Qt::NoBrush, QPen(alpha(Qt::black, opacity), .5));
   disc(centre, r * .36, QColor(0x2A, 0x2E, 0x33), QPen(alpha(QColor(0xDD, 0xE1, 0xE5), .5), .5));
   disc(centre, r * .15, QColor(0x0A, 0x0B, 0x0C));
 }
@@ -137,7 +138,10 @@ void statusLamp(Art& art) {
   QPainter& p = art.painter;
   well(p, area(art).adjusted(.6, .6, -.6, -.6), 1.6, QColor(5, 6, 7), 1.2 * art.k);
   soft(p, glass.adjusted(-1, -1, 1, 1), 2, alpha(colour, .28), 3.5);
-  fill(p, glass, blend(glass.topLeft(), glass.bottomLeft(), {{0, mix(colour, Qt::white, .42)}, {.35, mix(colour, Qt::white, .12)}, {1, mix(colour, Qt::black, .28)}}), 1.2);
+  fill(p, glass,
+       blend(glass.topLeft(), glass.bottomLeft(),
+             {{0, mix(colour, Qt::white, .42)}, {.35, mix(colour, Qt::white, .12)}, {1, mix(colour, Qt::black, .28)}}),
+       1.2);
   fill(p, QRectF(glass.left(), glass.top(), glass.width(), glass.height() * .45), alpha(Qt::white, .16), 1.2);
 }
 
@@ -156,7 +160,8 @@ void power(Art& art) {
   disc(r, QColor(0x0A, 0x0B, 0x0C));
   disc(r - art.k, sheen(centre, QColor(0x4A, 0x50, 0x57), QColor(0xF1, 0xF3, 0xF5), .625, 1.6));
   disc(r - 3.2 * art.k, QColor(0x0C, 0x0D, 0x0E));
-  disc(r - 3.9 * art.k, blendIn(area(art), .4, 1, {{0, QColor(0x26, 0x29, 0x2D)}, {.5, QColor(0x33, 0x37, 0x3C)}, {1, QColor(0x4A, 0x4F, 0x56)}}),
+  disc(r - 3.9 * art.k,
+       blendIn(area(art), .4, 1, {{0, QColor(0x26, 0x29, 0x2D)}, {.5, QColor(0x33, 0x37, 0x3C)}, {1, QColor(0x4A, 0x4F, 0x56)}}),
        QPen(QBrush(blendIn(area(art), .3, 1, {{0, alpha(Qt::black, .7)}, {1, alpha(Qt::white, .25)}})), .8));
   const forms::Control* source = colourSource(art.control);
   const QColor colour = source == nullptr ? QColor(0x32, 0xC8, 0x55) : qColour(source->backColor);
@@ -172,22 +177,37 @@ void power(Art& art) {
 
 void slot(Art& art) {
   const QColor c = qColour(art.control.backColor);
-  fill(art.painter, area(art), blend({0, 0}, {art.w, 0}, {{0, QColor(Qt::black)}, {.5, QColor(0x0B, 0x0C, 0x0D)}, {1, QColor(0x3A, 0x3E, 0x43)}}), 1.6);
+  fill(art.painter, area(art),
+       blend({0, 0}, {art.w, 0}, {{0, QColor(Qt::black)}, {.5, QColor(0x0B, 0x0C, 0x0D)}, {1, QColor(0x3A, 0x3E, 0x43)}}), 1.6);
   const double rim = at(art, 25);
   const QRectF inner = area(art).adjusted(rim, rim, -rim, -rim);
-  fill(art.painter, inner, blend(inner.topLeft(), inner.topRight(), {{0, mix(c, Qt::black, .45)}, {.35, c}, {.5, mix(c, Qt::white, .35)}, {.65, c}, {1, mix(c, Qt::black, .45)}}), .8);
+  fill(art.painter, inner,
+       blend(inner.topLeft(), inner.topRight(),
+             {{0, mix(c, Qt::black, .45)}, {.35, c}, {.5, mix(c, Qt::white, .35)}, {.65, c}, {1, mix(c, Qt::black, .45)}}),
+       .8);
 }
 
 void thumb(Art& art) {
   const QColor c = qColour(art.control.backColor);
   fill(art.painter, QRectF(.3, 1.6, art.w + .6, art.h + 1.2), alpha(Qt::black, .6), 1.2);
-  fill(art.painter, area(art), blend({0, 0}, {0, art.h}, {{0, mix(c, Qt::white, .55)}, {.3, c}, {.46, mix(c, Qt::black, .25)}, {.5, QColor(0x10, 0x12, 0x14)}, {.58, QColor(0x10, 0x12, 0x14)}, {.62, mix(c, Qt::white, .3)}, {1, mix(c, Qt::black, .35)}}), 1);
+  fill(art.painter, area(art),
+       blend({0, 0}, {0, art.h},
+             {{0, mix(c, Qt::white, .55)},
+              {.3, c},
+              {.46, mix(c, Qt::black, .25)},
+              {.5, QColor(0x10, 0x12, 0x14)},
+              {.58, QColor(0x10, 0x12, 0x14)},
+              {.62, mix(c, Qt::white, .3)},
+              {1, mix(c, Qt::black, .35)}}),
+       1);
 }
 
 void groove(Art& art) {
   QPainter& p = art.painter;
   const QRectF cut(0, -1.5 * art.k, art.w, 3 * art.k);
-  fill(p, cut, blend(cut.topLeft(), cut.bottomLeft(), {{0, QColor(5, 6, 7)}, {.6, QColor(0x17, 0x19, 0x1C)}, {1, QColor(0x2A, 0x2D, 0x31)}}), 1.5 * art.k);
+  fill(p, cut,
+       blend(cut.topLeft(), cut.bottomLeft(), {{0, QColor(5, 6, 7)}, {.6, QColor(0x17, 0x19, 0x1C)}, {1, QColor(0x2A, 0x2D, 0x31)}}),
+       1.5 * art.k);
   fill(p, QRectF(1, 1.9 * art.k - .3, art.w - 2, .6), alpha(Qt::white, .28));
 }
 
@@ -199,8 +219,10 @@ void sunkPanel(Art& art, bool scale) {
   const QRectF inner = area(art).adjusted(inset, inset, -inset, -inset);
   well(p, inner, 3, QColor(Qt::black), (scale ? 1.6 : 1.8) * art.k);
   metal(art, inner, qColour(art.control.backColor), 3, .2);
-  fill(p, QRectF(inner.left(), inner.top(), inner.width(), 6), blend(inner.topLeft(), inner.topLeft() + QPointF(0, 6), {{0, alpha(Qt::black, .52)}, {1, alpha(Qt::black, 0)}}), 3);
-  fill(p, QRectF(inner.left(), inner.top(), 5, inner.height()), blend(inner.topLeft(), inner.topLeft() + QPointF(5, 0), {{0, alpha(Qt::black, .42)}, {1, alpha(Qt::black, 0)}}), 3);
+  fill(p, QRectF(inner.left(), inner.top(), inner.width(), 6),
+       blend(inner.topLeft(), inner.topLeft() + QPointF(0, 6), {{0, alpha(Qt::black, .52)}, {1, alpha(Qt::black, 0)}}), 3);
+  fill(p, QRectF(inner.left(), inner.top(), 5, inner.height()),
+       blend(inner.topLeft(), inner.topLeft() + QPointF(5, 0), {{0, alpha(Qt::black, .42)}, {1, alpha(Qt::black, 0)}}), 3);
   const forms::Control* slider = scale ? art.control.form().find("VolumeL") : nullptr;
   if (slider == nullptr) return;
   const double middle = art.w / 2;
@@ -210,8 +232,10 @@ void sunkPanel(Art& art, bool scale) {
     if (y > last) break;
     const double length = (mark % 5 == 0 ? 7.5 : 4.5) * art.k;
     for (const double from : {middle - 10.5 * art.k, middle + 10.5 * art.k - length}) {
-      fill(p, QRectF(from < middle ? from : from + length, y + .35, from < middle ? length : -length, .7).normalized(), alpha(Qt::black, .6));
-      fill(p, QRectF(from < middle ? from : from + length, y - .35, from < middle ? length : -length, .7).normalized(), alpha(QColor(0xC9, 0xCE, 0xD4), mark % 5 == 0 ? .75 : .5));
+      fill(p, QRectF(from < middle ? from : from + length, y + .35, from < middle ? length : -length, .7).normalized(),
+           alpha(Qt::black, .6));
+      fill(p, QRectF(from < middle ? from : from + length, y - .35, from < middle ? length : -length, .7).normalized(),
+           alpha(QColor(0xC9, 0xCE, 0xD4), mark % 5 == 0 ? .75 : .5));
     }
   }
 }
@@ -238,7 +262,8 @@ bool paintSurface(Art& art, std::string_view name, std::string_view detail) {
   } else if (name == "slot") {
     slot(art);
   } else if (name == "cover") {
-    fill(art.painter, area(art), blend({0, 0}, {art.w, 0}, {{0, QColor(4, 5, 5)}, {.6, QColor(0x0C, 0x0D, 0x0E)}, {1, QColor(0x19, 0x1B, 0x1D)}}), .8);
+    fill(art.painter, area(art),
+         blend({0, 0}, {art.w, 0}, {{0, QColor(4, 5, 5)}, {.6, QColor(0x0C, 0x0D, 0x0E)}, {1, QColor(0x19, 0x1B, 0x1D)}}), .8);
   } else if (name == "thumb") {
     thumb(art);
   } else if (name == "highlight") {
@@ -259,7 +284,8 @@ bool paintSurface(Art& art, std::string_view name, std::string_view detail) {
   } else if (name == "hole") {
     fill(art.painter, area(art), QColor(4, 5, 5), 2);
   } else if (name == "plateau") {
-    fill(art.painter, area(art), blend({0, 0}, {0, art.h}, {{0, alpha(Qt::black, .55)}, {.4, alpha(Qt::black, .25)}, {1, alpha(Qt::black, .05)}}), 1.8);
+    fill(art.painter, area(art),
+         blend({0, 0}, {0, art.h}, {{0, alpha(Qt::black, .55)}, {.4, alpha(Qt::black, .25)}, {1, alpha(Qt::black, .05)}}), 1.8);
   } else if (name == "maker") {
     ground(art);
     letters(art, area(art), c.font, c.caption, alpha(Qt::black, .75), {forms::Align::Left, 2.3 * art.k, .9});

@@ -124,14 +124,15 @@ void letters(Art& art, const QRectF& rect, const forms::Font& font, const std::s
   painter.restore();
 }
 
-void glow(Art& art, const QRectF& rect, const forms::Font& font, const std::string& text, const QColor& colour, const Lettering& how, double strength) {
+void glow(Art& art, const QRectF& rect, const forms::Font& font, const std::string& text, const QColor& colour, const Lettering& how,
+          double strength) {
   if (text.empty()) return;
   const double sigma = std::max(1.2, 1.7 * art.k * art.factor);
   const int margin = static_cast<int>(sigma * 3);
   const QSize size(static_cast<int>(rect.width() * art.factor) + 2 * margin, static_cast<int>(rect.height() * art.factor) + 2 * margin);
-  const std::string key = "glow " + font.family + (font.bold ? "b " : " ") + std::to_string(font.points) + ' ' + std::to_string(colour.rgb()) + ' ' +
-                          std::to_string(size.width()) + 'x' + std::to_string(size.height()) + ' ' + std::to_string(static_cast<int>(how.align)) +
-                          (how.bottom ? "b" : "") + (how.wrap ? "w" : "") + text;
+  const std::string key = "glow " + font.family + (font.bold ? "b " : " ") + std::to_string(font.points) + ' ' +
+                          std::to_string(colour.rgb()) + ' ' + std::to_string(size.width()) + 'x' + std::to_string(size.height()) + ' ' +
+                          std::to_string(static_cast<int>(how.align)) + (how.bottom ? "b" : "") + (how.wrap ? "w" : "") + text;
   const QImage* picture = art.cache.find(key);
   if (picture == nullptr) {
     QImage fresh(size, QImage::Format_ARGB32_Premultiplied);
@@ -139,8 +140,17 @@ void glow(Art& art, const QRectF& rect, const forms::Font& font, const std::stri
     {
       QPainter painter(&fresh);
       painter.setRenderHint(QPainter::Antialiasing);
-      Art inner{painter, art.control, art.fonts, art.cache, QTransform::fromTranslate(margin - rect.left() * art.factor, margin - rect.top() * art.factor),
-                art.factor, art.k, art.w, art.h, art.windowX, art.windowY};
+      Art inner{painter,
+                art.control,
+                art.fonts,
+                art.cache,
+                QTransform::fromTranslate(margin - rect.left() * art.factor, margin - rect.top() * art.factor),
+                art.factor,
+                art.k,
+                art.w,
+                art.h,
+                art.windowX,
+                art.windowY};
       letters(inner, rect, font, text, colour, how);
     }
     blur(fresh, sigma);

@@ -102,14 +102,31 @@ QPainterPath symbolPath(Symbol symbol) {
     path.closeSubpath();
   };
   switch (symbol) {
-    case Symbol::Previous: bar(-8, -6, 2.4, 12); triangle(1.2, 6, -5.2); triangle(8, 6, 1.4); break;
-    case Symbol::Next: bar(5.6, -6, 2.4, 12); triangle(-1.2, 6, 5.2); triangle(-8, 6, -1.4); break;
+    case Symbol::Previous:
+      bar(-8, -6, 2.4, 12);
+      triangle(1.2, 6, -5.2);
+      triangle(8, 6, 1.4);
+      break;
+    case Symbol::Next:
+      bar(5.6, -6, 2.4, 12);
+      triangle(-1.2, 6, 5.2);
+      triangle(-8, 6, -1.4);
+      break;
     case Symbol::Play: triangle(-5.2, 6.5, 6.2); break;
-    case Symbol::Pause: bar(-4, -6.5, 3, 13); bar(1, -6.5, 3, 13); break;
+    case Symbol::Pause:
+      bar(-4, -6.5, 3, 13);
+      bar(1, -6.5, 3, 13);
+      break;
     case Symbol::Stop: bar(-5.4, -5.4, 10.8, 10.8); break;
     case Symbol::Record: path.addEllipse(QPointF(0, 0), 4.7, 4.7); break;
-    case Symbol::Rewind: triangle(0, 4.8, -7.6); triangle(7.8, 4.8, .2); break;
-    case Symbol::Forward: triangle(0, 4.8, 7.6); triangle(-7.8, 4.8, -.2); break;
+    case Symbol::Rewind:
+      triangle(0, 4.8, -7.6);
+      triangle(7.8, 4.8, .2);
+      break;
+    case Symbol::Forward:
+      triangle(0, 4.8, 7.6);
+      triangle(-7.8, 4.8, -.2);
+      break;
   }
   return path;
 }

@@ -56,7 +56,8 @@ struct Lettering {
 void letters(Art& art, const std::string& text, const QColor& colour, const Lettering& how, double points = 0);
 void letters(Art& art, const QRectF& rect, const forms::Font& font, const std::string& text, const QColor& colour, const Lettering& how);
 /// A blurred copy of a text, for what shines.
-void glow(Art& art, const QRectF& rect, const forms::Font& font, const std::string& text, const QColor& colour, const Lettering& how, double strength);
+void glow(Art& art, const QRectF& rect, const forms::Font& font, const std::string& text, const QColor& colour, const Lettering& how,
+          double strength);
 /// Dark copy below, then the text: cut into metal.
 void engraved(Art& art, const QRectF& rect, const forms::Font& font, const std::string& text, const QColor& colour, const Lettering& how);
 

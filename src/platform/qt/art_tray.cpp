@@ -23,14 +23,23 @@ struct TrayShape {
 
 TrayShape shapeOf(bool half) {
   if (half) {
-    return {QPolygonF({{108, 36}, {292, 36}, {303, 60}, {313.5, 70}, {86.5, 70}, {97, 60}}), QRectF(85.5, 69, 229, 37), {200, 47}, {86, 24}, 36};
+    return {QPolygonF({{108, 36}, {292, 36}, {303, 60}, {313.5, 70}, {86.5, 70}, {97, 60}}),
+            QRectF(85.5, 69, 229, 37),
+            {200, 47},
+            {86, 24},
+            36};
   }
-  return {QPolygonF({{107, 40}, {293, 40}, {302, 62}, {318.5, 99}, {82, 99}, {98, 62}}), QRectF(81, 98, 238.5, 35.5), {200, 69.5}, {88, 24.5}, 40};
+  return {QPolygonF({{107, 40}, {293, 40}, {302, 62}, {318.5, 99}, {82, 99}, {98, 62}}),
+          QRectF(81, 98, 238.5, 35.5),
+          {200, 69.5},
+          {88, 24.5},
+          40};
 }
 
 /// The rainbow of a disc that lies flat: twelve pastel spokes, twice round.
 QConicalGradient spokes(QPointF centre) {
-  static const QRgb kHues[] = {0xE4E8EB, 0xB9C0C6, 0x8F979F, 0xA9B7C4, 0xBFD3DA, 0xC4DDB9, 0xE0D9A6, 0xD9B7A8, 0xB8A9CB, 0x9FB2D0, 0xA7AEB5, 0xD6DADE};
+  static const QRgb kHues[] = {0xE4E8EB, 0xB9C0C6, 0x8F979F, 0xA9B7C4, 0xBFD3DA, 0xC4DDB9,
+                               0xE0D9A6, 0xD9B7A8, 0xB8A9CB, 0x9FB2D0, 0xA7AEB5, 0xD6DADE};
   QConicalGradient gradient(centre, 0);
   for (int i = 0; i <= 24; ++i) gradient.setColorAt(i / 24.0, QColor(kHues[i % 12]));
   return gradient;
@@ -77,13 +86,15 @@ void paintTray(Art& art, bool half) {
   bed.closeSubpath();
   soft(p, shape.front.adjusted(3, 4, -1, 2), 3, alpha(Qt::black, .6), 4);
   p.setPen(QPen(QColor(0x4A, 0x4F, 0x56), .7));
-  p.setBrush(blend({0, shape.backTop}, {0, shape.front.top()}, {{0, QColor(6, 7, 8)}, {.35, QColor(0x15, 0x18, 0x1B)}, {1, QColor(0x2C, 0x30, 0x35)}}));
+  p.setBrush(blend({0, shape.backTop}, {0, shape.front.top()},
+                   {{0, QColor(6, 7, 8)}, {.35, QColor(0x15, 0x18, 0x1B)}, {1, QColor(0x2C, 0x30, 0x35)}}));
   p.drawPath(bed);
   disc(p, shape);
   // Darkness of the recess over the tray's back.
   p.save();
   p.setClipPath(bed);
-  fill(p, QRectF(60, shape.backTop, 280, 16), blend({0, shape.backTop}, {0, shape.backTop + 16}, {{0, alpha(Qt::black, .85)}, {1, alpha(Qt::black, 0)}}));
+  fill(p, QRectF(60, shape.backTop, 280, 16),
+       blend({0, shape.backTop}, {0, shape.backTop + 16}, {{0, alpha(Qt::black, .85)}, {1, alpha(Qt::black, 0)}}));
   p.restore();
   const QRectF& front = shape.front;
   const QRectF lip(front.left() + 1.4, front.top() - 2.4, front.width() - 2.8, 2.4);
@@ -96,7 +107,8 @@ void paintTray(Art& art, bool half) {
   p.setPen(QPen(alpha(Qt::black, .35), .7));
   p.drawRoundedRect(front.adjusted(2.6, 2.6, -2.6, -2.6), 1.6, 1.6);
   const QRectF cut(front.left() + 9, front.bottom() - 8, front.width() - 18, 3);
-  fill(p, cut, blend(cut.topLeft(), cut.bottomLeft(), {{0, QColor(5, 6, 7)}, {.6, QColor(0x17, 0x19, 0x1C)}, {1, QColor(0x2A, 0x2D, 0x31)}}), 1.5);
+  fill(p, cut,
+       blend(cut.topLeft(), cut.bottomLeft(), {{0, QColor(5, 6, 7)}, {.6, QColor(0x17, 0x19, 0x1C)}, {1, QColor(0x2A, 0x2D, 0x31)}}), 1.5);
   fill(p, QRectF(cut.left() + 1, cut.bottom() + .2, cut.width() - 2, .6), alpha(Qt::white, .28));
   ejectSign(p, {front.right() - 16, front.top() + 11}, 1);
   p.restore();

@@ -72,7 +72,8 @@ void ControlWidget::paintPicture() {
     return;
   }
   const QPoint inWindow = mapTo(&window_, QPoint(0, 0));
-  key += ' ' + std::to_string(inWindow.x()) + ' ' + std::to_string(inWindow.y()) + ' ' + std::to_string(width()) + ' ' + std::to_string(height());
+  key += ' ' + std::to_string(inWindow.x()) + ' ' + std::to_string(inWindow.y()) + ' ' + std::to_string(width()) + ' ' +
+         std::to_string(height());
   const QImage* picture = window_.artCache().find(key);
   if (picture == nullptr) {
     QImage fresh(size(), QImage::Format_ARGB32_Premultiplied);

@@ -56,7 +56,8 @@ void DataWindow::build() {
     grid->addWidget(widget, cell.row, cell.column, cell.rows, cell.columns, small ? Qt::AlignLeft : Qt::Alignment());
     if (has(*control, "stretch")) grid->setRowStretch(cell.row, 1);
     // Fields take the room, captions what they need.
-    const bool field = control->kind() == forms::Kind::TextBox || control->kind() == forms::Kind::Combo || control->kind() == forms::Kind::List;
+    const bool field =
+        control->kind() == forms::Kind::TextBox || control->kind() == forms::Kind::Combo || control->kind() == forms::Kind::List;
     if (field && cell.columns == 1 && !small) grid->setColumnStretch(cell.column, 1);
     if (has(*control, "wide")) grid->setColumnStretch(cell.column, 1);
     if (control->parent == nullptr && has(*control, "frame")) grid->setRowStretch(cell.row, 1);

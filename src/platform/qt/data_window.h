@@ -69,7 +69,7 @@ class DataWindow : public QWidget {
   std::map<const forms::Control*, QWidget*> widgets_;
   std::map<const QObject*, forms::Control*> controls_;  ///< of a widget and of its inner parts
   std::map<forms::ListBox*, bool> waiting_;             ///< lists whose rows are to be shown anew
-  bool telling_ = false;  ///< we change a widget: it is no user's doing
+  bool telling_ = false;                                ///< we change a widget: it is no user's doing
   bool wanted_ = false;
 };
 

@@ -255,7 +255,8 @@ void FormWindow::paintEvent(QPaintEvent* event) {
     painted_ = true;
     if (logs("paint")) QTimer::singleShot(0, this, [] { logLine("paint", "first"); });
   }
-  painter.fillRect(event->rect(), QColor(static_cast<int>(back & 0xFFU), static_cast<int>(back >> 8U & 0xFFU), static_cast<int>(back >> 16U & 0xFFU)));
+  painter.fillRect(event->rect(),
+                   QColor(static_cast<int>(back & 0xFFU), static_cast<int>(back >> 8U & 0xFFU), static_cast<int>(back >> 16U & 0xFFU)));
 }
 
 void FormWindow::changeEvent(QEvent* event) {

@@ -100,11 +100,11 @@ class FormWindow : public QWidget, public forms::FormView {
   ControlWidget* focused_ = nullptr;
   int wheel_ = 0;  ///< of a notch, in Qt's eighths of a degree
   QTimer dragEnd_;
-  QPoint grip_;           ///< of a drag without a window manager
+  QPoint grip_;  ///< of a drag without a window manager
   bool dragging_ = false;
-  bool moving_ = false;   ///< we move it ourselves
+  bool moving_ = false;  ///< we move it ourselves
   bool painted_ = false;
-  bool wanted_ = false;   ///< shown, as far as the form goes
+  bool wanted_ = false;  ///< shown, as far as the form goes
 };
 
 /// Makes the views.

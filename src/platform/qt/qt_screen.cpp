@@ -31,7 +31,8 @@ int QtScreen::textWidthTwips(const std::string& text, const std::string& family,
   constexpr double kMeasured = 64;  // pixels to an em
   const QRawFont& face = fonts_.face({family, points, bold}, kMeasured);
   double width = 0;
-  for (const QPointF& advance : face.advancesForGlyphIndexes(face.glyphIndexesForString(QString::fromStdString(text)), QRawFont::KernedAdvances)) {
+  for (const QPointF& advance :
+       face.advancesForGlyphIndexes(face.glyphIndexesForString(QString::fromStdString(text)), QRawFont::KernedAdvances)) {
     width += advance.x();
   }
   return static_cast<int>(width / kMeasured * points * kTwipsPerPoint);

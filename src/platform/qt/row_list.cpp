@@ -13,7 +13,12 @@ namespace {
 
 constexpr int kColumns = 3;
 
-QString colourName(Colour colour) { return QStringLiteral("#%1%2%3").arg(colour & 0xFFU, 2, 16, QLatin1Char('0')).arg(colour >> 8U & 0xFFU, 2, 16, QLatin1Char('0')).arg(colour >> 16U & 0xFFU, 2, 16, QLatin1Char('0')); }
+QString colourName(Colour colour) {
+  return QStringLiteral("#%1%2%3")
+      .arg(colour & 0xFFU, 2, 16, QLatin1Char('0'))
+      .arg(colour >> 8U & 0xFFU, 2, 16, QLatin1Char('0'))
+      .arg(colour >> 16U & 0xFFU, 2, 16, QLatin1Char('0'));
+}
 
 }  // namespace
 
@@ -78,7 +83,8 @@ void dressRows(QTreeWidget& view, const forms::ListBox& list, double factor) {
     style += QStringLiteral("font-family: \"%1\"; font-size: %2px; font-weight: %3; font-style: %4; text-decoration: %5;")
                  .arg(toQt(font.family).remove(QLatin1Char('"')))
                  .arg(static_cast<int>(font.points * 96 / 72 * factor))
-                 .arg(font.bold ? QStringLiteral("bold") : QStringLiteral("normal"), font.italic ? QStringLiteral("italic") : QStringLiteral("normal"),
+                 .arg(font.bold ? QStringLiteral("bold") : QStringLiteral("normal"),
+                      font.italic ? QStringLiteral("italic") : QStringLiteral("normal"),
                       font.underline ? QStringLiteral("underline") : QStringLiteral("none"));
     style += QStringLiteral("color: %1;").arg(colourName(list.foreColor));
   }

@@ -7,8 +7,8 @@
 namespace orvanta {
 
 struct Scale {
-  double factor = 1;        ///< device pixels to a design pixel
-  int twipsPerPixel = 15;   ///< to a design pixel
+  double factor = 1;       ///< device pixels to a design pixel
+  int twipsPerPixel = 15;  ///< to a design pixel
 
   double perTwip() const { return factor / twipsPerPixel; }
   int pixels(int twips) const { return static_cast<int>(std::lround(twips * perTwip())); }

@@ -118,6 +118,19 @@ TEST(Player, ADeadSoundServerCostsNothing) {
   EXPECT_EQ(runs(deck.outputs.samples), "150-449");
 }
 
+TEST(Player, TellsTheTextsOfTheDiscThatIsIn) {
+  const TempFolder folder;
+  const std::string sheet = makeDisc(folder, {300});
+  std::string error;
+  writeFile(sheet, "TITLE Harbour\n" + readSmallFile(sheet, 1000, error));
+  Deck deck(folder.path());
+  EXPECT_EQ(deck.player.texts().title, "Harbour");
+  deck.player.eject();
+  EXPECT_TRUE(deck.player.texts().empty()) << "at once, before the tray has moved";
+  deck.player.closeTray();
+  EXPECT_TRUE(becomes([&] { return deck.player.texts().title == "Harbour"; }));
+}
+
 TEST(Player, OnePlayerHoldsADrive) {
   const TempFolder folder;
   makeDisc(folder, {300});

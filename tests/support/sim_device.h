@@ -32,6 +32,7 @@ class SimPlayer : public DiscPlayer {
   Holder holder() const override { return held; }
   Toc toc() const override { return disc; }
   std::string firstEntry() const override { return name; }
+  SheetTexts texts() const override { return disc.tracks.empty() ? SheetTexts{} : told; }
   PlayState state() const override {
     settle();
     return state_;
@@ -71,6 +72,7 @@ class SimPlayer : public DiscPlayer {
 
   Toc disc;
   std::string name;
+  SheetTexts told;  ///< by the disc that is in
   Holder held = Holder::Us;
   bool failure = false;
   int ejected = 0;

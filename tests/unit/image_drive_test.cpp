@@ -72,6 +72,23 @@ TEST(DiscImage, LaysSeveralFilesGapsAndSwappedBytesEndToEnd) {
   EXPECT_EQ(parseCue("TITLE \"Caf\xE9\"").title, "Caf\xC3\xA9");
 }
 
+TEST(DiscImage, TellsTheTextsOfItsSheet) {
+  const TempFolder folder;
+  const std::string sheet = makeDisc(folder, {80, 80});
+  std::string error;
+  EXPECT_TRUE(DiscImage::open(sheet, error)->texts().empty());
+  const std::string tracks =
+      "FILE disc.bin BINARY\nTRACK 01 AUDIO\nTITLE \"He said \"Ol\xE9\"\"\n REM GENRE Later\nINDEX 01 00:00:00\n"
+      "TRACK 02 AUDIO\nperformer \tUnquoted  Words \nINDEX 01 00:01:05\n";
+  writeFile(sheet,
+            "REM TITLE no\nCATALOG 0123456789012\nTITLE \"An \tAlbum\"\nPERFORMER \"\"\nrem genre \"Jazz Funk\"\nDATE 1971\n" + tracks);
+  const SheetTexts wanted{"An  Album", "", "Jazz Funk", "1971", "0123456789012", {{"He said \"Ol\xC3\xA9\"", ""}, {"", "Unquoted  Words"}}};
+  EXPECT_EQ(DiscImage::open(sheet, error)->texts(), wanted);
+  writeFile(sheet,
+            "TITLE \"\xD0\xA5\xD0\xBE\xD1\x80\nREM DATE 1980\nREM DATE 1990\nFILE disc.bin BINARY\nTRACK 01 AUDIO\nINDEX 01 00:00:00\n");
+  EXPECT_EQ(DiscImage::open(sheet, error)->texts(), (SheetTexts{"\xD0\xA5\xD0\xBE\xD1\x80", "", "", "1980", "", {}}));
+}
+
 TEST(DiscImage, NamesTheFirstEntryOfTheRoot) {
   const TempFolder folder;
   std::string error;

@@ -32,6 +32,16 @@ std::string_view takeWord(std::string_view& line) {
   return word;
 }
 
+/// A text is the rest of its line, without the outermost quotes: it may hold quotes itself, and blanks without any.
+std::string textOf(std::string_view line) {
+  line = withoutBlanks(line);
+  if (!line.empty() && line.front() == '"') {
+    line.remove_prefix(1);
+    line = line.substr(0, line.rfind('"'));
+  }
+  return std::string(withoutBlanks(withoutControls(line)));
+}
+
 std::optional<int> number(std::string_view text, int most) {
   int value = 0;
   const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
@@ -80,9 +90,15 @@ class Parser {
     } else if (word == "PREGAP" || word == "POSTGAP") {
       gap(word == "PREGAP", text);
     } else if (word == "CATALOG") {
-      sheet_.catalog = takeWord(text);
+      sheet_.catalog = textOf(text);
     } else if (word == "TITLE" || word == "PERFORMER") {
       texts(word == "TITLE", text);
+    } else if (word == "REM") {
+      // Makers of sheets put what the format has no word for into remarks.
+      const std::string what = upper(takeWord(text));
+      ofDisc(what, text);
+    } else if (word == "GENRE" || word == "DATE") {
+      ofDisc(word, text);
     } else if (word == "ISRC" && !sheet_.tracks.empty()) {
       sheet_.tracks.back().isrc = takeWord(text);
     }
@@ -159,8 +175,14 @@ class Parser {
     (before ? sheet_.tracks.back().pregap : sheet_.tracks.back().postgap) = *length;
   }
 
+  /// The first one counts: a track's own comes later.
+  void ofDisc(std::string_view what, std::string_view text) {
+    std::string* const place = what == "GENRE" ? &sheet_.genre : what == "DATE" ? &sheet_.date : nullptr;
+    if (place != nullptr && place->empty()) *place = textOf(text);
+  }
+
   void texts(bool title, std::string_view text) {
-    const std::string value(takeWord(text));
+    const std::string value = textOf(text);
     if (sheet_.tracks.empty()) {
       (title ? sheet_.title : sheet_.performer) = value;
     } else {
@@ -188,6 +210,14 @@ CueSheet parseCue(std::string_view bytes) {
     if (!hasStart(track)) parser.refuse("track " + std::to_string(track.number) + " has no INDEX 01");
   }
   return sheet;
+}
+
+SheetTexts textsOf(const CueSheet& sheet) {
+  SheetTexts texts{sheet.title, sheet.performer, sheet.genre, sheet.date, sheet.catalog, {}};
+  for (const CueTrack& track : sheet.tracks) texts.tracks.push_back({track.title, track.performer});
+  const bool silent = std::all_of(texts.tracks.begin(), texts.tracks.end(), [](const auto& track) { return track == SheetTexts::Track{}; });
+  if (silent) texts.tracks.clear();
+  return texts;
 }
 
 }  // namespace orvanta

@@ -5,6 +5,8 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/ports/sheet_texts.h"
+
 namespace orvanta {
 
 enum class CueFileType { Binary, Motorola, Sound };  ///< raw, raw with swapped bytes, WAVE or FLAC
@@ -38,6 +40,8 @@ struct CueSheet {
   std::string catalog;
   std::string title;
   std::string performer;
+  std::string genre;  ///< as written, also behind REM
+  std::string date;
   std::string error;  ///< why the sheet is refused; "" for a good one
 };
 
@@ -45,5 +49,8 @@ struct CueSheet {
 /// Lines that are not known are passed over. A good sheet has 1 to 99 tracks, numbered from 1
 /// without a gap, each with an INDEX 01 and indexes that go forward.
 CueSheet parseCue(std::string_view bytes);
+
+/// What a sheet says of the disc and its tracks.
+SheetTexts textsOf(const CueSheet& sheet);
 
 }  // namespace orvanta

@@ -6,6 +6,7 @@
 
 #include "platform/linux/toc.h"
 #include "platform/ports/disc_tray.h"
+#include "platform/ports/sheet_texts.h"
 
 namespace orvanta {
 
@@ -21,6 +22,7 @@ class DiscPlayer {
   virtual Holder holder() const = 0;
   virtual Toc toc() const = 0;  ///< empty without a disc
   virtual std::string firstEntry() const = 0;
+  virtual SheetTexts texts() const = 0;
 
   /// What is heard now; the place of a stop or pause otherwise. An order shows at once.
   virtual PlayState state() const = 0;

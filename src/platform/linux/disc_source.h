@@ -6,6 +6,7 @@
 #include <string>
 
 #include "platform/linux/toc.h"
+#include "platform/ports/sheet_texts.h"
 
 namespace orvanta {
 
@@ -22,6 +23,8 @@ class DiscSource {
   virtual const Toc& toc() const = 0;
   /// First name in the disc's root: "Track01.cda", or the first file of a data session.
   virtual std::string firstEntry() const = 0;
+  /// Texts that came with the disc; most discs have none.
+  virtual SheetTexts texts() const { return {}; }
   /// Frames `frame` to `frame + count - 1` as interleaved samples; false when the drive fails.
   virtual bool read(int frame, int count, int16_t* samples) = 0;
   virtual void openTray() = 0;

@@ -41,6 +41,7 @@ std::unique_ptr<DiscImage> DiscImage::open(const std::string& cuePath, std::stri
   error = disc->layout_.error;
   if (!error.empty()) return nullptr;
   disc->firstEntry_ = disc->entryOfDisc();
+  disc->texts_ = textsOf(sheet);
   return disc;
 }
 
@@ -167,6 +168,8 @@ const Toc& ImageDrive::toc() const {
 }
 
 std::string ImageDrive::firstEntry() const { return disc_ && !open_ ? disc_->firstEntry() : ""; }
+
+SheetTexts ImageDrive::texts() const { return disc_ && !open_ ? disc_->texts() : SheetTexts{}; }
 
 bool ImageDrive::read(int frame, int count, int16_t* samples) { return disc_ && !open_ && disc_->read(frame, count, samples); }
 

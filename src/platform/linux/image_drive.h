@@ -20,6 +20,7 @@ class DiscImage {
 
   const Toc& toc() const { return layout_.toc; }
   const std::string& firstEntry() const { return firstEntry_; }
+  const SheetTexts& texts() const { return texts_; }
   bool read(int frame, int count, int16_t* samples);
 
  private:
@@ -31,6 +32,7 @@ class DiscImage {
   DiscLayout layout_;
   std::vector<std::unique_ptr<ImageFile>> files_;
   std::string firstEntry_;
+  SheetTexts texts_;
 };
 
 class ImageDrive : public DiscSource {
@@ -46,6 +48,7 @@ class ImageDrive : public DiscSource {
   DriveStatus poll() override;
   const Toc& toc() const override;
   std::string firstEntry() const override;
+  SheetTexts texts() const override;
   bool read(int frame, int count, int16_t* samples) override;
   void openTray() override;
   void closeTray() override;

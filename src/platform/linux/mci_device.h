@@ -35,6 +35,7 @@ class MciDevice : public CdDevice {
   void setShareable(int16_t /*shareable*/) override {}
   std::string sendString(std::string_view command) override;
   std::string directoryEntry() const override { return player_.firstEntry(); }
+  SheetTexts texts() const override { return player_.texts(); }
 
  private:
   int16_t carryOut(std::string_view word);

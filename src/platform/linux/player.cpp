@@ -72,6 +72,11 @@ std::string Player::firstEntry() const {
   return entry_;
 }
 
+SheetTexts Player::texts() const {
+  const std::lock_guard lock(mutex_);
+  return texts_;
+}
+
 PlayState Player::state() const {
   const std::lock_guard lock(mutex_);
   return shownState_;
@@ -123,6 +128,7 @@ void Player::eject() {
     const std::lock_guard lock(mutex_);
     toc_ = {};
     entry_.clear();
+    texts_ = {};
   }
   give({Order::Kind::Eject}, PlayState::Stopped, kFirstFrame);
 }
@@ -204,6 +210,7 @@ void Player::lookAtDrive() {
   status_ = status;
   toc_ = status == DriveStatus::Disc ? source_.toc() : Toc{};
   entry_ = status == DriveStatus::Disc ? source_.firstEntry() : "";
+  texts_ = status == DriveStatus::Disc ? source_.texts() : SheetTexts{};
   if (toc_.tracks.empty()) {
     shownState_ = PlayState::Stopped;
   } else if (!output_) {

@@ -34,6 +34,7 @@ class Player : public DiscPlayer, private SampleFeed {
   Holder holder() const override;
   Toc toc() const override;
   std::string firstEntry() const override;
+  SheetTexts texts() const override;
   PlayState state() const override;
   int frame() const override;
   bool takeFailure() override;
@@ -134,6 +135,7 @@ class Player : public DiscPlayer, private SampleFeed {
   DriveStatus status_ = DriveStatus::NotReady;
   Toc toc_;
   std::string entry_;
+  SheetTexts texts_;
   bool failure_ = false;
 
   std::thread thread_;  ///< last: it runs on all of the above

@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+#include "platform/ports/sheet_texts.h"
+
 namespace orvanta {
 
 enum class DeviceMode : int16_t { NotOpen = 524, Stopped = 525, Playing = 526, Seeking = 528, Paused = 529 };
@@ -79,6 +81,9 @@ class CdDevice {
   /// Name of the first entry in the drive's root: "Track01.cda" for an audio disc, the first file
   /// of the data session for an enhanced one; "" without a disc or while it is not ready.
   virtual std::string directoryEntry() const = 0;
+
+  /// What the disc in the drive tells about itself; empty without a disc, or where it tells nothing.
+  virtual SheetTexts texts() const = 0;
 };
 
 }  // namespace orvanta

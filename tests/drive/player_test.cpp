@@ -11,6 +11,7 @@
 #include "platform/linux/clocked_output.h"
 #include "platform/linux/image_drive.h"
 #include "platform/linux/wav_file.h"
+#include "tests/support/places.h"
 #include "tests/support/stepped_output.h"
 #include "tests/support/test_discs.h"
 
@@ -56,13 +57,13 @@ TEST(Player, PlaysAWholeDiscWithoutAGap) {
 }
 
 TEST(Player, PlaysTheDemoDiscSampleForSample) {
-  Deck deck(ORVANTA_DEMO);
+  Deck deck(demoFolder());
   ASSERT_EQ(deck.player.toc().count(), 5);
   deck.playAll();
   ASSERT_TRUE(becomes([&] { return deck.outputs.open(); }));
   deck.outputs.hear(600 * kSecond);
   std::string error;
-  const std::string image = readSmallFile(ORVANTA_DEMO "/harbour-lights.bin", 1 << 30, error);
+  const std::string image = readSmallFile(demoFolder() + "/harbour-lights.bin", 1 << 30, error);
   ASSERT_EQ(deck.outputs.samples.size() * sizeof(int16_t), image.size());
   EXPECT_EQ(std::memcmp(deck.outputs.samples.data(), image.data(), image.size()), 0);
 }

@@ -7,6 +7,7 @@
 #include <cmath>
 
 #include "tests/gallery/scenes.h"
+#include "tests/support/places.h"
 
 namespace orvanta::test {
 namespace {
@@ -40,7 +41,7 @@ Difference differenceOf(const QImage& a, const QImage& b) {
 }
 
 TEST_P(Gallery, LooksAsItDid) {
-  const QImage kept(QStringLiteral(ORVANTA_SOURCE "/docs/screens/gallery/") + QString::fromStdString(GetParam()) + QStringLiteral(".png"));
+  const QImage kept(QString::fromStdString(sourceFolder() + "/docs/screens/gallery/" + GetParam() + ".png"));
   const QImage now = pictureOf(GetParam(), 1);
   ASSERT_EQ(now.size(), kept.size());
   const Difference difference = differenceOf(now, kept);

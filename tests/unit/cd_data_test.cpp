@@ -7,6 +7,7 @@
 #include "base/code_page.h"
 #include "library/list_text.h"
 #include "tests/support/core_rig.h"
+#include "tests/support/places.h"
 
 namespace orvanta::test {
 namespace {
@@ -281,7 +282,7 @@ TEST(CdData, SavesUnseenForAProgram) {
 
 /// A page as it is kept in tests/data; ORVANTA_KEEP_GOLDEN=1 keeps it anew.
 std::string kept(const std::string& name, const std::string& now) {
-  const std::string path = std::string(ORVANTA_SOURCE "/tests/data/") + name;
+  const std::string path = sourceFolder() + "/tests/data/" + name;
   if (std::getenv("ORVANTA_KEEP_GOLDEN") != nullptr) std::ofstream(path, std::ios::binary) << now;
   std::ifstream file(path, std::ios::binary);
   return {std::istreambuf_iterator<char>(file), {}};

@@ -8,6 +8,9 @@
 #include <set>
 #include <sstream>
 
+#include "tests/support/places.h"
+
+namespace orvanta::test {
 namespace {
 
 namespace fs = std::filesystem;
@@ -15,7 +18,7 @@ namespace fs = std::filesystem;
 /// Rows "| `folder` | `a`, `b` | ..." of the page's table.
 std::map<std::string, std::set<std::string>> allowedIncludes() {
   std::map<std::string, std::set<std::string>> allowed;
-  std::ifstream page(ORVANTA_SOURCE "/docs/ARCHITECTURE.md");
+  std::ifstream page(sourceFolder() + "/docs/ARCHITECTURE.md");
   const std::regex row(R"(^\| `src/([a-z/]+)` \|([^|]*)\|.*)");
   const std::regex name("`([a-z/]+)`");
   for (std::string line; std::getline(page, line);) {
@@ -36,9 +39,9 @@ TEST(Architecture, IncludesPointOneWay) {
   const std::regex own("^#include \"([^\"]+)\"");
   const std::regex outer("^#include <([^>]+)>");
   const std::set<std::string> adapters = {"platform/qt", "platform/linux"};
-  for (const auto& entry : fs::recursive_directory_iterator(ORVANTA_SOURCE "/src")) {
+  for (const auto& entry : fs::recursive_directory_iterator(sourceFolder() + "/src")) {
     if (!entry.is_regular_file()) continue;
-    const std::string path = fs::relative(entry.path(), ORVANTA_SOURCE "/src").string();
+    const std::string path = fs::relative(entry.path(), sourceFolder() + "/src").string();
     const std::string folder = folderOf(path);
     ASSERT_TRUE(allowed.count(folder) == 1) << folder << " is not on the page";
     if (path == "app/main.cpp") continue;
@@ -57,3 +60,4 @@ TEST(Architecture, IncludesPointOneWay) {
 }
 
 }  // namespace
+}  // namespace orvanta::test

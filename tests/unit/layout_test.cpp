@@ -5,6 +5,7 @@
 #include <sstream>
 
 #include "tests/support/core_rig.h"
+#include "tests/support/places.h"
 
 namespace orvanta::test {
 namespace {
@@ -27,7 +28,7 @@ std::vector<std::string> cells(const std::string& line) {
 }
 
 std::vector<Row> table() {
-  std::ifstream file(ORVANTA_SOURCE "/tests/data/faceplate.csv");
+  std::ifstream file(sourceFolder() + "/tests/data/faceplate.csv");
   std::string line;
   std::getline(file, line);
   const auto names = cells(line);

@@ -1,0 +1,245 @@
+// What goes to servers and what comes back, before any record: tables of contents, replies, matches, settings, lists.
+#include <gtest/gtest.h>
+
+#include "cddb/cddb_settings.h"
+#include "cddb/matches.h"
+#include "cddb/reply_shaper.h"
+#include "cddb/server_list.h"
+#include "cddb/toc_text.h"
+#include "cddb/wire_text.h"
+#include "tests/support/cddb_data.h"
+#include "tests/support/fakes.h"
+
+namespace orvanta::test {
+namespace {
+
+std::string tocOfLengths(const std::vector<std::string>& lengths, const std::vector<int32_t>& frames, char separator = ' ') {
+  return tocText({static_cast<int>(lengths.size()) - 1, lengths, frames}, separator);
+}
+
+TEST(CddbToc, TellsOffsetsAndSeconds) {
+  const std::vector<std::string> lengths{"", "4:06", "4:58", "4:25"};
+  EXPECT_EQ(tocOfLengths(lengths, {150, 27, 25, 22}), "3 150 18627 41002 812");
+  EXPECT_EQ(tocOfLengths(lengths, {150, 27, 25, 22}, '+'), "3+150+18627+41002+812");
+  EXPECT_EQ(tocOfLengths({"", " 1:00 "}, {150, 73}), "1 150 62") << "150 + 4500 + 73 frames lack two of 63 seconds";
+  EXPECT_EQ(tocOfLengths({"", "1:00"}, {150, 74}), "1 150 63") << "and with one more, the added frame makes it whole";
+  EXPECT_EQ(tocOfLengths({"", "1:02:03", "0:10"}, {0}), "2 0 279225 3733") << "an hour, and frames that are not known";
+  EXPECT_EQ(tocOfLengths({"", "75:10"}, {0, 0}), "1 0 4510") << "over an hour in minutes";
+  EXPECT_EQ(tocText({3, {}, {}}, ' '), "3 0 0 0 0");
+  EXPECT_EQ(tocText({-1, {}, {}}, ' '), "0 0");
+  EXPECT_EQ(tocFrames({30000, {}, {}}).offsets.size(), 100U);
+}
+
+TEST(CddbToc, TakesTheIdOutOfTheReply) {
+  EXPECT_EQ(discIdOf("200 Disc ID is 940c700b\r\n"), "940c700b");
+  EXPECT_EQ(discIdOf("201 banner\r\n?200 Disc ID is 940c700b\r\nhalf a line"), "940c700b");
+  EXPECT_EQ(discIdOf("500 Command syntax error: incorrect number of arguments.\r\n"), kTableRefused);
+  EXPECT_EQ(discIdOf("500 Command syntax error.\r\n"), "x error.");
+  EXPECT_EQ(discIdOf("no line feed"), "");
+  EXPECT_EQ(discIdOf("\r\n"), "");
+}
+
+TEST(CddbWire, KeepsControlsAndStraysOut) {
+  EXPECT_EQ(toWire(" user\r\nquit\x01 "), "user  quit");
+  EXPECT_EQ(toWire("J\xC3\xBCrg"), "J\xFCrg");
+  EXPECT_EQ(fromWire("\xEF\xBB\xBF"
+                     "caf\xC3\xA9"),
+            "caf\xC3\xA9");
+  EXPECT_EQ(fromWire("caf\xE9"), "caf\xC3\xA9");
+  EXPECT_EQ(replyCode("?200 ok"), 0);
+  EXPECT_EQ(replyCode("211 Found"), 211);
+  EXPECT_EQ(replyCode("99999999999"), 999);
+  EXPECT_EQ(replyCode(""), 0);
+}
+
+// ---- the shaper
+
+/// What comes out of bytes that arrive in pieces of `size`.
+Tape shaped(std::string_view bytes, Shape shape, size_t size) {
+  ReplyShaper shaper;
+  Tape out;
+  for (size_t at = 0; at < bytes.size(); at += size) {
+    EXPECT_TRUE(shaper.take(bytes.substr(at, size)));
+    while (const auto reply = shaper.next(shape)) out.push_back(*reply);
+  }
+  return out;
+}
+
+TEST(CddbShaper, GivesTheSameRepliesHoweverTheyArrive) {
+  const std::string list = "211 Found\r\nmisc 1\r\ndata 2\r\n.\r\n";
+  const struct {
+    std::string bytes;
+    Shape shape;
+    Tape replies;
+  } cases[] = {
+      {"201 hello\r\n200 Hello\r\nhalf", Shape::Line, {"201 hello\r\n", "200 Hello\r\n"}},
+      {list + "230 bye\r\n", Shape::Reply, {list, "230 bye\r\n"}},
+      {"211 Found\nmisc 1\ndata 2\n.\n", Shape::Reply, {list}},
+      {"202 No match\r\n", Shape::Reply, {"202 No match\r\n"}},
+      {"210 entry\r\nDTITLE=.\r\n..\r\n .\r\nEXTD=a\rb\r\n", Shape::Reply, {}},
+      {"401 no\r\n.\r\n", Shape::Reply, {"401 no\r\n", ".\r\n"}},
+      {"250-first\r\n250-second\r\n250 last\r\n354 go\r\n", Shape::Mail, {"250-first\r\n250-second\r\n250 last\r\n", "354 go\r\n"}},
+  };
+  for (const auto& each : cases) {
+    for (size_t size = 1; size <= each.bytes.size(); ++size)
+      EXPECT_EQ(shaped(each.bytes, each.shape, size), each.replies) << each.bytes << size;
+  }
+}
+
+TEST(CddbShaper, RefusesAReplyWithoutEnd) {
+  ReplyShaper shaper;
+  EXPECT_TRUE(shaper.take("210 entry\r\n" + std::string(ReplyShaper::kMost - 11, 'x')));
+  EXPECT_FALSE(shaper.take("x"));
+  EXPECT_TRUE(shaper.take("201 afresh\r\n"));
+  EXPECT_EQ(shaper.next(Shape::Line), "201 afresh\r\n");
+}
+
+// ---- matches
+
+const std::string kGap(100, ' ');
+
+TEST(CddbMatches, ReadsRecordedReplies) {
+  const QueryReply two = readQueryReply(replyOf("23-http-inexact"), kHttpRoad);
+  EXPECT_EQ(two.found, Found::Inexact);
+  EXPECT_EQ(two.total, 2U);
+  EXPECT_EQ(two.rows, (Tape{"Data  - Rammstein+Sixtynine / (black) Mutter" + kGap + "940c700b",
+                            "Misc  - Rammstein+Sixtynine / (black) Mutter" + kGap + "940c700b"}));
+  EXPECT_EQ(matchOfRow(two.rows[1]), (Match{"misc", "940c700b"}));
+  const QueryReply one = readQueryReply(replyOf("22-http-exact200-proto4"), kHttpRoad);
+  EXPECT_EQ(one.found, Found::Exact);
+  EXPECT_EQ(one.rows, (Tape{"Misc - Roxette / Tourism" + kGap + "f5108c10"}));
+  EXPECT_EQ(matchOfRow(one.rows[0]), (Match{"misc", "f5108c10"}));
+  const QueryReply several = readQueryReply(replyOf("21-http-exact210-proto4"), kHttpRoad);
+  EXPECT_EQ(several.found, Found::Nothing) << "a list of exact ones is for clients of a higher level";
+  EXPECT_EQ(readQueryReply(replyOf("24-http-none"), kHttpRoad).serverLine, "202 No match for disc ID 19032a03.");
+}
+
+TEST(CddbMatches, TakesWhateverCountsAsAReply) {
+  const auto rows = [](const std::string& reply) { return readQueryReply(reply, kCddbpRoad).rows; };
+  EXPECT_EQ(rows("200 cd 1234abcd\r\n"), (Tape{"Cd - " + kGap + "1234abcd"}));
+  EXPECT_EQ(rows("  200 rock 12345678 A\tB / \xD6l\r\n"), (Tape{"Rock - A B / \xC3\x96l" + kGap + "12345678"}));
+  EXPECT_EQ(rows("211 close\r\n?newage 12345678 T-T\r\n.\r\n"), (Tape{"Newage  - T-T" + kGap + "12345678"}));
+  for (const char* odd : {"", "200", "200\r\n", "200 \r\n", "200 x\r\n", "211\r\n", "211 x\r\n\r\n.\r\n", "211 x\r\ny\r\n", "no\r\n"}) {
+    for (const std::string& row : rows(odd)) EXPECT_LE(matchOfRow(row).discId.size(), 8U) << odd;
+  }
+  std::string many = "211 list\r\n";
+  for (int i = 0; i < 10000; ++i) many += "misc 940c700b Title\r\n";
+  const QueryReply reply = readQueryReply(many + ".\r\n", kCddbpRoad);
+  EXPECT_EQ(reply.total, 10000U);
+  EXPECT_EQ(reply.rows.size(), 500U);
+  EXPECT_EQ(readQueryReply(many + ".\r\n", kHttpRoad).rows.size(), 100U);
+}
+
+// ---- settings and lists
+
+TEST(CddbSettings, AreReadAndWrittenFieldByField) {
+  FakeFiles files;
+  CddbSettings settings;
+  EXPECT_FALSE(readCddbSettings(files, "/data", settings));
+  files.write(
+      "/data/cddbol.dat",
+      "\"host\"\r\n\"Site, Town\"\r\n8880\r\n\"user\"\r\n\"domain\"\r\n\"proxyuser\"\r\n1\r\n0\r\n\"proxy:3128\"\r\n\"secret\"\r\n");
+  files.write("/data/cddbml.dat", "\"\"\r\n\"submit@x\"\r\n\"mail.x\"\r\n10000\r\n\"\"\r\n");
+  EXPECT_TRUE(readCddbSettings(files, "/data", settings));
+  EXPECT_TRUE(readMailSettings(files, "/data", settings));
+  EXPECT_EQ(settings.cddbSiteName + settings.emailUser + settings.emailDomain, "Site, Townuserdomain");
+  EXPECT_TRUE(settings.useCddbp && !settings.autoConnect && settings.complete());
+  EXPECT_EQ(mailPort(settings.smtpPort), 25);
+  EXPECT_EQ(mailPort(9999), 9999);
+  EXPECT_EQ(mailPort(0), 25);
+  const auto before = files.files;
+  EXPECT_TRUE(writeCddbSettings(files, "/data", settings) && writeMailSettings(files, "/data", settings));
+  EXPECT_EQ(files.files, before);
+  for (const auto& lacking : {&CddbSettings::cddbServer, &CddbSettings::emailUser, &CddbSettings::emailDomain}) {
+    CddbSettings less = settings;
+    less.*lacking = " ";
+    EXPECT_FALSE(less.complete());
+  }
+  settings.cddbPort = 0;
+  EXPECT_FALSE(settings.complete());
+}
+
+TEST(CddbSettings, OfAFreshFolderLackOnlyTheAddress) {
+  FakeFiles files;
+  EXPECT_TRUE(writeMissingCddbFiles(files, "/data"));
+  CddbSettings settings;
+  EXPECT_TRUE(readCddbSettings(files, "/data", settings));
+  EXPECT_TRUE(settings.useCddbp && settings.autoConnect && !settings.complete());
+  settings.emailUser = settings.emailDomain = "x";
+  EXPECT_TRUE(settings.complete());
+  const std::vector<Site> cddbp = ServerLists(files, "/data").load(true);
+  EXPECT_EQ(cddbp, (std::vector<Site>{{settings.cddbServer, settings.cddbPort, settings.cddbSiteName}}));
+  const std::vector<Site> http = ServerLists(files, "/data").load(false);
+  EXPECT_EQ(http, (std::vector<Site>{{"http://gnudb.gnudb.org/~cddb/cddb.cgi", 80, "gnudb.org, HTTP"}}));
+  files.write("/data/datacd/srvhttp.txt", "mine 80 x");
+  writeCddbSettings(files, "/data", {});
+  EXPECT_TRUE(writeMissingCddbFiles(files, "/data"));
+  EXPECT_EQ(files.read("/data/datacd/srvhttp.txt"), "mine 80 x") << "what is there stays";
+  files.full = true;
+  EXPECT_FALSE(writeMissingCddbFiles(files, "/other"));
+}
+
+TEST(CddbServers, AreReadFromAnyList) {
+  const struct {
+    const char* what;
+    const char* list;
+    std::vector<Site> sites;
+  } cases[] = {
+      {"a server's own lines",
+       "localhost 8880 N037.21 W121.55 Loopback test site\r\nmirror.example 888 S000.00 E000.00 second\r\n",
+       {{"localhost", 8880, "Loopback test site"}, {"mirror.example", 888, "second"}}},
+      {"a name with a comma",
+       "a.b 888 N1 W2 San Jose, CA, USA\r\nc.d 8880 N1 W2 Next\r\n",
+       {{"a.b", 888, "San Jose, CA"}, {"c.d", 8880, "Next"}}},
+      {"no comma behind a random site",
+       "a.b 888 Random US Site\nc.d 888 N0 random us site somewhere\n",
+       {{"a.b", 888, "Random US Site"}, {"c.d", 888, "Random US Site"}}},
+      {"a port at the host's end", "a.b8880 no port\nc.d888 x\ne.f 0 y\n", {{"a.b", 8880, "no port"}, {"c.d", 888, "x"}, {"", 0, "y"}}},
+      {"the code page", "a.b 888 K\xF6ln\r\n", {{"a.b", 888, "K\xC3\xB6ln"}}},
+      {"a line without a blank ends it", "a.b 888 x\r\nno-blank\r\nc.d 888 y\r\n", {{"a.b", 888, "x"}}},
+      {"an empty line ends it", "a.b 888 x\r\n\r\nc.d 888 y\r\n", {{"a.b", 888, "x"}}},
+      {"nothing", "", {}},
+  };
+  for (const auto& each : cases) EXPECT_EQ(readSites(each.list), each.sites) << each.what;
+  std::string many;
+  for (int i = 0; i < 300; ++i) many += "a.b 888 x\n";
+  EXPECT_EQ(readSites(many).size(), 250U);
+}
+
+TEST(CddbServers, FallBackToTheBackupAndThenToTheKnownOne) {
+  const Site known{"gnudb.gnudb.org", 888, "Random US Site"};
+  const Site kept{"kept.b", 888, "kept"};
+  const std::string text = "/data/datacd/srvcddbp.txt";
+  const std::string backup = "/data/datacd/srvcddbp.bak";
+  const auto first = [&](const char* list, const char* bak) {
+    FakeFiles files;
+    if (list != nullptr) files.write(text, list);
+    if (bak != nullptr) files.write(backup, bak);
+    return ServerLists(files, "/data").load(true).front();
+  };
+  EXPECT_EQ(first(nullptr, nullptr), known);
+  EXPECT_EQ(first("", "kept.b 888 kept"), kept);
+  EXPECT_EQ(first(nullptr, "kept.b 888 kept"), kept);
+  EXPECT_EQ(first("x 1 spoiled", "kept.b 888 kept"), kept);
+  EXPECT_EQ(first("x 1 spoiled", nullptr), known);
+  EXPECT_EQ(first("a.b 888", "kept.b 888 kept"), known) << "a host without a name";
+
+  FakeFiles files;
+  files.write(text, "old.b 888 old");
+  files.write(backup, "older.b 888 older");
+  ServerLists lists(files, "/data");
+  lists.beginUpdate();
+  EXPECT_FALSE(files.exists(text));
+  lists.giveUpUpdate();
+  EXPECT_EQ(lists.load(true).front().siteName, "old");
+  lists.beginUpdate();
+  EXPECT_TRUE(lists.finishUpdate("new.b 888 new\r\n"));
+  EXPECT_EQ(lists.load(true).front().siteName, "new");
+  EXPECT_EQ(files.read(backup), "old.b 888 old");
+  files.full = true;
+  lists.beginUpdate();
+  EXPECT_EQ(files.read(text), "new.b 888 new\r\n") << "a list that cannot be put aside stays";
+}
+
+}  // namespace
+}  // namespace orvanta::test

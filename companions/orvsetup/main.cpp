@@ -9,6 +9,7 @@
 #include "platform/linux/host_files.h"
 #include "platform/linux/host_system.h"
 #include "settings_window.h"
+#include "state/record_file.h"
 #include "state/settings_files.h"
 
 namespace orvanta {
@@ -27,7 +28,7 @@ bool writeAll(HostFiles& files, const HostSystem& system, const Settings& settin
 Settings presentSettings(const HostFiles& files, const HostSystem& system) {
   Settings settings = defaultSettings(system.defaultDataDir(), system.usualDrive(system.defaultDataDir()));
   const auto read = [&](SettingsFile file, const std::string& folder) {
-    if (const auto bytes = files.read(joinPath(folder, fileName(file)))) readFields(file, *bytes, settings);
+    if (const auto record = readRecordFile(files, joinPath(folder, fileName(file)))) readFields(file, record->reader(), settings);
   };
   read(SettingsFile::Orvwin, system.systemDir());
   for (const auto file : kFamily) read(file, settings.appDir);

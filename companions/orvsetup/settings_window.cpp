@@ -98,7 +98,7 @@ QWidget* SettingsWindow::playPage() {
   number(rows, tr("Length of an intro"), settings_.appOptions[4], 2, 30, tr(" s"));
   check(rows, tr("Play on after the deck was switched off"), settings_.appOptions[5]);
   check(rows, tr("Small window always goes to the tray"), settings_.minToTray);
-  check(rows, tr("Open CD Data beside the deck"), settings_.editorFromFaceplate);
+  check(rows, tr("Open CD Data beside the deck"), settings_.editorFromFaceplate, true);
   return page;
 }
 
@@ -111,7 +111,11 @@ QWidget* SettingsWindow::looksPage() {
   choice(rows, tr("Wallpaper"), settings_.wallpaperOption,
          {{0, tr("off")}, {1, tr("with the deck")}, {2, tr("on demand")}, {3, tr("before the deck")}});
   choice(rows, tr("Wallpaper's filling"), settings_.wallpaperMode,
-         {{0, tr("plain colour")}, {1, tr("centred")}, {2, tr("stretched")}, {3, tr("tiled")}, {4, tr("as it is")}});
+         {{0, tr("none")},
+          {1, tr("dark blue")},
+          {2, tr("the colour below")},
+          {3, tr("the picture, tiled")},
+          {4, tr("the picture, stretched")}});
   colour(rows, tr("Wallpaper's colour"), settings_.wallpaperColor);
   path(rows, tr("Wallpaper's picture"), settings_.wallpaperFile, Pick::File);
   return page;

@@ -8,7 +8,8 @@
 #include "library/cd_records.h"
 #include "platform/ports/dialogs.h"
 #include "platform/ports/files.h"
-#include "state/field_file.h"
+#include "state/not_written.h"
+#include "state/record_file.h"
 
 namespace orvanta {
 
@@ -122,8 +123,8 @@ std::string Genres::path(const char* name) const { return joinPath(state_.settin
 
 std::vector<std::string> Genres::ownGenres() const {
   std::vector<std::string> own;
-  const auto bytes = files_.read(path("addcats.dat"));
-  FieldReader reader(bytes ? std::string_view(*bytes) : std::string_view());
+  const RecordBytes record = readRecordFile(files_, path("addcats.dat")).value_or(RecordBytes{});
+  FieldReader reader = record.reader();
   while (const auto field = reader.next()) {
     const std::string genre(trim(*field));
     if (!genre.empty()) own.push_back(genre);
@@ -149,24 +150,26 @@ std::optional<std::string> Genres::addGenre() {
                        "");
   if (!answer || trim(*answer).empty()) return std::nullopt;
   const std::string genre(trim(*answer));
-  std::vector<std::string> own;
-  if (files_.exists(path("addcats.dat"))) {
-    own = ownGenres();
-    files_.remove(path("addcats.dat"));
+  std::vector<std::string> own = ownGenres();
+  // A list that has grown too long starts anew, as it always has.
+  if (own.size() >= kMostOwn) {
+    removeRecordFile(files_, path("addcats.dat"));
+    return genre;
   }
-  // The file is gone by now: a list that has grown too long starts anew, as it always has.
-  if (own.size() >= kMostOwn) return genre;
   own.push_back(genre);
   FieldWriter out;
   for (const std::string& entry : own) out.text(entry);
-  files_.write(path("addcats.dat"), out.bytes());
+  const std::string file = path("addcats.dat");
+  // A list that cannot be read is not written over.
+  const bool readable = !files_.exists(file) || files_.read(file);
+  if (!readable || !writeRecordFile(files_, file, out)) tellNotWritten(dialogs_, files_, file);
   return genre;
 }
 
 void Genres::readUserCaptions() {
-  const auto bytes = files_.read(path("userdef.dat"));
-  if (!bytes) return;
-  FieldReader reader(*bytes);
+  const auto record = readRecordFile(files_, path("userdef.dat"));
+  if (!record) return;
+  FieldReader reader = record->reader();
   for (std::string& caption : state_.library.userCaptions) {
     const auto field = reader.next();
     if (field && !field->empty()) caption = unescapeField(*field);
@@ -183,7 +186,7 @@ void Genres::askUserCaptions() {
     answers[i] = trim(withoutControls(*answer));
   }
   if (answers[0].empty() && answers[1].empty()) {
-    files_.remove(path("userdef.dat"));
+    if (!removeRecordFile(files_, path("userdef.dat"))) tellNotWritten(dialogs_, files_, path("userdef.dat"));
     state_.library.userCaptions = {};
     return;
   }
@@ -195,7 +198,7 @@ void Genres::askUserCaptions() {
     out.text(caption);
     state_.library.userCaptions[i] = unescapeField(caption);
   }
-  files_.write(path("userdef.dat"), out.bytes());
+  if (!writeRecordFile(files_, path("userdef.dat"), out)) tellNotWritten(dialogs_, files_, path("userdef.dat"));
 }
 
 }  // namespace orvanta

@@ -59,7 +59,7 @@ void HtmlExport::run() {
   const auto path =
       dialogs_.askSaveFile({"Save Orvanta CD Data As...", joinPath(state_.settings.appDir, "datacd"), name, "HTML File (*.htm)|*.htm"});
   if (!path || path->empty()) return;
-  files_.write(*path, encoded(page()));
+  files_.writeNamed(*path, encoded(page()));
 }
 
 std::string HtmlExport::page() const {

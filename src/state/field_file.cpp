@@ -47,7 +47,7 @@ std::optional<std::string> FieldReader::next() {
     rest_.remove_prefix(end == std::string_view::npos ? rest_.size() : end);
   }
   dropSeparator(rest_);
-  return fromWindows1252(value);
+  return whole_.restored(++field_, fromWindows1252(value));
 }
 
 void FieldWriter::text(std::string_view utf8) {
@@ -55,8 +55,19 @@ void FieldWriter::text(std::string_view utf8) {
   // The form has no way to hold a double quote, and one would cut the value short.
   std::replace(bytes.begin(), bytes.end(), '"', '\'');
   bytes_ += "\"" + bytes + "\"\r\n";
+  const std::string held = fromWindows1252(bytes);
+  ++field_;
+  if (held != utf8) companion_ += WholeTexts::line(field_, held, utf8);
 }
 
-void FieldWriter::number(int64_t value) { bytes_ += std::to_string(value) + "\r\n"; }
+void FieldWriter::number(int64_t value) {
+  bytes_ += std::to_string(value) + "\r\n";
+  ++field_;
+}
+
+void FieldWriter::empty() {
+  bytes_ += "\r\n";
+  ++field_;
+}
 
 }  // namespace orvanta

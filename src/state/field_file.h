@@ -7,30 +7,40 @@
 #include <string>
 #include <string_view>
 
+#include "state/whole_texts.h"
+
 namespace orvanta {
 
 /// Takes values off the front, separated by a line end or a comma.
 class FieldReader {
  public:
-  explicit FieldReader(std::string_view bytes) : rest_(bytes) {}
+  /// `companion` is the text of the file's companion, "" without one.
+  explicit FieldReader(std::string_view bytes, std::string_view companion = {}) : rest_(bytes), whole_(companion) {}
   /// The next value, quotes removed, as UTF-8; nullopt at the end of the file. An unclosed quote
   /// runs to the end of the file.
   std::optional<std::string> next();
 
  private:
   std::string_view rest_;
+  WholeTexts whole_;
+  int field_ = 0;
 };
 
 class FieldWriter {
  public:
-  /// In quotes; a double quote within becomes a single one.
+  /// In quotes; a double quote within becomes a single one. A text that would not come back as it is goes
+  /// into the companion too.
   void text(std::string_view utf8);
   void number(int64_t value);
-  void empty() { bytes_ += "\r\n"; }
+  void empty();
   const std::string& bytes() const { return bytes_; }
+  /// Of the companion; "" when the file alone holds everything.
+  const std::string& companion() const { return companion_; }
 
  private:
   std::string bytes_;
+  std::string companion_;
+  int field_ = 0;
 };
 
 }  // namespace orvanta

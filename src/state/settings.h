@@ -29,8 +29,8 @@ struct Settings {
   Colour wallpaperColor = 0;
   std::string wallpaperFile;
   int16_t wallpaperOption = 0;
-  int16_t editorFromFaceplate = 0;
-  int16_t soundMode = 0;  ///< 0 no sliders, 3 own volume, 4 mixer; 1 and 2 count as 3
+  int16_t editorFromFaceplate = 0;  ///< 1: CD Data takes the deck's place; 0: it opens beside it
+  int16_t soundMode = 0;            ///< 0 no sliders, 3 own volume, 4 mixer; 1 and 2 count as 3
 
   // ORVWIN3.INI; font group 2 stands in the table and is never loaded
   std::array<FontGroup, 4> fonts;

@@ -5,9 +5,11 @@
 #include <variant>
 #include <vector>
 
+#include "base/log.h"
 #include "base/text.h"
 #include "platform/ports/files.h"
 #include "state/field_file.h"
+#include "state/record_file.h"
 
 namespace orvanta {
 
@@ -197,8 +199,7 @@ std::string_view fileName(SettingsFile file) {
   return kNames[static_cast<int>(file)];
 }
 
-bool readFields(SettingsFile file, std::string_view bytes, Settings& settings) {
-  FieldReader reader(bytes);
+bool readFields(SettingsFile file, FieldReader reader, Settings& settings) {
   bool whole = true;
   if (file == SettingsFile::Orvwin3) {
     walkOrvwin3(settings, ReadVisit{reader, whole});
@@ -212,7 +213,7 @@ bool readFields(SettingsFile file, std::string_view bytes, Settings& settings) {
   return true;
 }
 
-std::string writtenFields(SettingsFile file, const Settings& settings) {
+FieldWriter writtenFields(SettingsFile file, const Settings& settings) {
   FieldWriter out;
   if (file == SettingsFile::Orvwin3) {
     Settings copy = settings;
@@ -220,19 +221,24 @@ std::string writtenFields(SettingsFile file, const Settings& settings) {
   } else {
     for (const Target& target : fieldsOf(file)) write(target, settings, out);
   }
-  return out.bytes();
+  return out;
 }
 
 bool readSettings(SettingsFile file, Files& files, const std::string& folder, Settings& settings) {
   const std::string path = joinPath(folder, fileName(file));
-  if (file == SettingsFile::Orvwin7) settings.recordCommand.clear();
-  auto bytes = files.read(path);
-  bool whole = bytes && readFields(file, *bytes, settings);
+  const auto read = [&] {
+    const auto record = readRecordFile(files, path);
+    return record && readFields(file, record->reader(), settings);
+  };
+  // A file that is there and cannot be read says nothing, and is not written over.
+  const bool unreadable = files.exists(path) && !files.read(path);
+  if (unreadable) logLine("settings", path + " cannot be read");
+  if (file == SettingsFile::Orvwin7 && !files.exists(path)) settings.recordCommand.clear();
+  bool whole = read();
   if (file == SettingsFile::Orvwin4) {
-    if (!whole) {
+    if (!whole && !unreadable) {
       repairOrvwin4(files, path, settings);
-      bytes = files.read(path);
-      whole = bytes && readFields(file, *bytes, settings);
+      whole = read();
     }
     fillLcdColours(settings);
   }
@@ -240,7 +246,7 @@ bool readSettings(SettingsFile file, Files& files, const std::string& folder, Se
 }
 
 bool writeSettings(SettingsFile file, Files& files, const std::string& folder, const Settings& settings) {
-  return files.write(joinPath(folder, fileName(file)), writtenFields(file, settings));
+  return writeRecordFile(files, joinPath(folder, fileName(file)), writtenFields(file, settings));
 }
 
 void fillLcdColours(Settings& settings) {

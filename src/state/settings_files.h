@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "state/field_file.h"
 #include "state/settings.h"
 
 namespace orvanta {
@@ -15,11 +16,11 @@ enum class SettingsFile { Orvwin, Orvwin1, Orvwin3, Orvwin4, Orvwin7, SettingsDa
 /// "ORVWIN.INI", "settings.dat".
 std::string_view fileName(SettingsFile file);
 
-/// Fills `settings` from a file's bytes. Fields that a short file lacks keep what they held.
-/// True when every field was there.
-bool readFields(SettingsFile file, std::string_view bytes, Settings& settings);
+/// Fills `settings` from a file. Fields that a short one lacks keep what they held. True when every
+/// field was there.
+bool readFields(SettingsFile file, FieldReader reader, Settings& settings);
 
-std::string writtenFields(SettingsFile file, const Settings& settings);
+FieldWriter writtenFields(SettingsFile file, const Settings& settings);
 
 /// Reads a file of the family: ORVWIN.INI from `folder` = systemDir, the others from appDir. A
 /// missing or short one leaves values as they are; false then, of which only ORVWIN.INI's reader

@@ -32,18 +32,21 @@ class FakeFiles : public Files {
  public:
   std::optional<std::string> read(const std::string& path) const override {
     const auto found = files.find(upper(path));
-    return found == files.end() ? std::nullopt : std::optional(found->second);
+    return found == files.end() || unreadable.count(upper(path)) > 0 ? std::nullopt : std::optional(found->second);
   }
   bool write(const std::string& path, std::string_view bytes) override {
     tape.push_back("write " + path);
-    if (!full) files[upper(path)] = bytes;
-    return !full;
+    const bool good = !full && ++writes_ != failAt;
+    if (good) files[upper(path)] = bytes;
+    return good;
   }
+  bool writeNamed(const std::string& path, std::string_view bytes) override { return write(path, bytes); }
   bool remove(const std::string& path) override {
     tape.push_back("remove " + path);
     files.erase(upper(path));
     return true;
   }
+  std::string reason() const override { return "No space left on device"; }
   bool exists(const std::string& path) const override { return files.count(upper(path)) > 0; }
   std::optional<FileTime> modified(const std::string& path) const override {
     return exists(path) ? std::optional(FileTime{2026, 11, 21, 15, 5}) : std::nullopt;
@@ -60,7 +63,13 @@ class FakeFiles : public Files {
 
   std::map<std::string, std::string> files;  ///< by path in upper case
   Tape tape;
-  bool full = false;  ///< a full disk, or a read-only folder
+  std::set<std::string> unreadable;  ///< paths in upper case
+  bool full = false;                 ///< a full disk, or a read-only folder
+  int failAt = 0;                    ///< the write of this number fails; 0 none
+  int writes() const { return writes_; }
+
+ private:
+  int writes_ = 0;
 };
 
 class FakeDialogs : public Dialogs {

@@ -1,6 +1,8 @@
 // The settings family: every field in its place, written as read, and what broken files do.
 #include <gtest/gtest.h>
 
+#include <sstream>
+
 #include "state/settings_files.h"
 #include "tests/support/fakes.h"
 
@@ -10,63 +12,180 @@ namespace {
 constexpr SettingsFile kAll[] = {SettingsFile::Orvwin,  SettingsFile::Orvwin1, SettingsFile::Orvwin3,
                                  SettingsFile::Orvwin4, SettingsFile::Orvwin7, SettingsFile::SettingsDat};
 
-/// A file with a different value in each of its lines.
-std::string numbered(int lines, int gap = 0, int gap2 = 0) {
-  std::string bytes;
-  for (int i = 1; i <= lines; ++i) bytes += i == gap ? "\r\n" : i == gap2 ? "\"\"\r\n" : std::to_string(100 + i) + "\r\n";
-  return bytes;
+/// A file of the family as it stands on the disk, each field with a value of its own, and what it says.
+struct Golden {
+  SettingsFile file;
+  const char* bytes;
+  const char* says;
+};
+
+const Golden kGolden[] = {
+    {SettingsFile::Orvwin,
+     "\"/home/u/data\"\r\n\"/dev/sr1\"\r\n3\r\n4\r\n5\r\n\"six\"\r\n\"seven\"\r\n\"eight\"\r\n\"nine\"\r\n\"ten\"\r\n\"eleven\"\r\n"
+     "\"twelve\"\r\n\"thirteen\"\r\n\"fourteen\"\r\n",
+     "appDir=/home/u/data cdProbePath=/dev/sr1"},
+    {SettingsFile::Orvwin1, "\"mix er\"\r\n12\r\n3\r\n14\r\n\"wall.bmp\"\r\n2\r\n17\r\n18\r\n1\r\n4\r\n",
+     "mixerPath=mix er wallpaperMode=3 wallpaperColor=14 wallpaperFile=wall.bmp wallpaperOption=2 editorFromFaceplate=1 soundMode=4"},
+    {SettingsFile::Orvwin3,
+     "\"Font A\"\r\n9\r\n1\r\n2\r\n3\r\n101\r\n\"Font B\"\r\n10\r\n4\r\n5\r\n6\r\n102\r\n13\r\n14\r\n15\r\n16\r\n17\r\n"
+     "\"engine\"\r\n\"Font D\"\r\n11\r\n7\r\n8\r\n9\r\n103\r\n200\r\n201\r\n202\r\n203\r\n204\r\n205\r\n206\r\n207\r\n208\r\n209\r\n210\r\n"
+     "211\r\n212\r\n",
+     "font0=Font A,9,1,2,3,101 font1=Font B,10,4,5,6,102 font3=Font D,11,7,8,9,103 option1=13 option2=14 option3=15 option4=16 option5=17 "
+     "searchEngine=engine colour0=200 colour1=201 colour2=202 colour3=203 colour4=204 colour5=205 colour6=206 colour7=207 colour8=208 "
+     "colour9=209 colour10=210 colour11=211 colour12=212"},
+    {SettingsFile::Orvwin4,
+     "31\r\n\"b\"\r\n\"site\"\r\n34\r\n5\r\n6\r\n37\r\n\"browser\"\r\n\"i\"\r\n\"j\"\r\n11\r\n\"back.bmp\"\r\n13\r\n14\r\n\"\"\r\n16\r\n"
+     "2\r\n18\r\n19\r\n40\r\n",
+     "lyricsSite=site soundsOff=5 minToTray=6 browserPath=browser faceplateBorder=11 faceplateBitmap=back.bmp faceplateBitmapOn=13 "
+     "noLcdFont=14 showLights=16 lcdCustom=2 lcdFore=18 lcdBack=19"},
+    {SettingsFile::Orvwin7,
+     "\"rip, all\"\r\n\"2\"\r\n\"3\"\r\n\"4\"\r\n\"5\"\r\n\"6\"\r\n\"7\"\r\n\"8\"\r\n\"9\"\r\n\"10\"\r\n\"11\"\r\n\"12\"\r\n\"13\"\r\n"
+     "\"14\"\r\n\"15\"\r\n\"16\"\r\n\"17\"\r\n\"18\"\r\n\"19\"\r\n\"20\"\r\n",
+     "recordCommand=rip, all"},
+    {SettingsFile::SettingsDat, "3\r\n\r\n1\r\n2\r\n5\r\n", "timeMode=3 expandedDisplay=1 smallFaceplate=2 repeatOn=5"},
+};
+
+/// Every setting that differs from none, by name; what only passes through is seen in the bytes.
+std::string told(const Settings& s) {
+  std::string all;
+  const auto say = [&all](const std::string& name, const auto& value, const auto& none) {
+    if (value == none) return;
+    std::ostringstream text;
+    text << (all.empty() ? "" : " ") << name << '=' << value;
+    all += text.str();
+  };
+  const auto font = [](const FontGroup& f) {
+    std::ostringstream text;
+    text << f.fontName << ',' << f.fontSize << ',' << f.fontBold << ',' << f.fontItalic << ',' << f.fontUnderline << ',' << f.fontColor;
+    return text.str();
+  };
+#define SAY(field) say(#field, s.field, Settings().field)
+  SAY(appDir), SAY(cdProbePath), SAY(mixerPath), SAY(wallpaperMode), SAY(wallpaperColor), SAY(wallpaperFile), SAY(wallpaperOption);
+  SAY(editorFromFaceplate), SAY(soundMode);
+  for (size_t i = 0; i < 4; ++i) say("font" + std::to_string(i), font(s.fonts[i]), font({}));
+  for (size_t i = 0; i < s.appOptions.size(); ++i) say("option" + std::to_string(i), s.appOptions[i], 0);
+  SAY(searchEngine);
+  for (size_t i = 0; i < s.customColor.size(); ++i) say("colour" + std::to_string(i), s.customColor[i], Colour{0});
+  SAY(lyricsSite), SAY(soundsOff), SAY(minToTray), SAY(browserPath), SAY(faceplateBorder), SAY(faceplateBitmap), SAY(faceplateBitmapOn);
+  SAY(noLcdFont), SAY(showLights), SAY(lcdCustom), SAY(lcdFore), SAY(lcdBack), SAY(recordCommand), SAY(timeMode), SAY(expandedDisplay);
+  SAY(smallFaceplate), SAY(repeatOn);
+#undef SAY
+  return all;
 }
 
-TEST(SettingsFiles, PutEveryLineInItsPlace) {
-  Settings s;
-  EXPECT_TRUE(readFields(SettingsFile::Orvwin, numbered(14), s));
-  EXPECT_EQ(s.appDir + s.cdProbePath, "101102");
-  EXPECT_TRUE(readFields(SettingsFile::Orvwin1, numbered(10), s));
-  EXPECT_EQ(s.mixerPath, "101");
-  EXPECT_EQ(s.wallpaperColor, 104U);
-  EXPECT_EQ(s.soundMode, 110);
-  EXPECT_TRUE(readFields(SettingsFile::Orvwin3, numbered(37), s));
-  EXPECT_EQ(s.fonts[0].fontName + s.fonts[1].fontName + s.fonts[2].fontName + s.fonts[3].fontName, "101107119");
-  EXPECT_EQ(s.appOptions, (std::array<int16_t, 6>{0, 113, 114, 115, 116, 117}));
-  EXPECT_EQ(s.searchEngine, "118");
-  EXPECT_EQ(s.fonts[3].fontColor, 124U);
-  EXPECT_EQ(s.customColor[0], 125U);
-  EXPECT_EQ(s.customColor[12], 137U);
-  EXPECT_TRUE(readFields(SettingsFile::Orvwin4, numbered(20, 0, 15), s));
-  EXPECT_EQ(s.lyricsSite + s.browserPath + s.faceplateBitmap, "103108112");
-  EXPECT_EQ(s.faceplateBorder, 111);
-  EXPECT_EQ(s.showLights, 116);
-  EXPECT_EQ(s.lcdBack, 119U);
-  EXPECT_TRUE(readFields(SettingsFile::SettingsDat, numbered(5, 2), s));
-  EXPECT_EQ(s.timeMode, 101);
-  EXPECT_EQ(s.repeatOn, 105);
-}
-
-TEST(SettingsFiles, ComeBackAsTheyWereWritten) {
-  Settings s = defaultSettings("/home/caf\xC3\xA9", "/dev/sr0");
-  s.recordCommand = "rip, \"all\"";
-  s.recordCommand = "rip, all";
-  s.customColor[12] = 0xFFFFFF;
-  s.repeatOn = 1;
-  for (const auto file : kAll) {
-    Settings back;
-    const std::string bytes = writtenFields(file, s);
-    EXPECT_TRUE(readFields(file, bytes, back)) << fileName(file);
-    EXPECT_EQ(writtenFields(file, back), bytes) << fileName(file);
+TEST(SettingsFiles, HoldEveryFieldInItsPlace) {
+  for (const auto& [file, bytes, says] : kGolden) {
+    Settings s;
+    EXPECT_TRUE(readFields(file, FieldReader(bytes), s)) << fileName(file);
+    EXPECT_EQ(told(s), says) << fileName(file);
+    const FieldWriter back = writtenFields(file, s);
+    EXPECT_EQ(back.bytes(), bytes) << fileName(file);
+    EXPECT_EQ(back.companion(), "") << fileName(file) << " holds it all by itself";
   }
-  EXPECT_EQ(writtenFields(SettingsFile::SettingsDat, s), "0\r\n\r\n0\r\n0\r\n1\r\n") << "line 2 stays empty";
+  std::string names;
+  for (const auto& [file, bytes, says] : kGolden) names += std::string(fileName(file)) + " ";
+  EXPECT_EQ(names, "ORVWIN.INI ORVWIN1.INI ORVWIN3.INI ORVWIN4.INI ORVWIN7.INI settings.dat ");
+}
+
+TEST(SettingsFiles, OfAFreshInstallation) {
+  const Settings s = defaultSettings("/data", "/drive");
+  EXPECT_EQ(told(s),
+            "appDir=/data cdProbePath=/drive soundMode=3 font0=,0,0,0,0,5294335 font1=,0,0,0,0,65280 option4=7 searchEngine=DuckDuckGo "
+            "colour0=11051676 colour1=3354155 colour2=4011827 colour3=2828068 colour4=6346776 showLights=1")
+      << "CD Data opens beside the deck";
+  FakeFiles files;
+  files.files["/DATA/ORVWIN7.INI"] = "\"mine\"\r\n";
+  EXPECT_TRUE(writeMissingSettings(files, s));
+  EXPECT_EQ(files.tape,
+            (Tape{"write /data/ORVWIN1.INI", "write /data/ORVWIN3.INI", "write /data/ORVWIN4.INI", "write /data/settings.dat"}));
+}
+
+/// Texts that the file cannot hold lie whole beside it, as long as the file holds what was written for them.
+TEST(SettingsFiles, KeepTextsOfAnyScript) {
+  const std::string folder = "/home/\u044e\u0437\u0435\u0440/\u0434\u0430\u043d\u043d\u044b\u0435";
+  FakeFiles files;
+  Settings s = defaultSettings(folder, "/\u00fc \u0142/\\tray");
+  s.recordCommand = "\"my \u0440\u0438\u043f\" --x\t\n";
+  writeSettings(SettingsFile::Orvwin, files, "/system", s);
+  writeSettings(SettingsFile::Orvwin7, files, "/data", s);
+  EXPECT_EQ(files.files["/SYSTEM/ORVWIN.INI"].substr(0, 35),
+            "\"/home/????"
+            "/??????\"\r\n\"/\xFC l/\\tray\"\r\n");
+  EXPECT_EQ(files.files["/SYSTEM/ORVWIN.INI.UTF8"],
+            "1\t/home/????"
+            "/??????\t" +
+                folder + "\n2\t/\u00fc l/\\\\tray\t/\u00fc \u0142/\\\\tray\n");
+  Settings back;
+  readSettings(SettingsFile::Orvwin, files, "/system", back);
+  readSettings(SettingsFile::Orvwin7, files, "/data", back);
+  EXPECT_EQ(told(back), "appDir=" + folder + " cdProbePath=/\u00fc \u0142/\\tray recordCommand=" + s.recordCommand);
+
+  // Another program of the family wrote the file meanwhile: its text stands.
+  std::string& main = files.files["/SYSTEM/ORVWIN.INI"];
+  main.replace(main.find("????"), 4, "user");
+  readSettings(SettingsFile::Orvwin, files, "/system", back);
+  EXPECT_EQ(back.appDir, "/home/user/??????");
+  // With plain texts the companion goes.
+  s.appDir = s.cdProbePath = "/plain";
+  writeSettings(SettingsFile::Orvwin, files, "/system", s);
+  EXPECT_FALSE(files.exists("/system/ORVWIN.INI.utf8"));
+}
+
+/// Each write of a save in turn fails: the save says so, and the old texts are still there.
+TEST(SettingsFiles, ASaveThatBreaksLosesNothing) {
+  for (int broken = 1; broken <= 2; ++broken) {
+    FakeFiles files;
+    Settings s = defaultSettings("/\u0441\u0442\u0430\u0440", "/drive");
+    writeSettings(SettingsFile::Orvwin, files, "/system", s);
+    const auto before = files.files;
+    s.appDir = "/\u043d\u043e\u0432\u044b\u0439";
+    files.failAt = files.writes() + broken;
+    EXPECT_FALSE(writeSettings(SettingsFile::Orvwin, files, "/system", s)) << broken;
+    EXPECT_EQ(files.files, before) << broken;
+    EXPECT_TRUE(writeSettings(SettingsFile::Orvwin, files, "/system", s));
+    Settings back;
+    readSettings(SettingsFile::Orvwin, files, "/system", back);
+    EXPECT_EQ(back.appDir, s.appDir);
+    EXPECT_EQ(files.files["/SYSTEM/ORVWIN.INI.UTF8"].find("\u0441\u0442"), std::string::npos) << "the old line has gone";
+  }
+  // Cut short between the two files: the old main file still finds its text.
+  FakeFiles files;
+  Settings s = defaultSettings("/\u0430\u0431", "/drive");
+  writeSettings(SettingsFile::Orvwin, files, "/system", s);
+  const std::string main = files.files["/SYSTEM/ORVWIN.INI"];
+  s.appDir = "/\u0430\u0431\u0432";
+  files.failAt = files.writes() + 3;  // the last clean-up
+  EXPECT_TRUE(writeSettings(SettingsFile::Orvwin, files, "/system", s));
+  files.files["/SYSTEM/ORVWIN.INI"] = main;
+  Settings back;
+  readSettings(SettingsFile::Orvwin, files, "/system", back);
+  EXPECT_EQ(back.appDir, "/\u0430\u0431");
+}
+
+TEST(SettingsFiles, WhatCannotBeReadIsNotWrittenOver) {
+  FakeFiles files;
+  files.files["/DATA/ORVWIN4.INI"] = files.files["/DATA/ORVWIN7.INI"] = "\"x\"\r\n";
+  files.unreadable = {"/DATA/ORVWIN4.INI", "/DATA/ORVWIN7.INI"};
+  Settings s;
+  s.recordCommand = "rip";
+  for (const auto file : {SettingsFile::Orvwin4, SettingsFile::Orvwin7}) EXPECT_FALSE(readSettings(file, files, "/data", s));
+  EXPECT_EQ(files.tape, Tape{});
+  EXPECT_EQ(s.recordCommand, "rip");
+  files.files.erase("/DATA/ORVWIN7.INI");
+  readSettings(SettingsFile::Orvwin7, files, "/data", s);
+  EXPECT_EQ(s.recordCommand, "") << "no file, no recorder";
 }
 
 TEST(SettingsFiles, ShortOrBrokenFilesKeepWhatIsHeld) {
   for (const auto file : kAll) {
     Settings s = defaultSettings("/data", "/drive");
-    EXPECT_FALSE(readFields(file, "", s));
+    EXPECT_FALSE(readFields(file, FieldReader(""), s));
     EXPECT_EQ(s.appDir, "/data");
-    readFields(file, std::string(300, '\xFF') + "\"\r\n,,,\"", s);
-    readFields(file, std::string("\0\0\0", 3), s);
+    readFields(file, FieldReader(std::string(300, '\xFF') + "\"\r\n,,,\""), s);
+    readFields(file, FieldReader(std::string("\0\0\0", 3)), s);
   }
   Settings s;
-  readFields(SettingsFile::SettingsDat, "99999999999\r\n\r\n-70000\r\nx\r\n1e9\r\n", s);
+  readFields(SettingsFile::SettingsDat, FieldReader("99999999999\r\n\r\n-70000\r\nx\r\n1e9\r\n"), s);
   EXPECT_EQ(s.timeMode + s.expandedDisplay + s.smallFaceplate, 0) << "what no 16-bit number holds counts as 0";
 }
 

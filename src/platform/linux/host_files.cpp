@@ -3,12 +3,14 @@
 
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <ctime>
 #include <filesystem>
+#include <system_error>
 
 #include "base/text.h"
 #include "platform/linux/unique_fd.h"
@@ -31,17 +33,63 @@ bool writeAll(int fd, std::string_view bytes) {
   return true;
 }
 
+/// A name that differs from `wanted` in letter case alone; "" when the folder has none.
+std::string inFolder(const fs::path& folder, const std::string& wanted) {
+  std::error_code error;
+  for (auto entry = fs::directory_iterator(folder.empty() ? "." : folder, error); !error && entry != fs::directory_iterator();
+       entry.increment(error)) {
+    std::string name = entry->path().filename().string();
+    if (equalsNoCase(name, wanted)) return name;
+  }
+  return {};
+}
+
+/// A file that is reached through a link is replaced where it lies.
+std::string behindLinks(const std::string& path) {
+  std::error_code error;
+  const fs::path real = fs::canonical(path, error);
+  return error ? path : real.string();
+}
+
+mode_t modeOf(const std::string& path) {
+  constexpr mode_t kUsual = 0644;
+  struct stat info {};
+  return ::stat(path.c_str(), &info) == 0 ? info.st_mode & 0777U : kUsual;
+}
+
+/// The errno of what went wrong; 0: all of it is on the disk.
+int putFresh(const std::string& path, std::string_view bytes, mode_t mode) {
+  std::remove(path.c_str());
+  const UniqueFd fd(::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode));
+  if (!fd) return errno;
+  errno = 0;
+  if (writeAll(fd.get(), bytes) && ::fsync(fd.get()) == 0) return 0;
+  return errno != 0 ? errno : EIO;
+}
+
+/// The rename itself is on the disk when its folder is.
+void syncFolder(const std::string& file) {
+  const UniqueFd folder(::open(fs::path(file).parent_path().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  if (folder) ::fsync(folder.get());
+}
+
 }  // namespace
 
 std::string HostFiles::actual(const std::string& path) {
   std::error_code error;
   if (fs::exists(path, error)) return path;
-  const fs::path wanted(path);
-  for (auto entry = fs::directory_iterator(wanted.parent_path(), error); !error && entry != fs::directory_iterator();
-       entry.increment(error)) {
-    if (equalsNoCase(entry->path().filename().string(), wanted.filename().string())) return entry->path().string();
+  fs::path found;
+  bool there = true;
+  for (const fs::path& element : fs::path(path)) {
+    fs::path next = found / element;
+    if (there && !fs::exists(next, error)) {
+      const std::string name = inFolder(found, element.string());
+      there = !name.empty();
+      if (there) next = found / name;
+    }
+    found = next;
   }
-  return path;
+  return found.string();
 }
 
 std::optional<std::string> HostFiles::read(const std::string& path) const {
@@ -55,23 +103,29 @@ std::optional<std::string> HostFiles::read(const std::string& path) const {
   return bytes;
 }
 
-bool HostFiles::write(const std::string& path, std::string_view bytes) {
-  const std::string target = actual(path);
-  const std::string fresh = target + ".new";
-  UniqueFd fd(::open(fresh.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644));
-  if (!fd) return false;
-  const bool whole = writeAll(fd.get(), bytes) && ::fsync(fd.get()) == 0;
-  fd = UniqueFd();
-  if (whole && std::rename(fresh.c_str(), target.c_str()) == 0) return true;
-  std::remove(fresh.c_str());
-  return false;
+bool HostFiles::write(const std::string& path, std::string_view bytes) { return replace(behindLinks(actual(path)), bytes); }
+
+bool HostFiles::writeNamed(const std::string& path, std::string_view bytes) { return replace(behindLinks(path), bytes); }
+
+/// The fresh file's name is this process's own: two that save at once do not write into one another's.
+bool HostFiles::replace(const std::string& target, std::string_view bytes) {
+  const std::string fresh = target + "." + std::to_string(::getpid()) + ".new";
+  error_ = putFresh(fresh, bytes, modeOf(target));
+  if (error_ == 0 && std::rename(fresh.c_str(), target.c_str()) != 0) error_ = errno;
+  if (error_ == 0) {
+    syncFolder(target);
+  } else {
+    std::remove(fresh.c_str());
+  }
+  return error_ == 0;
 }
 
+std::string HostFiles::reason() const { return error_ == 0 ? "" : std::generic_category().message(error_); }
+
 bool HostFiles::remove(const std::string& path) {
-  std::error_code error;
-  const std::string target = actual(path);
-  fs::remove(target, error);
-  return !fs::exists(target, error);
+  const bool gone = std::remove(actual(path).c_str()) == 0 || errno == ENOENT || errno == ENOTDIR;
+  error_ = gone ? 0 : errno;
+  return gone;
 }
 
 bool HostFiles::exists(const std::string& path) const {
@@ -87,15 +141,21 @@ std::optional<FileTime> HostFiles::modified(const std::string& path) const {
 }
 
 bool HostFiles::makeFolder(const std::string& path) {
+  constexpr mode_t kUserAlone = 0700;
+  const std::string target = actual(path);
+  fs::path made;
+  for (const fs::path& element : fs::path(target)) {
+    made /= element;
+    error_ = ::mkdir(made.c_str(), kUserAlone) == 0 || errno == EEXIST ? 0 : errno;
+  }
   std::error_code error;
-  fs::create_directories(path, error);
-  return fs::is_directory(path, error);
+  return fs::is_directory(target, error);
 }
 
 std::vector<std::string> HostFiles::list(const std::string& folder) const {
   std::vector<std::string> names;
   std::error_code error;
-  for (auto entry = fs::directory_iterator(folder, error); !error && entry != fs::directory_iterator(); entry.increment(error)) {
+  for (auto entry = fs::directory_iterator(actual(folder), error); !error && entry != fs::directory_iterator(); entry.increment(error)) {
     names.push_back(entry->path().filename().string());
   }
   std::sort(names.begin(), names.end(), [](const std::string& a, const std::string& b) { return upper(a) < upper(b); });

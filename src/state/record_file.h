@@ -1,0 +1,28 @@
+// A file of the record form together with its companion, read and saved as one.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "platform/ports/files.h"
+#include "state/field_file.h"
+
+namespace orvanta {
+
+struct RecordBytes {
+  std::string bytes;
+  std::string companion;
+
+  FieldReader reader() const { return FieldReader(bytes, companion); }
+};
+
+/// nullopt when the file is missing or cannot be read; a missing companion is an empty one.
+std::optional<RecordBytes> readRecordFile(const Files& files, const std::string& path);
+
+/// False: both files hold what they held before.
+bool writeRecordFile(Files& files, const std::string& path, const FieldWriter& record);
+
+/// True when both are gone afterwards.
+bool removeRecordFile(Files& files, const std::string& path);
+
+}  // namespace orvanta

@@ -1,6 +1,8 @@
-// lxinit FOLDER [DRIVE]: sets up a data folder. Writes ORVWIN.INI, which names it, and every other
-// settings file that it lacks, with good defaults. What is there already is left alone.
+// lxinit FOLDER [DRIVE]: sets up a data folder. Writes ORVWIN.INI, which names it, and every other settings file
+// that it lacks, with good defaults; without DRIVE the tray is a folder of its own, with the demo disc in it. What is
+// there already is left alone.
 #include <cstdio>
+#include <filesystem>
 
 #include "base/text.h"
 #include "platform/linux/host_files.h"
@@ -10,24 +12,51 @@
 namespace orvanta {
 namespace {
 
-/// Records of discs that come with the drive, as that of the demo disc, where the user has none.
-void takeRecords(HostFiles& files, const Settings& settings) {
-  for (const std::string& name : files.list(settings.cdProbePath)) {
-    const std::string own = joinPath(joinPath(settings.appDir, "datacd"), name);
-    if (!endsWithNoCase(name, ".CD") || files.exists(own)) continue;
-    if (const auto bytes = files.read(joinPath(settings.cdProbePath, name))) files.write(own, *bytes);
+namespace fs = std::filesystem;
+
+/// The files of that ending that a folder has and another lacks.
+void takeFiles(HostFiles& files, const std::string& from, const std::string& to, const char* ending) {
+  for (const std::string& name : files.list(from)) {
+    const std::string own = joinPath(to, name);
+    if (!endsWithNoCase(name, ending) || files.exists(own)) continue;
+    if (const auto bytes = files.read(joinPath(from, name))) files.write(own, *bytes);
   }
 }
 
-/// The deck's sounds, where the user has none of that name.
-void takeSounds(HostFiles& files, const std::string& from, const Settings& settings) {
-  const std::string folder = joinPath(settings.appDir, "system");
-  if (!files.makeFolder(folder)) return;
-  for (const std::string& name : files.list(from)) {
-    const std::string own = joinPath(folder, name);
-    if (!endsWithNoCase(name, ".WAV") || files.exists(own)) continue;
-    if (const auto bytes = files.read(joinPath(from, name))) files.write(own, *bytes);
+/// The sheets of the demo disc, as links: its sound stays where it is installed. A link whose disc has moved is renewed.
+void linkDemo(const HostFiles& files, const std::string& demo, const std::string& drive) {
+  for (const std::string& name : files.list(demo)) {
+    const std::string own = joinPath(drive, name);
+    if (!endsWithNoCase(name, ".CUE") || files.exists(own)) continue;
+    std::error_code error;
+    if (fs::is_symlink(own, error)) fs::remove(own, error);
+    fs::create_symlink(joinPath(demo, name), own, error);
   }
+}
+
+/// ORVWIN.INI with its folders: a whole one is left alone, of a short one what it says is kept.
+bool nameFolder(HostFiles& files, const HostSystem& system, const Settings& settings) {
+  const std::string path = joinPath(system.systemDir(), fileName(SettingsFile::Orvwin));
+  if (files.exists(path) && !files.read(path)) return false;
+  Settings held = settings;
+  if (readSettings(SettingsFile::Orvwin, files, system.systemDir(), held)) return true;
+  if (held.appDir.empty()) held.appDir = settings.appDir;
+  if (held.cdProbePath.empty()) held.cdProbePath = settings.cdProbePath;
+  return files.makeFolder(system.systemDir()) && writeSettings(SettingsFile::Orvwin, files, system.systemDir(), held);
+}
+
+bool setUp(HostFiles& files, const HostSystem& system, const Settings& settings) {
+  const std::string& folder = settings.appDir;
+  if (!writeMissingSettings(files, settings) || !nameFolder(files, system, settings)) return false;
+  if (settings.cdProbePath == HostSystem::usualDrive(folder) && files.makeFolder(settings.cdProbePath)) {
+    linkDemo(files, system.demoFolder(), settings.cdProbePath);
+    takeFiles(files, system.demoFolder(), joinPath(folder, "datacd"), ".CD");
+  }
+  // Records of discs that come with the drive, and the deck's sounds.
+  takeFiles(files, settings.cdProbePath, joinPath(folder, "datacd"), ".CD");
+  const std::string sounds = joinPath(folder, "system");
+  if (files.makeFolder(sounds)) takeFiles(files, joinPath(system.windowsDir(), "../share/orvanta/system"), sounds, ".WAV");
+  return true;
 }
 
 int run(int argc, char** argv) {
@@ -38,14 +67,9 @@ int run(int argc, char** argv) {
   }
   const std::string folder = argv[1];
   HostFiles files;
-  const Settings settings = defaultSettings(folder, argc > 2 ? argv[2] : system.usualDrive(folder));
-  const std::string home = joinPath(system.systemDir(), fileName(SettingsFile::Orvwin));
-  bool done = writeMissingSettings(files, settings) && files.makeFolder(system.systemDir());
-  if (done && !files.exists(home)) done = writeSettings(SettingsFile::Orvwin, files, system.systemDir(), settings);
-  if (done) takeRecords(files, settings);
-  if (done) takeSounds(files, joinPath(system.windowsDir(), "../share/orvanta/system"), settings);
-  if (!done) std::fprintf(stderr, "lxinit: %s cannot be written\n", folder.c_str());
-  return done ? 0 : 1;
+  if (setUp(files, system, defaultSettings(folder, argc > 2 ? argv[2] : HostSystem::usualDrive(folder)))) return 0;
+  std::fprintf(stderr, "lxinit: %s cannot be set up: %s\n", folder.c_str(), files.reason().c_str());
+  return 1;
 }
 
 }  // namespace

@@ -7,14 +7,18 @@ namespace orvanta {
 
 namespace {
 
-/// "D:\TRACK05.CDA" has its number from character 9 on. Any other shape, as a name with a folder,
-/// is read from character 17. A host path has no drive letter: the file's name is put behind one.
+constexpr double kMostTracks = 99;
+
+/// "D:\TRACK05.CDA" has its number from character 9 on. Any other shape, as a name with a folder, is read from
+/// character 17. A host path has no drive letter, nor has a bare name: the file's name is put behind one. 0 for a
+/// number that no disc has.
 int trackNumberOf(std::string line) {
-  const auto slash = line.rfind('/');
-  if (slash != std::string::npos) line = "D:\\" + line.substr(slash + 1);
+  const bool withDrive = line.size() > 1 && line[1] == ':';
+  if (!withDrive) line = "D:\\" + line.substr(line.rfind('/') + 1);
   const bool atRoot = line.size() >= 8 && line.substr(3, 5) == "TRACK";
   const size_t start = atRoot ? 8 : 16;
-  return line.size() > start ? static_cast<int>(leadingNumber(line.substr(start))) : 0;
+  const double number = line.size() > start ? leadingNumber(line.substr(start)) : 0;
+  return number >= 1 && number <= kMostTracks ? static_cast<int>(number) : 0;
 }
 
 }  // namespace

@@ -74,6 +74,7 @@ int run(int argc, char** argv) {
   if (options.version) return std::fputs("Orvanta LX " ORVANTA_VERSION "\n" ORVANTA_LICENCES, stdout) < 0 ? 1 : 0;
 
   HostFiles files;
+  HostProcesses processes;
   HostSystem system(options.handedOn());
   // The drive's thread reads the disc while Qt starts.
   const auto [data, path] = placesOf(options.host, files, system.systemDir());
@@ -99,7 +100,7 @@ int run(int argc, char** argv) {
   QtScreen screen(scale);
   QtDialogs dialogs(gate, screen);
   QtDesktop desktop(gate, scale);
-  HostProcesses processes([&clock] { clock.yield(); });
+  processes.setYield([&clock] { clock.yield(); });
   QtPrinter printer(gate);
   MciDevice device(*player, clock);
   DriveTray tray(*player, real ? "" : path);

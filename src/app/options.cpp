@@ -1,6 +1,7 @@
 // Options before words.
 #include "app/options.h"
 
+#include "app/command_line.h"
 #include "base/text.h"
 
 namespace orvanta {
@@ -62,6 +63,11 @@ Options readOptions(const std::vector<std::string>& arguments, const std::string
     }
   }
   for (; i < arguments.size(); ++i) options.host.words += (options.host.words.empty() ? "" : " ") + arguments[i];
+  // A program is run in its own folder: a path that starts here must not be looked for there.
+  const std::string& words = options.host.words;
+  if (words.find('/') != std::string::npos && classify(words).kind == CommandLine::Kind::Program) {
+    options.host.words = absolute(words, currentFolder);
+  }
   return options;
 }
 

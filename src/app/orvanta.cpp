@@ -32,7 +32,7 @@ Orvanta::Orvanta(Ports& ports)
       drawer_(ports, engine_, sounds_, form, state, *this),
       exit_(ports, volume_, sounds_, form, state),
       restart_(ports, volume_, state),
-      record_(ports, position_, volume_, form, state),
+      record_(ports, position_, volume_, restart_, form, state),
       faceplate_(ports, {discLoad_, layer_, engine_, modes_, clock_, buttons_, colours_, position_, layout_, volume_, sounds_}, form, state,
                  *this) {
   form.setEvents(&faceplate_);
@@ -87,6 +87,10 @@ void Orvanta::volumeKey(bool up) {
   } else {
     volume_.stepBoth(up ? 1 : -1);
   }
+}
+
+void Orvanta::record() {
+  if (record_.ready()) record_.run();
 }
 
 void Orvanta::runSetup() {

@@ -49,7 +49,7 @@ class Orvanta : private PlaybackUpward, private LibraryUpward {
   void showNoDisc() override { colours_.disabledLook(); }
   void restartForDisc() override { restart_.forDisc(); }
   void runSetup() override;
-  void record() override { record_.run(); }
+  void record() override;
   void runMixer() override { sounds_.runMixer(); }
   void muteKey() override;
   void volumeKey(bool up) override;

@@ -5,10 +5,11 @@
 #include "platform/ports/cd_device.h"
 #include "platform/ports/clock.h"
 #include "platform/ports/core_gate.h"
+#include "platform/ports/dialogs.h"
 #include "platform/ports/files.h"
-#include "platform/ports/processes.h"
 #include "state/field_file.h"
 #include "state/marker_files.h"
+#include "state/not_written.h"
 #include "state/settings_files.h"
 
 namespace orvanta {
@@ -19,7 +20,43 @@ constexpr size_t kNotes = 30;  ///< characters of the liner notes that the recor
 
 }  // namespace
 
+ProcessRequest RecorderLaunch::request() const {
+  const Settings& settings = state_.settings;
+  if (usersOwn())
+    return {splitCommand(settings.recordCommand, ports_.files.exists(settings.recordCommand)), settings.appDir, WindowStyle::Normal};
+  return {{joinPath(state_.process.windowsDir, "orvrec"), "2" + settings.appDir}, settings.appDir, WindowStyle::Normal};
+}
+
+void RecorderLaunch::tellNotStarted() {
+  const auto arguments = request().arguments;
+  ports_.dialogs.message(BoxStyle::Warning, "Orvanta",
+                         "The recorder " + (arguments.empty() ? state_.settings.recordCommand : arguments.front()) +
+                             " could not be started.\n\nAccess the Orvanta Setup Section to choose another one.");
+}
+
+bool RecorderLaunch::ready() {
+  const auto arguments = request().arguments;
+  const bool there = !arguments.empty() && ports_.processes.canStart(arguments.front());
+  if (!there) tellNotStarted();
+  return there;
+}
+
 void RecorderLaunch::run() {
+  const std::string& folder = state_.settings.appDir;
+  const std::string file = joinPath(folder, "audiocd.dat");
+  // Nothing is let go of before the recorder can have what it needs.
+  if (!usersOwn() && !ports_.files.write(file, texts())) {
+    tellNotWritten(ports_.dialogs, ports_.files, file);
+    return;
+  }
+  letGo();
+  if (!usersOwn()) ports_.clock.delaySeconds(1);
+  if (ports_.processes.start(request()) != 0) end();
+  tellNotStarted();
+  restart_.forDisc();
+}
+
+void RecorderLaunch::letGo() {
   const Settings& settings = state_.settings;
   state_.transport.playingFlag = state_.transport.pausedFlag = kOff;
   for (auto& mask : form_.icntlb) mask.visible = true;
@@ -34,18 +71,9 @@ void RecorderLaunch::run() {
   form_.icntlc[Record].visible = true;
   form_.minimised = true;
   clearMarker(ports_.files, settings.appDir, kRunningMarker);
-  if (!settings.recordCommand.empty()) {
-    ports_.processes.start(
-        {splitCommand(settings.recordCommand, ports_.files.exists(settings.recordCommand)), settings.appDir, WindowStyle::Normal});
-    end();
-  }
-  writeTexts();
-  ports_.clock.delaySeconds(1);
-  ports_.processes.start({{joinPath(state_.process.windowsDir, "orvrec"), "2" + settings.appDir}, settings.appDir, WindowStyle::Normal});
-  end();
 }
 
-void RecorderLaunch::writeTexts() {
+std::string RecorderLaunch::texts() const {
   const DiscState& disc = state_.disc;
   FieldWriter out;
   out.text(disc.discArtist);
@@ -56,7 +84,7 @@ void RecorderLaunch::writeTexts() {
   out.text(notes.empty() ? disc.discInfo[4] : notes);
   out.text(disc.discInfo[5]);
   out.text(disc.extraInfo[2]);
-  ports_.files.write(joinPath(state_.settings.appDir, "audiocd.dat"), out.bytes());
+  return out.bytes();
 }
 
 }  // namespace orvanta

@@ -1,9 +1,11 @@
 // The record key: the disc goes to the recorder, and this program ends.
 #pragma once
 
+#include "app/restart.h"
 #include "faceplate/position.h"
 #include "faceplate/volume.h"
 #include "platform/ports/ports.h"
+#include "platform/ports/processes.h"
 #include "state/shared_state.h"
 #include "windows/cdform.h"
 
@@ -11,17 +13,25 @@ namespace orvanta {
 
 class RecorderLaunch {
  public:
-  RecorderLaunch(Ports& ports, Position& position, Volume& volume, CDForm& form, SharedState& state)
-      : ports_(ports), position_(position), volume_(volume), form_(form), state_(state) {}
-  /// Saves, lets go of the drive, starts the recorder with the disc's texts, and ends the process.
-  [[noreturn]] void run();
+  RecorderLaunch(Ports& ports, Position& position, Volume& volume, Restart& restart, CDForm& form, SharedState& state)
+      : ports_(ports), position_(position), volume_(volume), restart_(restart), form_(form), state_(state) {}
+  /// There is a recorder to be started; else the user is told.
+  bool ready();
+  /// Saves, lets go of the drive, starts the recorder with the disc's texts, and ends the process. A recorder that does
+  /// not start is told, and the deck takes its disc up again.
+  void run();
 
  private:
-  void writeTexts();
+  bool usersOwn() const { return !state_.settings.recordCommand.empty(); }
+  ProcessRequest request() const;
+  std::string texts() const;
+  void tellNotStarted();
+  void letGo();
 
   Ports& ports_;
   Position& position_;
   Volume& volume_;
+  Restart& restart_;
   CDForm& form_;
   SharedState& state_;
 };

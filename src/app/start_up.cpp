@@ -16,9 +16,25 @@
 
 namespace orvanta {
 
+namespace {
+
+/// The folders of ORVWIN.INI. One that is cut short behind them serves as well as a whole one.
+bool readPlaces(Files& files, const std::string& systemDir, Settings& settings) {
+  readSettings(SettingsFile::Orvwin, files, systemDir, settings);
+  return !settings.appDir.empty() && !settings.cdProbePath.empty();
+}
+
+}  // namespace
+
+bool setUpFirstStart(const Files& files, Processes& processes, const System& system) {
+  if (files.exists(joinPath(system.systemDir(), fileName(SettingsFile::Orvwin)))) return true;
+  const std::string helper = joinPath(system.windowsDir(), "lxinit");
+  return files.exists(helper) && processes.runAndWait({{helper, system.defaultDataDir()}, "", WindowStyle::Normal}) == 0;
+}
+
 Places placesOf(const HostOptions& options, Files& files, const std::string& systemDir) {
   Settings settings;
-  readSettings(SettingsFile::Orvwin, files, systemDir, settings);
+  readPlaces(files, systemDir, settings);
   Places places{settings.appDir, settings.cdProbePath};
   if (!options.dataDir.empty()) {
     places.dataDir = options.dataDir;
@@ -44,10 +60,14 @@ void StartUp::run(const HostOptions& options) {
 
 /// A program named on the command line is run in its own folder, in our place. One that is not
 /// there is a plain start.
-void StartUp::runProgram(const std::string& line) {
+void StartUp::runProgram(const std::string& words) {
+  const std::string line(trim(words));
   if (classify(line).kind != CommandLine::Kind::Program || !ports_.files.exists(line)) return;
   const auto slash = line.rfind('/');
-  ports_.processes.start({{line}, slash == std::string::npos ? "" : line.substr(0, slash), WindowStyle::Normal});
+  const std::string folder = slash == std::string::npos ? "" : line.substr(0, slash);
+  if (ports_.processes.start({{line}, folder, WindowStyle::Normal}) == 0) {
+    ports_.dialogs.message(BoxStyle::Warning, "Orvanta", line + " could not be started.");
+  }
   end();
 }
 
@@ -59,33 +79,52 @@ void StartUp::measureScreen() {
 }
 
 void StartUp::findData(const HostOptions& options) {
-  const bool known = readSettings(SettingsFile::Orvwin, ports_.files, state_.process.systemDir, state_.settings);
-  if (!known && options.dataDir.empty()) askForSetup();
+  if (options.dataDir.empty()) {
+    const std::string& folder = state_.process.systemDir;
+    bool known = readPlaces(ports_.files, folder, state_.settings);
+    if (!known && setUpFirstStart(ports_.files, ports_.processes, ports_.system)) known = readPlaces(ports_.files, folder, state_.settings);
+    if (!known) askForSetup();
+  }
   const Places places = placesOf(options, ports_.files, state_.process.systemDir);
   state_.settings.appDir = places.dataDir;
   state_.settings.cdProbePath = places.drive;
   if (!options.dataDir.empty()) writeMissingSettings(ports_.files, defaultSettings(places.dataDir, places.drive));
 }
 
-/// Without ORVWIN.INI nothing is known. The setup helper writes it, for the usual folder or for one
-/// that the user names; then a fresh start is needed.
+/// Without ORVWIN.INI, or with one that cannot be read, nothing is known. The setup helper writes it, for the usual
+/// folder or, where that cannot be had, for one that the user names; then a fresh start is needed.
 void StartUp::askForSetup() {
   ports_.screen.setPointer(Pointer::Normal);
-  const auto setUp = [&](const std::string& program, const std::string& folder) {
-    ports_.processes.runAndWait({{program, folder}, "", WindowStyle::Normal});
-    ports_.dialogs.message(BoxStyle::Information, "Orvanta LX Setup Wizard",
-                           "Orvanta LX setup file successfully initialized; please restart Orvanta LX.");
-    end();
-  };
   const std::string usual = ports_.system.defaultDataDir();
   const std::string helper = joinPath(state_.process.windowsDir, "lxinit");
-  if (ports_.files.exists(helper)) setUp(helper, usual);
+  if (ports_.files.exists(helper) && setUp(helper, usual)) end();
   const std::string other = joinPath(state_.process.windowsDir, "orvinit");
   for (int tries = 0; tries < 2; ++tries) {
     const auto answer =
         ports_.dialogs.askText("Orvanta LX", "Location of Orvanta LX Data File(s) Not Found, Please Enter Full Path:", usual);
     if (!answer || answer->empty() || answer->front() != '/') end();
-    if (ports_.files.exists(other)) setUp(other, *answer);
+    if (ports_.files.exists(other) && setUp(other, *answer)) end();
+  }
+  end();
+}
+
+/// True, and told, when the helper has set the folder up.
+bool StartUp::setUp(const std::string& program, const std::string& folder) {
+  if (ports_.processes.runAndWait({{program, folder}, "", WindowStyle::Normal}) == 0) {
+    ports_.dialogs.message(BoxStyle::Information, "Orvanta LX Setup Wizard",
+                           "Orvanta LX setup file successfully initialized; please restart Orvanta LX.");
+    return true;
+  }
+  ports_.dialogs.message(BoxStyle::Warning, "Orvanta LX Setup Wizard", "The folder " + folder + " could not be set up for Orvanta LX.");
+  return false;
+}
+
+/// The settings have gone, with their folder or alone: the setup program makes them anew, in our place.
+void StartUp::runSetup(const std::string& folder) {
+  const std::string program = joinPath(state_.process.windowsDir, "orvsetup");
+  if (ports_.processes.start({{program, "INITSETUPLX"}, folder, WindowStyle::Normal}) == 0) {
+    ports_.dialogs.message(BoxStyle::Critical, "Orvanta LX Setup Wizard",
+                           "The settings in " + folder + " have gone, and " + program + " could not be started.");
   }
   end();
 }
@@ -93,10 +132,7 @@ void StartUp::askForSetup() {
 void StartUp::readSettingsFiles() {
   Settings& settings = state_.settings;
   const std::string& folder = settings.appDir;
-  if (!ports_.files.exists(joinPath(folder, "orvwin1.ini"))) {
-    ports_.processes.start({{joinPath(state_.process.windowsDir, "orvsetup"), "INITSETUPLX"}, folder, WindowStyle::Normal});
-    end();
-  }
+  if (!ports_.files.exists(joinPath(folder, "orvwin1.ini"))) runSetup(folder);
   for (const auto file :
        {SettingsFile::Orvwin1, SettingsFile::Orvwin7, SettingsFile::SettingsDat, SettingsFile::Orvwin3, SettingsFile::Orvwin4}) {
     readSettings(file, ports_.files, folder, settings);

@@ -23,6 +23,10 @@ struct Places {
 };
 Places placesOf(const HostOptions& options, Files& files, const std::string& systemDir);
 
+/// A first start, one without ORVWIN.INI, sets itself up in the usual folder, without a word. False when that did not
+/// come about; a start that is none changes nothing.
+bool setUpFirstStart(const Files& files, Processes& processes, const System& system);
+
 class StartUp {
  public:
   StartUp(Ports& ports, SharedState& state) : ports_(ports), state_(state) {}
@@ -30,10 +34,12 @@ class StartUp {
   void run(const HostOptions& options);
 
  private:
-  void runProgram(const std::string& line);
+  void runProgram(const std::string& words);
   void measureScreen();
   void findData(const HostOptions& options);
   [[noreturn]] void askForSetup();
+  bool setUp(const std::string& program, const std::string& folder);
+  [[noreturn]] void runSetup(const std::string& folder);
   void readSettingsFiles();
   void takeWord(const std::string& line);
 

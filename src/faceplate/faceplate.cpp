@@ -54,7 +54,7 @@ void Faceplate::load() {
   if (disc && leadingNumber(state_.process.commandWord) > 0) {
     playTrackOfCommandLine();
   } else if (state_.settings.appOptions[3] == 1) {
-    upward_.runMixer();
+    on_.sounds.runMixerAtStart();
   }
   on_.clock.start();
 }

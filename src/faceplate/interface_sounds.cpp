@@ -27,8 +27,6 @@ constexpr const char* kNoMixer =
     "You may also use the standard Windows Volume Control Application SNDVOL32.EXE located in your Windows directory.\n\n"
     "Note:  Access the Orvanta Setup Section to enter or change mixer settings.";
 
-std::string programOf(const std::string& path) { return path.substr(path.rfind('/') + 1); }
-
 }  // namespace
 
 void InterfaceSounds::play(Sound sound) {
@@ -39,16 +37,33 @@ void InterfaceSounds::play(Sound sound) {
 
 void InterfaceSounds::beep() { ports_.sounds.beep(); }
 
-void InterfaceSounds::runMixer() {
+std::vector<std::string> InterfaceSounds::mixer() const {
   const std::string& command = state_.settings.mixerPath;
-  if (command.empty()) {
+  return splitCommand(command, ports_.files.exists(command));
+}
+
+void InterfaceSounds::runMixer() {
+  const auto arguments = mixer();
+  if (arguments.empty()) {
     ports_.dialogs.message(BoxStyle::Warning, "Orvanta", kNoMixer);
-    return;
+  } else if (!known_.runsAlready(arguments.front())) {
+    start(arguments);
   }
-  const auto arguments = splitCommand(command, ports_.files.exists(command));
-  if (arguments.empty() || ports_.processes.nameRuns(programOf(arguments.front()))) return;
+}
+
+void InterfaceSounds::runMixerAtStart() {
+  const auto arguments = mixer();
+  if (arguments.empty()) {
+    runMixer();
+  } else if (!known_.runs(arguments.front())) {
+    start(arguments);
+  }
+}
+
+void InterfaceSounds::start(const std::vector<std::string>& mixer) {
   play(Sound::Mixer);
-  ports_.processes.start({arguments, "", WindowStyle::Normal});
+  if (ports_.processes.start({mixer, "", WindowStyle::Normal}) != 0) return;
+  ports_.dialogs.message(BoxStyle::Warning, "Orvanta", "The mixer " + mixer.front() + " could not be started.");
 }
 
 }  // namespace orvanta

@@ -115,11 +115,14 @@ class FakeProcesses : public Processes {
     return fail ? 0 : static_cast<Id>(tape.size());
   }
   bool running(Id id) const override { return alive.count(id) > 0; }
-  bool runAndWait(const ProcessRequest& request) override { return start(request) != 0; }
+  int runAndWait(const ProcessRequest& request) override { return start(request) != 0 ? exitCode : -1; }
   bool nameRuns(const std::string& program) const override { return names.count(program) > 0; }
+  bool canStart(const std::string& program) const override { return missing.count(program) == 0; }
 
   Tape tape;
   std::set<Id> alive;
+  std::set<std::string> missing;  ///< programs that are not there
+  int exitCode = 0;               ///< of what is waited for
   std::set<std::string> names;
   bool fail = false;
   std::function<void()> onStart;

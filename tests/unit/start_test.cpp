@@ -22,7 +22,9 @@ TEST(CommandLineWords, AreSortedByTheirEnding) {
         Case{"orvlite", Kind::Word, "ORVLITE", 0}, Case{"audiocd", Kind::Word, "AUDIOCD", 0},
         Case{"D:\\Track05.cda", Kind::TrackFile, "AUDIOCD1", 5}, Case{"/media/cd/Track12.cda", Kind::TrackFile, "AUDIOCD1", 12},
         Case{"D:\\FOLDER\\TRACK09.CDA", Kind::TrackFile, "AUDIOCD1", 9}, Case{"D:\\X.CDA", Kind::TrackFile, "AUDIOCD1", 0},
-        Case{"tool.exe", Kind::Program, "", 0}}) {
+        Case{"track02.cda", Kind::TrackFile, "AUDIOCD1", 2}, Case{"sub/Track03.cda", Kind::TrackFile, "AUDIOCD1", 3},
+        Case{"TRACK65538.CDA", Kind::TrackFile, "AUDIOCD1", 0}, Case{"TRACK100.CDA", Kind::TrackFile, "AUDIOCD1", 0},
+        Case{"TRACK-1.CDA", Kind::TrackFile, "AUDIOCD1", 0}, Case{"tool.exe", Kind::Program, "", 0}}) {
     const CommandLine found = classify(line);
     EXPECT_EQ(found.kind, kind) << line;
     EXPECT_EQ(found.word, word) << line;
@@ -39,6 +41,10 @@ TEST(Options, StandBeforeTheWords) {
   EXPECT_EQ(options.host.words, "TRACK05.CDA --data");
   EXPECT_EQ(options.disc, "/a/b.cue");
   EXPECT_EQ(options.handedOn(), (Tape{"--take-over", "--data", "/cur/here", "--audio", "file:/cur/x.wav", "--scale", "1.500000"}));
+  const auto words = [](const char* word) { return readOptions({word}, "/cur").host.words; };
+  EXPECT_EQ(words("bin/tool.exe") + " " + words("tool.exe") + " " + words("/opt/tool.exe") + " " + words("sub/track02.cda"),
+            "/cur/bin/tool.exe tool.exe /opt/tool.exe sub/track02.cda")
+      << "a program's folder is where this start was made";
   for (const char* bad : {"--what", "--scale=0", "--audio=loud", "--data"}) EXPECT_NE(readOptions({bad}, "/").error, "") << bad;
 }
 
@@ -141,30 +147,79 @@ TEST(Start, EndsSilentlyWhenAnotherPlayerHasTheDrive) {
   EXPECT_EQ(rig.dialogs.tape, Tape{});
 }
 
-TEST(Start, WithoutSettingsAsksOrSetsUp) {
-  CoreRig helped;
-  helped.files.files["/PROGRAMS/LXINIT"] = "";
-  helped.start();
-  EXPECT_EQ(helped.processes.tape, Tape{"/programs/lxinit /usual"});
-  EXPECT_EQ(helped.dialogs.tape,
-            Tape{"Orvanta LX Setup Wizard: Orvanta LX setup file successfully initialized; please restart Orvanta LX."});
-  EXPECT_TRUE(helped.gate.ended());
+TEST(Start, TheFirstOneSetsItselfUp) {
+  CoreRig rig;
+  rig.files.files["/PROGRAMS/LXINIT"] = "";
+  rig.processes.onStart = [&] { rig.install(); };
+  rig.player.insert(discA());
+  rig.start();
+  rig.clock.advance(100);
+  EXPECT_EQ(rig.processes.tape, Tape{"/programs/lxinit /usual"});
+  EXPECT_EQ(rig.dialogs.tape, Tape{});
+  EXPECT_EQ(rig.track(), "3") << "the deck goes on with what was set up";
+}
 
-  for (const auto& [answers, boxes] : {std::pair{std::deque<std::optional<std::string>>{}, 1U}, {{"C"}, 1U}, {{"/x", "/y"}, 2U}}) {
-    CoreRig asked;
-    asked.dialogs.answers = answers;
-    asked.start();
-    EXPECT_EQ(asked.dialogs.tape.size(), boxes);
-    EXPECT_TRUE(asked.gate.ended());
-    EXPECT_EQ(asked.processes.tape, Tape{});
+/// ORVWIN.INI is missing, or there and useless, and the helpers do this or that.
+TEST(Start, WithoutFoldersAsksOrSetsUp) {
+  const std::string box = "Orvanta LX Setup Wizard: ";
+  const std::string good = box + "Orvanta LX setup file successfully initialized; please restart Orvanta LX.";
+  const auto bad = [&](const char* folder) { return box + "The folder " + folder + " could not be set up for Orvanta LX."; };
+  const std::string ask = "Orvanta LX? Location of Orvanta LX Data File(s) Not Found, Please Enter Full Path:";
+  using Answers = std::deque<std::optional<std::string>>;
+  struct Case {
+    const char* what;
+    bool useless, helpers;
+    int exitCode;
+    Answers answers;
+    Tape started, boxes;
+  };
+  for (const auto& [what, useless, helpers, exitCode, answers, started, boxes] : {
+           Case{"told to start again", true, true, 0, {}, {"/programs/lxinit /usual"}, {good}},
+           Case{"a helper that fails is no success", true, true, 1, {}, {"/programs/lxinit /usual"}, {bad("/usual"), ask}},
+           Case{"nor at a first start",
+                false,
+                true,
+                1,
+                {"/x"},
+                {"/programs/lxinit /usual", "/programs/lxinit /usual", "/programs/orvinit /x"},
+                {bad("/usual"), ask, bad("/x"), ask}},
+           Case{"cancelled", false, false, 0, {}, {}, {ask}},
+           Case{"no path", false, false, 0, {"C"}, {}, {ask}},
+           Case{"asked twice", false, false, 0, {"/x", "/y"}, {}, {ask, ask}},
+       }) {
+    CoreRig rig;
+    if (useless) rig.files.files["/SYSTEM/ORVWIN.INI"] = "\"\"\r\n";
+    if (helpers) rig.files.files["/PROGRAMS/LXINIT"] = rig.files.files["/PROGRAMS/ORVINIT"] = "";
+    rig.processes.exitCode = exitCode;
+    rig.dialogs.answers = answers;
+    rig.start();
+    EXPECT_EQ(rig.processes.tape, started) << what;
+    EXPECT_EQ(rig.dialogs.tape, boxes) << what;
+    EXPECT_TRUE(rig.gate.ended()) << what;
   }
+}
 
-  CoreRig half;
-  half.settings.appDir = "/data";
-  writeSettings(SettingsFile::Orvwin, half.files, "/system", half.settings);
-  half.start();
-  EXPECT_EQ(half.processes.tape, Tape{"/programs/orvsetup INITSETUPLX"});
-  EXPECT_TRUE(half.gate.ended());
+TEST(Start, WithAShortFileOfFoldersGoesOn) {
+  CoreRig rig;
+  rig.install();
+  rig.files.files["/SYSTEM/ORVWIN.INI"] = "\"/data\"\r\n\"/drive\"\r\n";
+  rig.start();
+  EXPECT_FALSE(rig.gate.ended());
+  EXPECT_EQ(rig.state.settings.appDir + rig.state.settings.cdProbePath, "/data/drive");
+  EXPECT_EQ(rig.processes.tape, Tape{});
+}
+
+TEST(Start, WithoutItsDataFolderRunsTheSetup) {
+  for (const bool starts : {true, false}) {
+    CoreRig rig;
+    rig.settings.appDir = "/data";
+    writeSettings(SettingsFile::Orvwin, rig.files, "/system", rig.settings);
+    rig.processes.fail = !starts;
+    rig.start();
+    EXPECT_EQ(rig.processes.tape, Tape{"/programs/orvsetup INITSETUPLX"});
+    EXPECT_EQ(rig.dialogs.tape.size(), starts ? 0U : 1U) << "never without a word";
+    EXPECT_TRUE(rig.gate.ended());
+  }
 }
 
 TEST(Exit, SavesStopsAndIsTheEnd) {

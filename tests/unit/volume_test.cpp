@@ -181,6 +181,7 @@ TEST(Volume, TheRightButtonTakesTheSlidersAway) {
   const size_t started = rig.processes.tape.size();
   rig.press(rig.form.Command3D16);
   EXPECT_EQ(rig.processes.tape.size(), started) << "it runs already";
+  EXPECT_EQ(rig.dialogs.tape.back().substr(0, 35), "Orvanta: MIXER Application Already ");
   rig.right(rig.form.Command3D16);
   EXPECT_EQ(rig.state.settings.soundMode, 3);
   EXPECT_EQ(rig.form.SSPanel1.top, 1132);

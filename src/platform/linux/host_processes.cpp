@@ -4,13 +4,16 @@
 #include <fcntl.h>
 #include <poll.h>
 #include <spawn.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <chrono>
 #include <csignal>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <sstream>
 #include <thread>
 
 #include "base/text.h"
@@ -18,44 +21,109 @@
 
 namespace orvanta {
 
-Processes::Id HostProcesses::start(const ProcessRequest& request) {
-  if (request.arguments.empty()) return 0;
-  std::vector<char*> arguments;
-  for (const std::string& argument : request.arguments) arguments.push_back(const_cast<char*>(argument.c_str()));
-  arguments.push_back(nullptr);
-  posix_spawn_file_actions_t actions;
-  posix_spawn_file_actions_init(&actions);
-  if (!request.folder.empty()) posix_spawn_file_actions_addchdir_np(&actions, request.folder.c_str());
+namespace {
+
+namespace fs = std::filesystem;
+
+std::vector<char*> pointersTo(const std::vector<std::string>& texts) {
+  std::vector<char*> all;
+  all.reserve(texts.size() + 1);
+  for (const std::string& text : texts) all.push_back(const_cast<char*>(text.c_str()));
+  all.push_back(nullptr);
+  return all;
+}
+
+/// With no signal held back: this program waits for some of its own in another way. 0 when it cannot be started.
+pid_t spawn(const std::vector<std::string>& arguments, const posix_spawn_file_actions_t& actions, char** environment) {
+  posix_spawnattr_t attributes;
+  posix_spawnattr_init(&attributes);
+  sigset_t none;
+  sigemptyset(&none);
+  posix_spawnattr_setsigmask(&attributes, &none);
+  posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSIGMASK);
   pid_t pid = 0;
-  const int error = posix_spawnp(&pid, arguments[0], &actions, nullptr, arguments.data(), environ);
-  posix_spawn_file_actions_destroy(&actions);
+  const int error = posix_spawnp(&pid, arguments[0].c_str(), &actions, &attributes, pointersTo(arguments).data(), environment);
+  posix_spawnattr_destroy(&attributes);
   return error == 0 ? pid : 0;
 }
 
-bool HostProcesses::running(Id id) const {
-  if (id <= 0 || ended_[id]) return false;
-  int status = 0;
-  if (::waitpid(id, &status, WNOHANG) != 0) ended_[id] = true;
-  return !ended_[id];
+/// The name and state of a process of this user that lives: "12 (name) S ..."; "" for any other.
+std::string livingName(const fs::path& process) {
+  struct stat info {};
+  if (::stat(process.c_str(), &info) != 0 || info.st_uid != ::getuid()) return {};
+  std::ifstream file(process / "stat");
+  std::string line;
+  std::getline(file, line);
+  const auto open = line.find('(');
+  const auto close = line.rfind(')');
+  if (open == std::string::npos || close == std::string::npos || close + 2 >= line.size()) return {};
+  const char state = line[close + 2];
+  return state == 'Z' || state == 'X' ? "" : line.substr(open + 1, close - open - 1);
 }
 
-bool HostProcesses::runAndWait(const ProcessRequest& request) {
+bool isProgram(const std::string& path) {
+  std::error_code error;
+  return fs::is_regular_file(path, error) && ::access(path.c_str(), X_OK) == 0;
+}
+
+}  // namespace
+
+HostProcesses::HostProcesses() {
+  for (char** variable = environ; variable != nullptr && *variable != nullptr; ++variable) environment_.emplace_back(*variable);
+}
+
+Processes::Id HostProcesses::start(const ProcessRequest& request) {
+  reap();
+  if (request.arguments.empty()) return 0;
+  posix_spawn_file_actions_t actions;
+  posix_spawn_file_actions_init(&actions);
+  std::error_code error;
+  if (fs::is_directory(request.folder, error)) posix_spawn_file_actions_addchdir_np(&actions, request.folder.c_str());
+  const pid_t pid = spawn(request.arguments, actions, pointersTo(environment_).data());
+  posix_spawn_file_actions_destroy(&actions);
+  if (pid > 0) children_[pid] = std::nullopt;
+  return pid;
+}
+
+void HostProcesses::reap() const {
+  for (auto& [id, ended] : children_) {
+    int status = 0;
+    if (!ended && ::waitpid(id, &status, WNOHANG) != 0) ended = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+  }
+}
+
+bool HostProcesses::running(Id id) const {
+  reap();
+  const auto found = children_.find(id);
+  return found != children_.end() && !found->second;
+}
+
+int HostProcesses::runAndWait(const ProcessRequest& request) {
   const Id id = start(request);
   while (running(id)) {
     yield_();
     std::this_thread::sleep_for(std::chrono::milliseconds(20));
   }
-  return id != 0;
+  return id == 0 ? -1 : children_[id].value_or(-1);
 }
 
 bool HostProcesses::nameRuns(const std::string& program) const {
+  constexpr size_t kKept = 15;  // letters of a name that the kernel keeps
+  reap();
   std::error_code error;
-  for (auto entry = std::filesystem::directory_iterator("/proc", error); !error && entry != std::filesystem::directory_iterator();
-       entry.increment(error)) {
-    std::ifstream file(entry->path() / "comm");
-    std::string name;
-    // The kernel keeps 15 letters of a name.
-    if (std::getline(file, name) && name == program.substr(0, 15)) return true;
+  for (auto entry = fs::directory_iterator("/proc", error); !error && entry != fs::directory_iterator(); entry.increment(error)) {
+    const std::string name = livingName(entry->path());
+    if (!name.empty() && equalsNoCase(name, program.substr(0, kKept))) return true;
+  }
+  return false;
+}
+
+bool HostProcesses::canStart(const std::string& program) const {
+  if (program.find('/') != std::string::npos) return isProgram(program);
+  const char* path = std::getenv("PATH");
+  std::istringstream folders(path != nullptr ? path : "");
+  for (std::string folder; std::getline(folders, folder, ':');) {
+    if (!folder.empty() && isProgram(joinPath(folder, program))) return true;
   }
   return false;
 }
@@ -66,18 +134,13 @@ std::optional<std::string> outputOf(const std::vector<std::string>& arguments) {
   if (::pipe2(ends, O_CLOEXEC) != 0) return std::nullopt;
   const UniqueFd out(ends[0]);
   UniqueFd in(ends[1]);
-  std::vector<char*> words;
-  words.reserve(arguments.size() + 1);
-  for (const std::string& argument : arguments) words.push_back(const_cast<char*>(argument.c_str()));
-  words.push_back(nullptr);
   posix_spawn_file_actions_t actions;
   posix_spawn_file_actions_init(&actions);
   posix_spawn_file_actions_adddup2(&actions, in.get(), STDOUT_FILENO);
   posix_spawn_file_actions_addopen(&actions, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
-  pid_t pid = 0;
-  const int error = posix_spawnp(&pid, words[0], &actions, nullptr, words.data(), environ);
+  const pid_t pid = spawn(arguments, actions, environ);
   posix_spawn_file_actions_destroy(&actions);
-  if (error != 0) return std::nullopt;
+  if (pid == 0) return std::nullopt;
   in = UniqueFd();
   std::string text;
   char bytes[512];

@@ -13,16 +13,24 @@ namespace orvanta {
 
 class HostProcesses : public Processes {
  public:
+  /// What is started gets the environment as it is now, whatever this program sets for itself later.
+  HostProcesses();
   /// `yield` delivers events while runAndWait() waits.
-  explicit HostProcesses(std::function<void()> yield) : yield_(std::move(yield)) {}
+  void setYield(std::function<void()> yield) { yield_ = std::move(yield); }
+
   Id start(const ProcessRequest& request) override;
   bool running(Id id) const override;
-  bool runAndWait(const ProcessRequest& request) override;
+  int runAndWait(const ProcessRequest& request) override;
   bool nameRuns(const std::string& program) const override;
+  bool canStart(const std::string& program) const override;
+
+  /// Takes note of children that have ended, so that none stays behind as a zombie.
+  void reap() const;
 
  private:
-  std::function<void()> yield_;
-  mutable std::map<Id, bool> ended_;  ///< what waitpid() has already told
+  std::function<void()> yield_ = [] {};
+  std::vector<std::string> environment_;
+  mutable std::map<Id, std::optional<int>> children_;  ///< how each has ended, nullopt while it runs
 };
 
 /// What a short-lived program writes to its standard output; nullopt when it cannot be run, fails, or

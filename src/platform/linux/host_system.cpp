@@ -1,6 +1,9 @@
 // XDG folders, and the folder that this program was started from.
 #include "platform/linux/host_system.h"
 
+#include <pwd.h>
+#include <unistd.h>
+
 #include <cstdlib>
 #include <filesystem>
 #include <sstream>
@@ -11,12 +14,19 @@ namespace orvanta {
 
 namespace {
 
+/// The home folder; without $HOME the one that the system has for this user.
+std::string homeFolder() {
+  const char* home = std::getenv("HOME");
+  if (home != nullptr && home[0] == '/') return home;
+  const passwd* user = ::getpwuid(::getuid());
+  return user != nullptr && user->pw_dir != nullptr ? user->pw_dir : "/";
+}
+
 /// $`variable` when it is an absolute path, as its rules ask, else `rest` in the home folder.
 std::string xdgFolder(const char* variable, const char* rest) {
   const char* set = std::getenv(variable);
   if (set != nullptr && set[0] == '/') return set;
-  const char* home = std::getenv("HOME");
-  return joinPath(home != nullptr ? home : "/", rest);
+  return joinPath(homeFolder(), rest);
 }
 
 }  // namespace
@@ -43,10 +53,10 @@ std::string HostSystem::mixerProgram() const {
   return {};
 }
 
-std::string HostSystem::usualDrive(const std::string& dataDir) const {
-  std::error_code error;
-  const std::string demo = std::filesystem::path(windowsDir() + "/../share/orvanta/demo").lexically_normal().string();
-  return std::filesystem::is_directory(demo, error) ? demo : joinPath(dataDir, "drive");
+std::string HostSystem::usualDrive(const std::string& dataDir) { return joinPath(dataDir, "drive"); }
+
+std::string HostSystem::demoFolder() const {
+  return std::filesystem::path(windowsDir() + "/../share/orvanta/demo").lexically_normal().string();
 }
 
 }  // namespace orvanta

@@ -29,7 +29,9 @@ std::unique_ptr<DiscImage> DiscImage::open(const std::string& cuePath, std::stri
   const CueSheet sheet = parseCue(bytes);
   error = sheet.error;
   std::vector<int64_t> lengths;
-  const std::string folder = fs::path(cuePath).has_parent_path() ? fs::path(cuePath).parent_path().string() : ".";
+  // The sound of a sheet that was reached through a link lies with the sheet itself.
+  std::error_code unknown;
+  const std::string folder = fs::canonical(cuePath, unknown).parent_path().string();
   for (size_t i = 0; i < sheet.files.size() && error.empty(); ++i) {
     OpenedImageFile opened = openImageFile(folder, sheet.files[i].name, sheet.files[i].type);
     error = opened.error;
@@ -141,8 +143,9 @@ bool ImageDrive::lock() {
 std::string ImageDrive::firstSheet() const {
   std::vector<std::string> sheets;
   std::error_code error;
+  std::error_code unknown;
   for (auto entry = fs::directory_iterator(folder_, error); !error && entry != fs::directory_iterator(); entry.increment(error)) {
-    if (endsWithNoCase(entry->path().string(), ".cue")) sheets.push_back(entry->path().string());
+    if (endsWithNoCase(entry->path().string(), ".cue") && entry->is_regular_file(unknown)) sheets.push_back(entry->path().string());
   }
   const auto first = std::min_element(sheets.begin(), sheets.end());
   return first == sheets.end() ? "" : *first;

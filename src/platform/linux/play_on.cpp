@@ -30,7 +30,7 @@ std::optional<Stretch> stretchOf(const std::string& words) {
 }
 
 bool handOn(Player& player, int to, const std::string& drive, const std::string& program, const std::vector<std::string>& arguments) {
-  HostProcesses processes([] {});
+  HostProcesses processes;
   ProcessRequest request{{program}, "", WindowStyle::Hidden};
   request.arguments.insert(request.arguments.end(), arguments.begin(), arguments.end());
   const Processes::Id id = processes.start(request);

@@ -1,0 +1,85 @@
+// What is known of other programs, and what becomes of those that are started.
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+
+#include <cstdlib>
+
+#include "launch/known_applications.h"
+#include "platform/linux/host_processes.h"
+#include "tests/support/fakes.h"
+#include "tests/support/test_discs.h"
+
+namespace orvanta::test {
+namespace {
+
+TEST(KnownApplications, AreNotStartedTwice) {
+  struct Case {
+    const char* launch;
+    const char* runs;
+    const char* told;  ///< "" when it may be started
+  };
+  for (const auto& [launch, runs, told] :
+       {Case{" notepad.exe ", "notepad", "NOTEPAD.EXE"}, Case{"notepad.exe", "notepad.exe", "NOTEPAD.EXE"},
+        Case{"notepad.exe", "other", ""}, Case{"/usr/bin/pavucontrol", "pavucontrol", "PAVUCONTROL"},
+        Case{"/programs/orvhelp", "orvhelp", "ORVHELP.EXE"}, Case{"SNDREC32.EXE", "SNDREC32.EXE", "Sound - Sound Recorder"},
+        Case{"/opt/mine", "mine", ""}, Case{"", "", ""}}) {
+    FakeDialogs dialogs;
+    FakeProcesses processes;
+    processes.names = {runs};
+    KnownApplications known(dialogs, processes);
+    EXPECT_EQ(known.checkAlreadyRunning(launch), *told != 0) << launch;
+    const std::string file = told;
+    EXPECT_EQ(dialogs.tape, *told == 0 ? Tape{}
+                                       : Tape{"Orvanta: " + file +
+                                              " Application Already Running! Use the Taskbar to Activate.\n\nPress Ctrl + Esc to access "
+                                              "Taskbar, then click on " +
+                                              file + ", or press Alt + Esc to change window displayed."})
+        << launch;
+  }
+  FakeDialogs dialogs;
+  FakeProcesses processes;
+  processes.names = {"mine"};
+  KnownApplications known(dialogs, processes);
+  EXPECT_TRUE(known.runsAlready("/opt/mine")) << "the user's own mixer";
+  EXPECT_EQ(dialogs.tape.size(), 1U);
+}
+
+TEST(HostProcesses, AreWatchedAndLeaveNoZombie) {
+  HostProcesses processes;
+  EXPECT_EQ(processes.runAndWait({{"/bin/sh", "-c", "exit 3"}, "", WindowStyle::Normal}), 3);
+  EXPECT_EQ(processes.runAndWait({{"sh", "-c", "kill -9 $$"}, "", WindowStyle::Normal}), -1);
+  EXPECT_EQ(processes.runAndWait({{"/nowhere/program"}, "", WindowStyle::Normal}), -1);
+  EXPECT_EQ(processes.runAndWait({{"sh", "-c", "exit 0"}, "/a folder that has gone", WindowStyle::Normal}), 0);
+  const TempFolder folder;
+  std::filesystem::copy("/bin/true", folder / "here_and_gone");
+  const auto id = processes.start({{folder / "here_and_gone"}, "", WindowStyle::Normal});
+  siginfo_t info{};
+  ::waitid(P_PID, static_cast<id_t>(id), &info, WEXITED | WNOWAIT);
+  EXPECT_FALSE(processes.nameRuns("here_and_gone")) << "a zombie does not run";
+  EXPECT_FALSE(processes.running(id));
+  EXPECT_EQ(::waitpid(-1, nullptr, WNOHANG), -1) << "all were taken note of";
+}
+
+TEST(HostProcesses, GetTheEnvironmentOfTheStart) {
+  ::setenv("ORVANTA_BEFORE", "1", 1);
+  HostProcesses processes;
+  ::setenv("ORVANTA_AFTER", "1", 1);
+  EXPECT_EQ(processes.runAndWait({{"sh", "-c", "test \"$ORVANTA_BEFORE$ORVANTA_AFTER\" = 1"}, "", WindowStyle::Normal}), 0);
+  ::unsetenv("ORVANTA_BEFORE");
+  ::unsetenv("ORVANTA_AFTER");
+}
+
+TEST(HostProcesses, KnowWhatRunsAndWhatCanBeStarted) {
+  HostProcesses processes;
+  EXPECT_TRUE(processes.nameRuns("unit_tests"));
+  EXPECT_TRUE(processes.nameRuns("UNIT_Tests")) << "in any letter case";
+  EXPECT_FALSE(processes.nameRuns("no such program"));
+  EXPECT_FALSE(processes.nameRuns(""));
+  for (const auto& [program, can] :
+       {std::pair{"sh", true}, {"/bin/sh", true}, {"/etc/passwd", false}, {"/tmp", false}, {"no-such-program", false}}) {
+    EXPECT_EQ(processes.canStart(program), can) << program;
+  }
+}
+
+}  // namespace
+}  // namespace orvanta::test

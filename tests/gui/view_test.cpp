@@ -6,7 +6,10 @@
 #include <QApplication>
 #include <QImage>
 #include <QTest>
+#include <algorithm>
 #include <memory>
+#include <numeric>
+#include <vector>
 
 #include "platform/qt/form_view.h"
 #include "platform/qt/qt_clock.h"
@@ -100,6 +103,54 @@ TEST(View, PaintsWhatChanges) {
   }
   deck.core.form.Label12.caption = std::string(5000, 'W');
   EXPECT_FALSE(deck.picture().isNull());
+}
+
+TEST(View, AnHourOfPlayKeepsNoMorePicturesThanAMinute) {
+  for (const double factor : {1.0, 1.5, 2.0}) {
+    Deck deck(factor);
+    CDForm& form = deck.core.form;
+    ControlWidget* digits = deck.window->widgetOf(form.Label10);
+    const auto showSecond = [&](int second) {
+      form.Label10.caption = std::to_string(second / 60) + (second % 60 < 10 ? ":0" : ":") + std::to_string(second % 60);
+      return digits->grab().toImage();
+    };
+    for (int second = 0; second < 1200; ++second) showSecond(second);
+    const qsizetype glows = deck.window->glows().count();
+    const qsizetype surfaces = deck.window->artCache().count();
+    EXPECT_LT(glows, 120) << "ten digits at each place, and the display's words";
+    for (int second = 1200; second < 3600; ++second) showSecond(second);
+    EXPECT_LE(deck.window->glows().count(), glows + 4) << factor;
+    EXPECT_EQ(deck.window->artCache().count(), surfaces);
+    // What was kept is what a new deck would draw.
+    Deck other(factor);
+    other.core.form.Label10.caption = "59:59";
+    EXPECT_EQ(showSecond(3599), other.window->widgetOf(other.core.form.Label10)->grab().toImage());
+  }
+}
+
+TEST(View, LightStandsEvenlyAroundItsDigits) {
+  for (const auto align : {forms::Align::Left, forms::Align::Center, forms::Align::Right}) {
+    Deck deck(2);
+    forms::Label& time = deck.core.form.Label10;
+    time.align = align;
+    const auto show = [&](const char* text) {
+      time.caption = text;
+      return deck.window->widgetOf(time)->grab().toImage();
+    };
+    const QImage dark = show("");
+    const QImage lit = show("8:8");
+    std::vector<int> columns(static_cast<size_t>(lit.width()));
+    for (int x = 0; x < lit.width(); ++x) {
+      for (int y = 0; y < lit.height(); ++y) columns[static_cast<size_t>(x)] += qGreen(lit.pixel(x, y)) - qGreen(dark.pixel(x, y));
+    }
+    const int solid = *std::max_element(columns.begin(), columns.end()) / 3;
+    const auto first = std::find_if(columns.begin(), columns.end(), [&](int sum) { return sum > solid; });
+    const auto last = std::find_if(columns.rbegin(), columns.rend(), [&](int sum) { return sum > solid; }).base();
+    const int left = std::accumulate(first - std::min<ptrdiff_t>(8, first - columns.begin()), first, 0);
+    const int right = std::accumulate(last, last + std::min<ptrdiff_t>(8, columns.end() - last), 0);
+    EXPECT_GT(left, 0);
+    EXPECT_NEAR(left, right, .25 * left) << static_cast<int>(align);
+  }
 }
 
 TEST(View, AFormParkedPastTheScreenIsNotMapped) {

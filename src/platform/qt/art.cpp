@@ -40,7 +40,7 @@ void paintPlain(Art& art) {
 
 const QImage& ArtCache::keep(const std::string& key, QImage picture) {
   const auto cost = static_cast<int>(picture.sizeInBytes() >> 10) + 1;
-  if (cost > kLimit / 2) {
+  if (cost > pictures_.maxCost() / 2) {
     last_ = std::move(picture);
     return last_;
   }
@@ -82,9 +82,11 @@ QImage drawingOf(const forms::Control& control, double factor) {
   painter.setRenderHint(QPainter::Antialiasing);
   painter.scale(factor, factor);
   Fonts fonts;
-  ArtCache cache;
-  Art art{painter, control, fonts, cache, {}, factor, 15.0 / scale.twipsPerPixel, picture.width() / factor, picture.height() / factor,
-          0,       0};
+  ArtCache cache(ArtCache::kSurfaces);
+  ArtCache glows(ArtCache::kGlows);
+  Art art{
+      painter, control, fonts, cache, glows, {}, factor, 15.0 / scale.twipsPerPixel, picture.width() / factor, picture.height() / factor,
+      0,       0};
   paintControl(art);
   return picture;
 }

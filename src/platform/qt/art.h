@@ -12,17 +12,20 @@
 
 namespace orvanta {
 
-/// Pictures that need not be made anew at each paint: glows, large surfaces, the user's own. By a text that
-/// names all that a picture depends on.
+/// Pictures that need not be made anew at each paint. By a text that names all that a picture depends on; those not
+/// used for longest go first.
 class ArtCache {
  public:
-  ArtCache() : pictures_(kLimit) {}
+  explicit ArtCache(int kibibytes) : pictures_(kibibytes) {}
   /// nullptr when it is not there yet.
   const QImage* find(const std::string& key) const { return pictures_.object(key); }
   const QImage& keep(const std::string& key, QImage picture);
+  qsizetype count() const { return pictures_.count(); }
+
+  static constexpr int kSurfaces = 24 << 10;
+  static constexpr int kGlows = 2 << 10;
 
  private:
-  static constexpr int kLimit = 24 << 10;  ///< KiB
   QCache<std::string, QImage> pictures_;
   QImage last_;  ///< one too large to be kept
 };
@@ -31,7 +34,8 @@ struct Art {
   QPainter& painter;  ///< scaled to design pixels, origin at the control's corner
   const forms::Control& control;
   Fonts& fonts;
-  ArtCache& cache;
+  ArtCache& cache;  ///< large surfaces, the user's pictures
+  ArtCache& glows;
   QTransform plain;  ///< the painter's transform before scaling, for text
   double factor;     ///< device pixels to a design pixel
   double k;          ///< size of symbols and fonts: 1 at 15 twips a pixel

@@ -124,43 +124,68 @@ void letters(Art& art, const QRectF& rect, const forms::Font& font, const std::s
   painter.restore();
 }
 
-void glow(Art& art, const QRectF& rect, const forms::Font& font, const std::string& text, const QColor& colour, const Lettering& how,
-          double strength) {
-  if (text.empty()) return;
+namespace {
+
+/// The light of one word or digit: a blurred copy of it, kept for each quarter of a pixel that it may stand at.
+void glowPiece(Art& art, const QRectF& rect, const forms::Font& font, const std::string& text, const QColor& colour, const Lettering& how,
+               double strength) {
   const double sigma = std::max(1.2, 1.7 * art.k * art.factor);
   const int margin = static_cast<int>(sigma * 3);
   const QSize size(static_cast<int>(rect.width() * art.factor) + 2 * margin, static_cast<int>(rect.height() * art.factor) + 2 * margin);
-  const std::string key = "glow " + font.family + (font.bold ? "b " : " ") + std::to_string(font.points) + ' ' +
-                          std::to_string(colour.rgb()) + ' ' + std::to_string(size.width()) + 'x' + std::to_string(size.height()) + ' ' +
+  const auto quarters = static_cast<int>(std::lround(rect.left() * art.factor * 4));
+  const int left = static_cast<int>(std::floor(quarters / 4.0));
+  const double part = quarters / 4.0 - left;
+  const std::string key = font.family + (font.bold ? "b " : " ") + std::to_string(font.points) + ' ' + std::to_string(colour.rgb()) + ' ' +
+                          std::to_string(size.width()) + 'x' + std::to_string(size.height()) + '+' + std::to_string(quarters & 3) + ' ' +
                           std::to_string(static_cast<int>(how.align)) + (how.bottom ? "b" : "") + (how.wrap ? "w" : "") + text;
-  const QImage* picture = art.cache.find(key);
+  const QImage* picture = art.glows.find(key);
   if (picture == nullptr) {
     QImage fresh(size, QImage::Format_ARGB32_Premultiplied);
     fresh.fill(Qt::transparent);
     {
       QPainter painter(&fresh);
       painter.setRenderHint(QPainter::Antialiasing);
-      Art inner{painter,
-                art.control,
-                art.fonts,
-                art.cache,
-                QTransform::fromTranslate(margin - rect.left() * art.factor, margin - rect.top() * art.factor),
-                art.factor,
-                art.k,
-                art.w,
-                art.h,
-                art.windowX,
-                art.windowY};
+      Art inner{
+          painter,    art.control, art.fonts,
+          art.cache,  art.glows,   QTransform::fromTranslate(margin + part - rect.left() * art.factor, margin - rect.top() * art.factor),
+          art.factor, art.k,       art.w,
+          art.h,      art.windowX, art.windowY};
       letters(inner, rect, font, text, colour, how);
     }
     blur(fresh, sigma);
-    picture = &art.cache.keep(key, std::move(fresh));
+    picture = &art.glows.keep(key, std::move(fresh));
   }
   art.painter.save();
   art.painter.setWorldTransform(art.plain);
   art.painter.setOpacity(strength);
-  art.painter.drawImage(QPointF(rect.left() * art.factor - margin, rect.top() * art.factor - margin), *picture);
+  art.painter.drawImage(QPointF(left - margin, rect.top() * art.factor - margin), *picture);
   art.painter.restore();
+}
+
+}  // namespace
+
+void glow(Art& art, const QRectF& rect, const forms::Font& font, const std::string& text, const QColor& colour, const Lettering& how,
+          double strength) {
+  if (text.empty()) return;
+  if (text.find_first_not_of("0123456789:-%") != std::string::npos) {
+    glowPiece(art, rect, font, text, colour, how, strength);
+    return;
+  }
+  // Digit by digit: as a whole the time would need a new picture each second.
+  const QRawFont& face = art.fonts.face(font, pixelsOf(art, font.points));
+  const auto advances = face.advancesForGlyphIndexes(face.glyphIndexesForString(QString::fromStdString(text)));
+  double width = -how.spacing;
+  for (const QPointF& advance : advances) width += advance.x() / art.factor + how.spacing;
+  double x = rect.left();
+  if (how.align == forms::Align::Center) x += (rect.width() - width) / 2;
+  if (how.align == forms::Align::Right) x += rect.width() - width;
+  Lettering one = how;
+  one.align = forms::Align::Left;
+  for (qsizetype i = 0; i < advances.size(); ++i) {
+    const double wide = advances[i].x() / art.factor;
+    glowPiece(art, QRectF(x, rect.top(), wide, rect.height()), font, text.substr(static_cast<size_t>(i), 1), colour, one, strength);
+    x += wide + how.spacing;
+  }
 }
 
 void engraved(Art& art, const QRectF& rect, const forms::Font& font, const std::string& text, const QColor& colour, const Lettering& how) {

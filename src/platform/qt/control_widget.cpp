@@ -99,6 +99,7 @@ void ControlWidget::paintArt(QPainter& painter) {
           control_,
           window_.fonts(),
           window_.artCache(),
+          window_.glows(),
           plain,
           scale.factor,
           15.0 / scale.twipsPerPixel,

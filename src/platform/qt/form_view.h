@@ -62,6 +62,7 @@ class FormWindow : public QWidget, public forms::FormView {
   const Scale& scale() const { return scale_; }
   Fonts& fonts() const { return fonts_; }
   ArtCache& artCache() { return artCache_; }
+  ArtCache& glows() { return glows_; }
   forms::Form& form() const { return form_; }
   ControlWidget* widgetOf(const forms::Control& control) const;
 
@@ -93,7 +94,8 @@ class FormWindow : public QWidget, public forms::FormView {
   forms::Form& form_;
   CoreGate& gate_;
   Fonts& fonts_;
-  ArtCache artCache_;
+  ArtCache artCache_{ArtCache::kSurfaces};
+  ArtCache glows_{ArtCache::kGlows};
   Scale scale_;
   std::map<const forms::Control*, ControlWidget*> widgets_;
   std::map<const forms::Control*, std::vector<ControlWidget*>> followers_;  ///< that take a colour from a control

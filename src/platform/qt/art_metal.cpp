@@ -1,102 +1,11 @@
-// The deck's materials: brushed metal with its grain, aluminium and graphite caps, recesses and lamps.
-#include <QImage>
+// The deck's materials: brushed metal, aluminium and graphite caps, recesses and lamps.
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <vector>
 
 #include "platform/qt/art_tools.h"
 
 namespace orvanta {
-
-namespace {
-
-/// Gradient noise over a lattice: one octave of the grain.
-class Noise {
- public:
-  explicit Noise(uint32_t seed) {
-    for (auto& slope : slopes_) {
-      seed = seed * 1664525U + 1013904223U;
-      const double angle = (seed >> 8U) * (2 * M_PI / 16777216.0);
-      slope = {static_cast<float>(std::cos(angle)), static_cast<float>(std::sin(angle))};
-    }
-  }
-
-  /// Adds `strength` times the noise of one row to `out`; x runs in steps of `step`.
-  void addRow(float y, float step, float strength, std::vector<float>& out) const {
-    const float floorY = std::floor(y);
-    const float dy = y - floorY;
-    const float blendY = fade(dy);
-    const int row = static_cast<int>(floorY);
-    int cell = -1;
-    Slope a{}, b{}, c{}, d{};
-    for (size_t i = 0; i < out.size(); ++i) {
-      const float x = static_cast<float>(i) * step;
-      if (static_cast<int>(x) != cell) {
-        cell = static_cast<int>(x);
-        a = at(cell, row);
-        b = at(cell + 1, row);
-        c = at(cell, row + 1);
-        d = at(cell + 1, row + 1);
-      }
-      const float dx = x - static_cast<float>(cell);
-      const float blendX = fade(dx);
-      const float top = std::lerp(a.x * dx + a.y * dy, b.x * (dx - 1) + b.y * dy, blendX);
-      const float bottom = std::lerp(c.x * dx + c.y * (dy - 1), d.x * (dx - 1) + d.y * (dy - 1), blendX);
-      out[i] += strength * std::lerp(top, bottom, blendY);
-    }
-  }
-
- private:
-  struct Slope {
-    float x;
-    float y;
-  };
-  static float fade(float t) { return t * t * (3 - 2 * t); }
-  const Slope& at(int x, int y) const {
-    const uint32_t mixed = (static_cast<uint32_t>(x) * 0x9E3779B1U) ^ (static_cast<uint32_t>(y) * 0x85EBCA77U);
-    return slopes_[(mixed ^ mixed >> 15U) & 255U];
-  }
-  std::array<Slope, 256> slopes_;
-};
-
-/// Streaks of light and dark over the whole window, made once for each scale: brushed along x.
-const QImage& grainTile(double factor) {
-  static QImage tile;
-  static double made = 0;
-  if (made == factor) return tile;
-  made = factor;
-  constexpr int kWide = 800;  // design pixels; the window is no larger
-  constexpr int kHigh = 300;
-  const int wide = static_cast<int>(kWide * factor);
-  const int high = static_cast<int>(kHigh * factor);
-  const Noise light(7);
-  const Noise dark(21);
-  std::vector<float> white(static_cast<size_t>(wide));
-  std::vector<float> black(static_cast<size_t>(wide));
-  tile = QImage(wide, high, QImage::Format_ARGB32_Premultiplied);
-  const auto scale = static_cast<float>(1 / factor);
-  for (int y = 0; y < high; ++y) {
-    std::fill(white.begin(), white.end(), 0.F);
-    std::fill(black.begin(), black.end(), 0.F);
-    const float at = static_cast<float>(y) * scale;
-    light.addRow(at * 1.3F, .003F * scale, 1, white);
-    light.addRow(at * 2.6F, .006F * scale, .5F, white);
-    dark.addRow(at * 1.1F, .004F * scale, 1, black);
-    dark.addRow(at * 2.2F, .008F * scale, .5F, black);
-    auto* line = reinterpret_cast<QRgb*>(tile.scanLine(y));
-    for (size_t x = 0; x < white.size(); ++x) {
-      const float bright = std::clamp(.45F * (white[x] + 1) - .40F, 0.F, 1.F);
-      const float dim = std::clamp(.55F * (black[x] + 1) - .46F, 0.F, 1.F);
-      const int level = static_cast<int>(bright * (1 - dim) * 255);
-      const int opacity = static_cast<int>((bright + dim - bright * dim) * 255);
-      line[x] = qRgba(level, level, level, std::max(level, opacity));
-    }
-  }
-  return tile;
-}
-
-}  // namespace
 
 void edge(QPainter& painter, const QRectF& rect, double radius, double light, double dark, double width) {
   const auto pen = blendIn(rect, .35, 1,
@@ -120,15 +29,19 @@ void well(QPainter& painter, const QRectF& rect, double radius, const QColor& gr
   fill(painter, rect, ground, radius);
 }
 
-void metal(Art& art, const QRectF& rect, const QColor& base, double radius, double grain) {
+void metal(Art& art, const QRectF& rect, const QColor& base, double radius, double strength) {
   QPainter& painter = art.painter;
   fill(painter, rect,
        blend(rect.topLeft(), rect.bottomLeft(),
              {{0, mix(base, Qt::white, .16)}, {.1, mix(base, Qt::white, .08)}, {.5, base}, {1, mix(base, Qt::black, .34)}}),
        radius);
-  QBrush streaks(grainTile(art.factor));
-  streaks.setTransform(QTransform::fromTranslate(-art.windowX, -art.windowY).scale(1 / art.factor, 1 / art.factor));
-  painter.setOpacity(grain);
+  const QPointF corner(art.windowX, art.windowY);
+  const QRectF inWindow = rect.translated(corner);
+  const QRect piece = QRectF(inWindow.topLeft() * art.factor, inWindow.size() * art.factor).toAlignedRect();
+  QBrush streaks(grain(piece, art.factor));
+  const QPointF at = QPointF(piece.topLeft()) / art.factor - corner;
+  streaks.setTransform(QTransform::fromTranslate(at.x(), at.y()).scale(1 / art.factor, 1 / art.factor));
+  painter.setOpacity(strength);
   fill(painter, rect, streaks, radius);
   painter.setOpacity(1);
   fill(painter, rect,

@@ -31,8 +31,10 @@ void fill(QPainter& painter, const QRectF& rect, const QBrush& brush, double rad
 void edge(QPainter& painter, const QRectF& rect, double radius, double light, double dark, double width);
 /// A recess: dark wall at the top left, lit lip at the bottom right, outside `rect`.
 void well(QPainter& painter, const QRectF& rect, double radius, const QColor& ground, double lip);
-/// Brushed metal of a base colour; its grain runs on from panel to panel.
-void metal(Art& art, const QRectF& rect, const QColor& base, double radius, double grain);
+/// The grain of brushed metal over a piece of the window, in device pixels: streaks of light and dark along x.
+QImage grain(const QRect& piece, double factor);
+/// Brushed metal of a base colour; its grain, of the given opacity, runs on from panel to panel.
+void metal(Art& art, const QRectF& rect, const QColor& base, double radius, double strength);
 /// A cap of aluminium with its shadow; under the mouse it goes flat.
 void aluminium(QPainter& painter, const QRectF& rect, double radius, bool pressed);
 void graphite(QPainter& painter, const QRectF& rect, double radius, bool pressed);

@@ -19,8 +19,8 @@ class CoreGate {
     try {
       std::forward<Call>(call)();
     } catch (const ProcessEnded&) {
-      ended_ = true;
-      if (onEnd_) onEnd_();
+      // It comes here once for each call on the way out: a dialog's handler, then the handler that opened the dialog.
+      if (!std::exchange(ended_, true) && onEnd_) onEnd_();
     }
   }
 

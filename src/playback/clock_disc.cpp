@@ -12,7 +12,7 @@ namespace orvanta {
 /// cannot be played leaves everything as it was.
 void PlaybackClock::answerOffer() {
   const TrayOffer offer = tray_.takeAnswer();
-  if (offer.answer == TrayOffer::Answer::Refused) {
+  if (offer.answer == TrayOffer::Answer::Refused || offer.answer == TrayOffer::Answer::Notice) {
     dialogs_.message(BoxStyle::Warning, "Orvanta", offer.refusal);
   } else if (offer.answer == TrayOffer::Answer::Accepted) {
     if (state_.disc.drawerOpen == kOff) engine_.mmcontrol1_EjectClick();

@@ -11,8 +11,11 @@ namespace orvanta {
 bool DeviceLayer::openDevice() {
   device_.command("Open");
   const int16_t error = device_.error();
-  // Another player has the disc: this one goes without a word, since the user has a deck already.
-  if (error == device_error::kInUse) end();
+  if (error == device_error::kInUse) {
+    dialogs_.message(BoxStyle::Warning, "Orvanta",
+                     "The MCI CD Device is in use by another application.  Wait until it is finished, and then\ntry again!");
+    end();
+  }
   if (error != device_error::kNoDisc && !device_.canPlay()) {
     dialogs_.message(BoxStyle::Critical, "Driver Not Installed!",
                      "(MCI)Audio CD Driver is not installed!\nCheck the Control Panel Settings Under\n"

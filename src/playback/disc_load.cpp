@@ -58,7 +58,7 @@ void DiscLoad::loadDisc() {
   device_.setUpdateInterval(0);
   device_.setDeviceType("CDAudio");
   device_.sendString("set cdaudio time format milliseconds");
-  const double start = leadingNumber(device_.sendString("status cdaudio position"));
+  const double start = leadingNumber(device_.sendString("status cdaudio position track 1"));
   disc.trackFrames[0] = static_cast<int32_t>(std::floor(start * kFramesPerSecond / 1000));
   device_.setTimeFormat(kTimeFormatTmsf);
   disc.trackCount = device_.tracks();

@@ -133,7 +133,7 @@ TEST(Cdrom, ASlowDriveHoldsUpNobody) {
   CdromDrive drive(std::make_unique<FakeCalls>(state));
   SteppedOutputs outputs;
   auto player = std::make_unique<Player>(drive, outputs);
-  player->waitUntilKnown(2500);
+  EXPECT_FALSE(player->waitUntilKnown(1000, 300));
   EXPECT_LT(passed(), std::chrono::seconds(1));
   EXPECT_EQ(player->holder(), Holder::Us);
   EXPECT_EQ(player->toc().count(), 0);
@@ -143,13 +143,64 @@ TEST(Cdrom, ASlowDriveHoldsUpNobody) {
   EXPECT_LT(passed(), std::chrono::seconds(2));
 }
 
+TEST(Cdrom, ATableThatIsBeingReadIsWaitedFor) {
+  for (const int delay : {0, 250, 400, 1500}) {
+    FakeState state;
+    state.tableDelay = delay;
+    CdromDrive drive(std::make_unique<FakeCalls>(state));
+    SteppedOutputs outputs;
+    Player player(drive, outputs);
+    EXPECT_TRUE(player.waitUntilKnown(1000)) << delay;
+    EXPECT_EQ(player.toc().count(), 3) << delay;
+  }
+}
+
+TEST(Cdrom, AProcessStartedForADiscWaitsWhileTheDriveSettles) {
+  FakeState state;
+  state.status = CDS_DRIVE_NOT_READY;
+  CdromDrive drive(std::make_unique<FakeCalls>(state));
+  SteppedOutputs outputs;
+  Player player(drive, outputs);
+  EXPECT_TRUE(player.waitUntilKnown(1000)) << "a first start takes the drive at its word";
+  EXPECT_EQ(player.toc().count(), 0);
+  std::thread spinUp([&] {
+    std::this_thread::sleep_for(std::chrono::milliseconds(100));
+    state.status = CDS_DISC_OK;
+  });
+  EXPECT_TRUE(player.waitForDisc(1000, 5000));
+  spinUp.join();
+  EXPECT_EQ(player.toc().count(), 3);
+}
+
+TEST(Cdrom, ADiscWaitedForInVainIsNotStartedForAgain) {
+  FakeState state;
+  state.tableDelay = 400;
+  CdromDrive drive(std::make_unique<FakeCalls>(state));
+  SteppedOutputs outputs;
+  Player player(drive, outputs);
+  EXPECT_FALSE(player.waitForDisc(1000, 100));
+  const TrayOffer notice = player.takeAnswer();
+  EXPECT_EQ(notice.answer, TrayOffer::Answer::Notice);
+  EXPECT_NE(notice.refusal.find("put it in again"), std::string::npos);
+  EXPECT_EQ(player.takeAnswer().answer, TrayOffer::Answer::None) << "told once";
+  // The table comes in, and two looks later the disc still does not show.
+  EXPECT_FALSE(becomes([&] { return player.toc().count() > 0; }, 1500));
+  EXPECT_EQ(player.firstEntry(), "");
+  player.eject();
+  ASSERT_TRUE(becomes([&] { return player.settled(); }));
+  player.closeTray();
+  EXPECT_TRUE(becomes([&] { return player.toc().count() == 3; }));
+}
+
 TEST(Cdrom, NonsenseTablesAreNoDisc) {
-  for (int kind = 0; kind < 4; ++kind) {
+  for (int kind = 0; kind < 6; ++kind) {
     FakeState state;
     if (kind == 0) state.starts = {};
     if (kind == 1) state.starts = {0, 400, 400};
     if (kind == 2) state.leadOut = 700;
     if (kind == 3) state.leadOut = 1 << 30;
+    if (kind == 4) state.leadOut = 0x7FFFFFFF;
+    if (kind == 5) state.starts = {0, 0x7FFFFFFF};
     RealDeck deck(state);
     EXPECT_EQ(deck.player.toc().count(), 0) << kind;
   }

@@ -101,6 +101,9 @@ TEST_P(DeviceFacts, TellsTheTableOneFrameShort) {
   EXPECT_EQ(unpackMsf(device().length()), msfOfFrames(900 + kDataLength - 1));
   device().sendString("set cdaudio time format milliseconds");
   EXPECT_EQ(device().sendString("status cdaudio position"), "2001");
+  play(2);
+  rig_->pass(1000);
+  EXPECT_EQ(device().sendString("status cdaudio position track 1"), "2001") << "whatever plays";
 }
 
 TEST_P(DeviceFacts, FromAndToServeOnce) {

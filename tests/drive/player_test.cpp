@@ -119,6 +119,49 @@ TEST(Player, ADeadSoundServerCostsNothing) {
   EXPECT_EQ(runs(deck.outputs.samples), "150-449");
 }
 
+TEST(Player, SoundComesBackByItself) {
+  const TempFolder folder;
+  makeDisc(folder, {1500});
+  Deck deck(folder.path());
+  EXPECT_FALSE(deck.player.soundless());
+  // As at a start without any sound server.
+  deck.outputs.serverGone = true;
+  deck.playAll();
+  ASSERT_TRUE(becomes([&] { return deck.player.soundless(); }));
+  deck.outputs.hear(100 * size_t{kSamplesPerFrame});
+  ASSERT_TRUE(becomes([&] { return deck.outputs.tries == 2; })) << "it tries, and tries again";
+  EXPECT_EQ(deck.outputs.streams, 1) << "without giving up what plays";
+  deck.player.pause();
+  const int tries = deck.outputs.tries;
+  EXPECT_FALSE(becomes([&] { return deck.outputs.tries > tries + 1; }, 1500)) << "not while it is paused";
+  deck.outputs.serverGone = false;
+  deck.player.resume();
+  ASSERT_TRUE(becomes([&] { return deck.outputs.streams == 2 && deck.outputs.open(); }));
+  ASSERT_TRUE(becomes([&] { return deck.player.settled(); }));
+  EXPECT_FALSE(deck.player.soundless());
+  EXPECT_EQ(deck.player.state(), PlayState::Playing);
+  deck.outputs.hear(30 * kSecond);
+  EXPECT_EQ(runs(deck.outputs.samples), "150-1649");
+}
+
+TEST(Player, OrdersGivenWhileAStreamIsRenewedCount) {
+  const TempFolder folder;
+  makeDisc(folder, {3000});
+  Deck deck(folder.path());
+  for (int round = 0; round < 20; ++round) {
+    deck.player.play(150, 3150);
+    deck.outputs.failing = true;
+    const int target = 200 + round * 100;
+    deck.player.play(target, 3150);
+    ASSERT_TRUE(becomes([&] { return deck.player.settled() && deck.outputs.open(); }));
+    EXPECT_EQ(deck.player.frame() >= target, true) << round;
+    deck.player.eject();
+    EXPECT_EQ(deck.player.toc().count(), 0);
+    deck.player.closeTray();
+    ASSERT_TRUE(becomes([&] { return deck.player.toc().count() == 1; }));
+  }
+}
+
 TEST(Player, TellsTheTextsOfTheDiscThatIsIn) {
   const TempFolder folder;
   const std::string sheet = makeDisc(folder, {300});
@@ -140,9 +183,10 @@ TEST(Player, OnePlayerHoldsADrive) {
   ImageDrive drive(folder.path());
   SteppedOutputs outputs;
   Player second(drive, outputs);
-  second.waitUntilKnown(100);
-  EXPECT_EQ(second.holder(), Holder::Unknown);
-  // The first one leaves within the time that the second waits for it.
+  EXPECT_EQ(second.holder(), Holder::Unknown) << "however long a start takes: nobody waits yet";
+  EXPECT_FALSE(second.waitUntilKnown(100));
+  EXPECT_EQ(second.holder(), Holder::Other);
+  // It goes on trying: the first one leaves within the time that the second is waited for now.
   first.reset();
   second.waitUntilKnown(5000);
   EXPECT_EQ(second.holder(), Holder::Us);
@@ -209,6 +253,25 @@ TEST(Player, SurvivesAnImageThatShrinksOrVanishesWhilePlaying) {
   const size_t heard = deck.outputs.hear(30 * kSecond);
   EXPECT_GT(heard, 100 * size_t{kSamplesPerFrame});
   EXPECT_TRUE(becomes([&] { return deck.player.state() == PlayState::Stopped; }));
+}
+
+TEST(Player, SaysWhenItsImageIsCutShortAndPlaysOn) {
+  const TempFolder folder;
+  makeDisc(folder, {1500});
+  Deck deck(folder.path());
+  deck.playAll();
+  ASSERT_TRUE(becomes([&] { return deck.outputs.open(); }));
+  deck.outputs.hear(10 * size_t{kSamplesPerFrame});
+  std::filesystem::resize_file(folder / "disc.bin", 600 * kBytesPerFrame);
+  TrayOffer answer;
+  ASSERT_TRUE(becomes([&] { return (answer = deck.player.takeAnswer()).answer == TrayOffer::Answer::Notice; }));
+  EXPECT_NE(answer.refusal.find("cut short"), std::string::npos);
+  EXPECT_EQ(deck.player.toc().count(), 1);
+  deck.outputs.hear(30 * kSecond);
+  ASSERT_TRUE(becomes([&] { return deck.player.state() == PlayState::Stopped; }));
+  EXPECT_EQ(deck.outputs.samples.size(), size_t{1500} * kShortsPerFrame) << "to its end, in silence";
+  EXPECT_TRUE(isFrame(749, &deck.outputs.samples[size_t{599} * kShortsPerFrame]));
+  EXPECT_FALSE(deck.player.takeFailure()) << "the drive has not failed: nothing starts anew";
 }
 
 TEST(ClockedOutput, KeepsTimeAndStartsASeekAtOnce) {

@@ -33,6 +33,8 @@ class SimPlayer : public DiscPlayer {
   Toc toc() const override { return disc; }
   std::string firstEntry() const override { return name; }
   SheetTexts texts() const override { return disc.tracks.empty() ? SheetTexts{} : told; }
+  bool soundless() const override { return quiet; }
+  std::string missingDrive() const override { return absent; }
   PlayState state() const override {
     settle();
     return state_;
@@ -72,6 +74,8 @@ class SimPlayer : public DiscPlayer {
 
   Toc disc;
   std::string name;
+  bool quiet = false;
+  std::string absent;
   SheetTexts told;  ///< by the disc that is in
   Holder held = Holder::Us;
   bool failure = false;

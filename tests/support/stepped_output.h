@@ -22,7 +22,13 @@ class SteppedOutputs : public SoundOutputs {
     feed_ = &feed;
     heard_ = 0;
     paused_ = failing = false;
+    toNobody = serverGone.load();
     return std::make_unique<Stream>(*this);
+  }
+
+  bool canSound() override {
+    ++tries;
+    return !serverGone;
   }
 
   /// Hears up to `pairs` more, waiting for the player's thread to bring them; returns how many. Less
@@ -63,6 +69,9 @@ class SteppedOutputs : public SoundOutputs {
   std::atomic<int> streams{0};
   std::atomic<int> afterFailures{0};
   std::atomic<bool> failing{false};
+  std::atomic<bool> serverGone{false};  ///< new streams are heard by nobody
+  std::atomic<bool> toNobody{false};    ///< the present one
+  std::atomic<int> tries{0};
 
  private:
   class Stream : public SoundOutput {
@@ -77,6 +86,7 @@ class SteppedOutputs : public SoundOutputs {
     uint64_t heard() const override { return owner_.heard_; }
     bool failed() const override { return owner_.failing; }
     bool paced() const override { return false; }
+    bool toNobody() const override { return owner_.toNobody; }
 
    private:
     void set(bool paused) {
@@ -94,8 +104,8 @@ class SteppedOutputs : public SoundOutputs {
 
 /// Waits for a condition that another thread brings about; false after five seconds.
 template <class Condition>
-bool becomes(const Condition& condition) {
-  const auto patience = std::chrono::steady_clock::now() + std::chrono::seconds(5);
+bool becomes(const Condition& condition, int milliseconds = 5000) {
+  const auto patience = std::chrono::steady_clock::now() + std::chrono::milliseconds(milliseconds);
   while (!condition()) {
     if (std::chrono::steady_clock::now() > patience) return false;
     std::this_thread::sleep_for(std::chrono::microseconds(500));

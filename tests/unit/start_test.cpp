@@ -137,14 +137,15 @@ TEST(Start, AdoptsADiscThatPlays) {
   for (const std::string& command : rig.device.tape) EXPECT_NE(command, "Play");
 }
 
-TEST(Start, EndsSilentlyWhenAnotherPlayerHasTheDrive) {
+TEST(Start, EndsWithAWordWhenAnotherPlayerHasTheDrive) {
   CoreRig rig;
   rig.install();
   rig.player.insert(discA());
   rig.player.held = Holder::Other;
   rig.start();
   EXPECT_TRUE(rig.gate.ended());
-  EXPECT_EQ(rig.dialogs.tape, Tape{});
+  EXPECT_EQ(rig.dialogs.tape,
+            Tape{"Orvanta: The MCI CD Device is in use by another application.  Wait until it is finished, and then\ntry again!"});
 }
 
 TEST(Start, TheFirstOneSetsItselfUp) {

@@ -20,8 +20,11 @@ class KernelCdrom : public CdromCalls {
 
   bool reopen() override {
     fd_ = UniqueFd(::open(device_.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+    absent_ = !fd_ && (errno == ENOENT || errno == ENXIO || errno == ENODEV || errno == ENOTDIR);
     return static_cast<bool>(fd_);
   }
+
+  std::string missing() const override { return absent_ ? device_ : ""; }
 
   bool lock() override {
     if (lock_) return true;
@@ -75,6 +78,7 @@ class KernelCdrom : public CdromCalls {
 
  private:
   std::string device_;
+  bool absent_ = false;
   UniqueFd fd_;
   UniqueFd lock_;
 };

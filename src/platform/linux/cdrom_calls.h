@@ -18,6 +18,8 @@ class CdromCalls {
   static constexpr int kLeadOut = 0xAA;
 
   virtual ~CdromCalls() = default;
+  /// The device's path when there is no such device; as the last try to open it told.
+  virtual std::string missing() const { return {}; }
   /// Opens the drive anew: the kernel keeps tables of contents for each handle.
   virtual bool reopen() = 0;
   /// One try for the lock that players hold on a drive; kept until the end.

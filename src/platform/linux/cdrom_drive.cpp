@@ -50,11 +50,12 @@ bool CdromDrive::readTable() {
   entry_.clear();
   const auto last = calls_->lastTrack();
   const auto leadOut = calls_->entry(CdromCalls::kLeadOut);
-  if (!last || !leadOut || *last < 1 || *last > kMaxTracks) return false;
+  const auto onDisc = [](const std::optional<CdromEntry>& entry) { return entry && entry->block >= 0 && entry->block < kMaxFrames; };
+  if (!last || !onDisc(leadOut) || *last < 1 || *last > kMaxTracks) return false;
   Toc toc;
   for (int number = 1; number <= *last; ++number) {
     const auto entry = calls_->entry(number);
-    if (!entry || (number > 1 && entry->block + kFirstFrame <= toc.startOf(number - 1))) return false;
+    if (!onDisc(entry) || (number > 1 && entry->block + kFirstFrame <= toc.startOf(number - 1))) return false;
     toc.tracks.push_back({number, entry->block + kFirstFrame, entry->data});
   }
   toc.leadOut = leadOut->block + kFirstFrame;

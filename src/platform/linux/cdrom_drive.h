@@ -16,6 +16,7 @@ class CdromDrive : public DiscSource {
   DriveStatus poll() override;
   const Toc& toc() const override { return toc_; }
   std::string firstEntry() const override { return entry_; }
+  std::string missing() const override { return calls_->missing(); }
   bool read(int frame, int count, int16_t* samples) override;
   void openTray() override;
   void closeTray() override;

@@ -25,8 +25,13 @@ ClockedOutput::~ClockedOutput() {
   if (thread_.joinable()) thread_.join();
 }
 
-ClockedOutput::ClockedOutput(SampleFeed& feed, WavFile* wav, Pace pace) : feed_(feed), wav_(wav), pace_(pace), since_(SteadyClock::now()) {
+ClockedOutput::ClockedOutput(SampleFeed& feed, WavFile* wav, Pace pace, bool toNobody)
+    : feed_(feed), wav_(wav), pace_(pace), toNobody_(toNobody), since_(SteadyClock::now()) {
   thread_ = std::thread([this] { run(); });
+}
+
+std::unique_ptr<SoundOutput> ClockedOutputs::make(SampleFeed& feed, bool /*afterFailure*/) {
+  return std::make_unique<ClockedOutput>(feed, wav_, pace_, wav_ != nullptr && !wav_->good());
 }
 
 uint64_t ClockedOutput::due() const {

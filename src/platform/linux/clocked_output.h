@@ -17,8 +17,8 @@ enum class Pace { RealTime, Unpaced };
 
 class ClockedOutput : public SoundOutput {
  public:
-  /// `wav` nullptr: samples are dropped. It outlives the output.
-  ClockedOutput(SampleFeed& feed, WavFile* wav, Pace pace);
+  /// `wav` nullptr: samples are dropped. It outlives the output. `toNobody`: nobody chose it.
+  ClockedOutput(SampleFeed& feed, WavFile* wav, Pace pace, bool toNobody = false);
   ~ClockedOutput() override;
 
   void pause() override;
@@ -26,6 +26,7 @@ class ClockedOutput : public SoundOutput {
   uint64_t heard() const override;
   bool failed() const override { return false; }
   bool paced() const override { return pace_ == Pace::RealTime; }
+  bool toNobody() const override { return toNobody_; }
 
  private:
   using SteadyClock = std::chrono::steady_clock;
@@ -36,6 +37,7 @@ class ClockedOutput : public SoundOutput {
   SampleFeed& feed_;
   WavFile* wav_;
   Pace pace_;
+  bool toNobody_;
   std::thread thread_;
   mutable std::mutex mutex_;  ///< over the clock's fields below
   std::condition_variable wake_;
@@ -46,13 +48,11 @@ class ClockedOutput : public SoundOutput {
   std::atomic<uint64_t> pulled_{0};
 };
 
-/// The chosen output: a WAV file or nothing, by the clock.
+/// The chosen output: a WAV file or nothing, by the clock. A file that cannot be written is no choice.
 class ClockedOutputs : public SoundOutputs {
  public:
   ClockedOutputs(WavFile* wav, Pace pace) : wav_(wav), pace_(pace) {}
-  std::unique_ptr<SoundOutput> make(SampleFeed& feed, bool /*afterFailure*/) override {
-    return std::make_unique<ClockedOutput>(feed, wav_, pace_);
-  }
+  std::unique_ptr<SoundOutput> make(SampleFeed& feed, bool afterFailure) override;
 
  private:
   WavFile* wav_;

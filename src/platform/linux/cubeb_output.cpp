@@ -38,6 +38,7 @@ class CubebOutput : public SoundOutput {
     cubeb_stream_destroy(stream_);
   }
 
+  bool made() const { return stream_ != nullptr; }
   bool start() { return stream_ != nullptr && cubeb_stream_start(stream_) == CUBEB_OK; }
   void pause() override { cubeb_stream_stop(stream_); }
   void resume() override { cubeb_stream_start(stream_); }
@@ -94,18 +95,34 @@ struct CubebOutputs::Context {
 CubebOutputs::CubebOutputs() = default;
 CubebOutputs::~CubebOutputs() = default;
 
+void CubebOutputs::connect() {
+  context_ = std::make_unique<Context>();
+  if (cubeb_init(&context_->handle, "Orvanta LX", nullptr) != CUBEB_OK) context_->handle = nullptr;
+}
+
 std::unique_ptr<SoundOutput> CubebOutputs::make(SampleFeed& feed, bool afterFailure) {
   if (afterFailure) context_.reset();
-  if (!context_) {
-    context_ = std::make_unique<Context>();
-    if (cubeb_init(&context_->handle, "Orvanta LX", nullptr) != CUBEB_OK) context_->handle = nullptr;
-  }
+  if (!context_) connect();
   if (context_->handle != nullptr) {
     auto output = std::make_unique<CubebOutput>(context_->handle, feed);
     if (output->start()) return output;
   }
   context_.reset();
-  return std::make_unique<ClockedOutput>(feed, nullptr, Pace::RealTime);
+  return std::make_unique<ClockedOutput>(feed, nullptr, Pace::RealTime, true);
+}
+
+/// A stream that is made and never started tells more than the context: that one comes up without any card.
+bool CubebOutputs::canSound() {
+  class Silence : public SampleFeed {
+   public:
+    size_t pull(int16_t* /*pairs*/, size_t /*count*/) override { return 0; }
+    bool finished() const override { return true; }
+  } silence;
+  context_.reset();
+  connect();
+  const bool can = context_->handle != nullptr && CubebOutput(context_->handle, silence).made();
+  context_.reset();
+  return can;
 }
 
 }  // namespace orvanta

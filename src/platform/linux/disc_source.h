@@ -25,6 +25,10 @@ class DiscSource {
   virtual std::string firstEntry() const = 0;
   /// Texts that came with the disc; most discs have none.
   virtual SheetTexts texts() const { return {}; }
+  /// The drive's path when there is nothing at it.
+  virtual std::string missing() const { return {}; }
+  /// What a person should know of the disc, as poll() found it; once, then "".
+  virtual std::string takeNotice() { return {}; }
   /// Frames `frame` to `frame + count - 1` as interleaved samples; false when the drive fails.
   virtual bool read(int frame, int count, int16_t* samples) = 0;
   virtual void openTray() = 0;

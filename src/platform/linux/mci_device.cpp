@@ -12,6 +12,9 @@ namespace {
 
 namespace err = device_error;
 
+/// Rounded up, so that rounding down gives the frame back.
+std::string millisecondsText(int frame) { return std::to_string(int64_t{frame} * 1000 / kFramesPerSecond + 1); }
+
 }  // namespace
 
 MciDevice::MciDevice(DiscPlayer& player, Clock& clock) : player_(player), timer_(clock.makeTimer([this] { tick(); })) {}
@@ -139,8 +142,9 @@ std::string MciDevice::sendString(std::string_view command) {
   if (equalsNoCase(command, "set cdaudio time format milliseconds")) {
     milliseconds_ = open_;
   } else if (equalsNoCase(command, "status cdaudio position") && open_ && milliseconds_) {
-    // Rounded up, so that rounding down gives the frame back.
-    return std::to_string(int64_t{player_.frame()} * 1000 / kFramesPerSecond + 1);
+    return millisecondsText(player_.frame());
+  } else if (equalsNoCase(command, "status cdaudio position track 1") && open_ && milliseconds_ && player_.toc().count() > 0) {
+    return millisecondsText(player_.toc().startOf(1));
   }
   return {};
 }

@@ -36,6 +36,8 @@ class MciDevice : public CdDevice {
   std::string sendString(std::string_view command) override;
   std::string directoryEntry() const override { return player_.firstEntry(); }
   SheetTexts texts() const override { return player_.texts(); }
+  bool soundless() const override { return player_.soundless(); }
+  std::string missingDrive() const override { return player_.missingDrive(); }
 
  private:
   int16_t carryOut(std::string_view word);

@@ -39,6 +39,7 @@ class SharedDrive : public DiscSource {
   const Toc& toc() const override { return drive_.toc(); }
   std::string firstEntry() const override { return drive_.firstEntry(); }
   SheetTexts texts() const override { return drive_.texts(); }
+  std::string missing() const override { return drive_.missing(); }
   bool read(int frame, int count, int16_t* samples) override { return drive_.read(frame, count, samples); }
   void openTray() override { drive_.openTray(); }
   void closeTray() override { drive_.closeTray(); }

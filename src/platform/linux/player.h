@@ -7,6 +7,7 @@
 #include <deque>
 #include <memory>
 #include <mutex>
+#include <optional>
 #include <thread>
 #include <vector>
 
@@ -23,10 +24,15 @@ class Player : public DiscPlayer, private SampleFeed {
   Player(DiscSource& source, SoundOutputs& outputs);
   ~Player() override;
 
-  /// For the start alone, so that a disc that is there is not taken for none: returns when it is
-  /// known who has the drive, or after `milliseconds`, and when the drive was looked at once, or
-  /// after a moment more. A drive that is slow to answer is not waited for.
-  void waitUntilKnown(int milliseconds);
+  /// For the start alone, so that a disc that is there is not taken for none. The drive's lock is waited for
+  /// `lock` milliseconds from this call on: then another has it. A table of contents that is being read is
+  /// waited for until `table` milliseconds after the lock was had. False: it took longer.
+  bool waitUntilKnown(int lock, int table = kTableTime);
+  /// The same in a process that was started for a disc. The drive may still be settling: until `table`
+  /// it is not believed that it is not ready. A disc that is not known by then shows only after it
+  /// was taken out, since a start for it would end here again.
+  bool waitForDisc(int lock, int table);
+  static constexpr int kTableTime = 2000;
 
   /// Ends the thread; false when a drive still holds it up after `milliseconds`.
   bool finish(int milliseconds);
@@ -35,6 +41,8 @@ class Player : public DiscPlayer, private SampleFeed {
   Toc toc() const override;
   std::string firstEntry() const override;
   SheetTexts texts() const override;
+  bool soundless() const override;
+  std::string missingDrive() const override;
   PlayState state() const override;
   int frame() const override;
   bool takeFailure() override;
@@ -73,14 +81,18 @@ class Player : public DiscPlayer, private SampleFeed {
     int frame;
   };
 
+  bool waitForLook(int lock, int table, bool forDisc);
   void give(const Order& order, PlayState state, int frame);
 
   // The owner thread's.
   void run();
   void lookAtDrive();
-  void tryToHold(bool tooLate);
+  bool held() const;
+  void tryToHold();
   void carryOut(const Order& order);
   void startStream(int from, bool afterFailure);
+  void renewStream();
+  bool soundIsBack();
   void dropStream();
   void readAhead(size_t enough);
   bool nextRun();
@@ -115,6 +127,8 @@ class Player : public DiscPlayer, private SampleFeed {
   int skipAhead_ = 0;      ///< frames given up at the last failed read
   int skipLeft_ = 0;       ///< of them still to come
   int failedInARow_ = 0;
+  std::chrono::steady_clock::time_point lastLook_;
+  std::chrono::steady_clock::time_point lastTry_;  ///< to have sound again
 
   mutable std::mutex mutex_;  ///< over everything below; held for moments only
   std::condition_variable wake_;
@@ -122,9 +136,11 @@ class Player : public DiscPlayer, private SampleFeed {
   std::deque<Order> orders_;
   bool quit_ = false;
   bool finished_ = false;
-  bool looked_ = false;  ///< at the drive, once at least
+  bool looked_ = false;    ///< at the drive, once at least
+  bool heldBack_ = false;  ///< the disc that is in was waited for in vain
+  std::optional<std::chrono::steady_clock::time_point> heldSince_;
   TrayOffer answer_;
-  std::chrono::steady_clock::time_point lastLook_;
+  std::string notice_;
   bool busy_ = false;  ///< an order is being carried out: shown_ holds what it will come to
   PlayState shownState_ = PlayState::Stopped;
   int shownFrame_ = kFirstFrame;
@@ -136,6 +152,7 @@ class Player : public DiscPlayer, private SampleFeed {
   Toc toc_;
   std::string entry_;
   SheetTexts texts_;
+  std::string missing_;
   bool failure_ = false;
 
   std::thread thread_;  ///< last: it runs on all of the above

@@ -30,6 +30,8 @@ class SoundOutput {
   virtual bool failed() const = 0;
   /// False for one that takes all it can get.
   virtual bool paced() const { return true; }
+  /// It stands in for sound that cannot be had.
+  virtual bool toNobody() const { return false; }
 };
 
 class SoundOutputs {
@@ -37,6 +39,8 @@ class SoundOutputs {
   virtual ~SoundOutputs() = default;
   /// A new stream over `feed`, pulling at once. `afterFailure`: the last one failed. Never nullptr.
   virtual std::unique_ptr<SoundOutput> make(SampleFeed& feed, bool afterFailure) = 0;
+  /// Whether, after a stream to nobody, a new one would be heard. May take a moment.
+  virtual bool canSound() { return false; }
 };
 
 }  // namespace orvanta

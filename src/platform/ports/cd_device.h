@@ -75,7 +75,8 @@ class CdDevice {
   virtual void setShareable(int16_t shareable) = 0;
 
   /// A command string with a text reply of at most 128 characters; "" for one that fails.
-  /// Known: "set cdaudio time format milliseconds", "status cdaudio position" (rounded up).
+  /// Known: "set cdaudio time format milliseconds", "status cdaudio position" (rounded up), and behind it " track 1"
+  /// for the place where the disc starts, whatever plays.
   virtual std::string sendString(std::string_view command) = 0;
 
   /// Name of the first entry in the drive's root: "Track01.cda" for an audio disc, the first file
@@ -84,6 +85,11 @@ class CdDevice {
 
   /// What the disc in the drive tells about itself; empty without a disc, or where it tells nothing.
   virtual SheetTexts texts() const = 0;
+
+  /// What plays is heard by nobody: there is no sound server or card. It plays on by the clock until there is one again.
+  virtual bool soundless() const = 0;
+  /// The path of a drive that is not there at all; "" for one that is.
+  virtual std::string missingDrive() const = 0;
 };
 
 }  // namespace orvanta

@@ -6,9 +6,10 @@
 namespace orvanta {
 
 struct TrayOffer {
-  enum class Answer { None, Accepted, Refused };
+  /// Notice: nobody offered anything; the disc that is in has something to tell.
+  enum class Answer { None, Accepted, Refused, Notice };
   Answer answer = Answer::None;
-  std::string refusal;  ///< why, for the user
+  std::string refusal;  ///< why, for the user; the notice's words
 };
 
 class DiscTray {
@@ -20,7 +21,7 @@ class DiscTray {
   virtual std::string imageFolder() const = 0;
   /// Looks at an image in its own time; nothing in the drive changes.
   virtual void offer(const std::string& path) = 0;
-  /// The answer to the last offer, once.
+  /// The answer to the last offer, once; then notices, each once.
   virtual TrayOffer takeAnswer() = 0;
   /// Pushes the tray shut, with the image that was accepted last in it. The disc shows in the device
   /// when it was read.

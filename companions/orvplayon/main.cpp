@@ -9,6 +9,7 @@
 
 #include "base/log.h"
 #include "platform/linux/cdrom_drive.h"
+#include "platform/linux/host_files.h"
 #include "platform/linux/image_drive.h"
 #include "platform/linux/local_socket.h"
 #include "platform/linux/play_on.h"
@@ -94,7 +95,7 @@ int run(int argc, char** argv) {
   }
   const SoundSetup sound = makeSound(argv[3]);
   PlayOn playOn(*drive, *sound.outputs, path);
-  const StreamVolume volume(playOn.level(), argv[4]);
+  setLevel(playOn.level(), keptLevel(HostFiles(), argv[4]));
   return playOn.run();
 }
 

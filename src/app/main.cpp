@@ -1,7 +1,6 @@
 // The one place that knows every adapter: it makes them, hands them to the core, and runs the loop.
 #include <QApplication>
 #include <QSocketNotifier>
-#include <QTimer>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
@@ -34,8 +33,8 @@
 namespace orvanta {
 namespace {
 
-/// Longer than the drive's lock is waited for; a disc image is known within a few milliseconds.
-constexpr int kDriveWait = 2500;
+constexpr int kLockTime = 3000;   ///< milliseconds for another player to let go of the drive
+constexpr int kDiscTime = 10000;  ///< for a drive to tell a disc that this process was started for
 constexpr int kFarewell = 500;
 
 /// A second start on the same data folder: its disc goes to the window that is there, which comes to
@@ -87,6 +86,8 @@ int run(int argc, char** argv) {
   DiscSource& drive = real ? static_cast<DiscSource&>(*discs) : *images;
   const SoundSetup sound = makeSound(options.audio);
   auto player = std::make_unique<Player>(drive, *sound.outputs);
+  // A drive of real discs says that it takes no images, by the road of all answers.
+  if (real && !options.disc.empty()) player->offer(options.disc);
 
   prepareQt();
   QApplication application(argc, argv);
@@ -105,7 +106,7 @@ int run(int argc, char** argv) {
   MciDevice device(*player, clock);
   DriveTray tray(*player, real ? "" : path);
   const std::string level = data.empty() ? "" : joinPath(data, "level.dat");
-  StreamVolume volume(player->level(), level);
+  StreamVolume volume(player->level(), files, clock, level);
   const auto master = systemMasterVolume();
   MixerStandIn mixer(*master);
   const SoundSetup deckSound = makeSound(options.audio == "default" ? options.audio : "null");
@@ -119,14 +120,14 @@ int run(int argc, char** argv) {
   if (!gate.ended()) {
     // A disc that plays on from the last time is taken over where it is.
     const auto rest = takeBack(path);
-    player->waitUntilKnown(kDriveWait);
+    if (options.takeOver) {
+      player->waitForDisc(kLockTime, kDiscTime);
+    } else {
+      player->waitUntilKnown(kLockTime);
+    }
     if (rest && player->holder() == Holder::Us && rest->to <= player->toc().leadOut) player->play(rest->from, rest->to);
   }
   gate.enter([&] { orvanta->showFaceplate(); });
-  const std::string refusal = images ? images->refusal() : options.disc.empty() ? "" : drive.accept(options.disc);
-  if (!gate.ended() && !refusal.empty()) {
-    QTimer::singleShot(0, &application, [&] { gate.enter([&] { dialogs.message(BoxStyle::Warning, "Orvanta", refusal); }); });
-  }
   SocketServer server(socket);
   std::unique_ptr<QSocketNotifier> notifier;
   if (server.fd() >= 0) {
@@ -134,6 +135,7 @@ int run(int argc, char** argv) {
     QObject::connect(notifier.get(), &QSocketNotifier::activated, [&] { serveSecondStarts(server, gate, tray, orvanta->form); });
   }
   const int code = gate.ended() ? 0 : QApplication::exec();
+  volume.keep();
   if (player->state() == PlayState::Playing) {
     handOn(*player, player->playEnd(), path, joinPath(system.windowsDir(), "orvplayon"), {path, memory, options.audio, level});
   }

@@ -2,6 +2,7 @@
 #include "app/restart.h"
 
 #include "base/text.h"
+#include "platform/ports/aux_volume.h"
 #include "platform/ports/clock.h"
 #include "platform/ports/core_gate.h"
 #include "platform/ports/files.h"
@@ -16,6 +17,7 @@ void Restart::forDisc() {
   const std::string& folder = state_.settings.appDir;
   const std::string handOver = joinPath(folder, kHandOverMarker);
   volume_.releaseMute();
+  ports_.auxVolume.keep();
   writeSettings(SettingsFile::SettingsDat, ports_.files, folder, state_.settings);
   setMarker(ports_.files, folder, kHandOverMarker);
   ProcessRequest request{{joinPath(state_.process.windowsDir, "orvanlx")}, folder, WindowStyle::Normal};

@@ -193,6 +193,8 @@ class FakeAuxVolume : public AuxVolume {
     written.push_back(volume);
     return writeError;
   }
+  void keep() override { ++keeps; }
+  int keeps = 0;
   int capsError = 0;
   int writeError = 0;
   std::vector<uint32_t> written;

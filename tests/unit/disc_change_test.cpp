@@ -32,6 +32,7 @@ TEST(DiscChange, AnotherDiscIsAnotherProcess) {
   EXPECT_EQ(rig.started(), 1);
   EXPECT_TRUE(rig.gate.ended());
   EXPECT_EQ(rig.files.read("/data/settings.dat"), "1\r\n\r\n0\r\n0\r\n0\r\n") << "the new one starts with what this one had";
+  EXPECT_EQ(rig.auxVolume.keeps, 1) << "and at this one's level";
   for (const std::string& act : rig.files.tape) EXPECT_NE(act, "remove /data/audiocd.tmp") << "that is the new one's marker by now";
   rig.clock.advance(10000);
   EXPECT_EQ(rig.started(), 1);

@@ -24,6 +24,8 @@ class AuxVolume {
   virtual AuxReading volume(int device) const = 0;
   /// 0, else an error number and the level stays.
   virtual int setVolume(int device, uint32_t volume) = 0;
+  /// A level outlives the process; it is written down a moment after it was set. Now, for a process that reads it next.
+  virtual void keep() {}
 };
 
 }  // namespace orvanta

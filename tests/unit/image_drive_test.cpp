@@ -2,7 +2,11 @@
 #include "platform/linux/image_drive.h"
 
 #include <gtest/gtest.h>
+#include <sndfile.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
+
+#include <csignal>
 
 #include "tests/support/test_discs.h"
 
@@ -102,29 +106,43 @@ TEST(DiscImage, RefusesBadSheetsAndSaysWhy) {
   const std::string head = "FILE \"disc.bin\" BINARY\n";
   std::string hundred = head;
   for (int i = 1; i <= 100; ++i) hundred += "TRACK " + std::to_string(i) + " AUDIO\nINDEX 01 00:00:00\n";
+  std::string many;
+  for (int i = 0; i < 20000; ++i) many += head;
   const std::pair<std::string, const char*> cases[] = {
-      {"", "no tracks"},
-      {std::string("\x7F\x45LF\0\xFF\xFE garbage\n\n", 18), "no tracks"},
+      {"", "choose a CUE sheet"},
+      {std::string("\x7F\x45LF\0\xFF\xFE garbage\n\n", 18), "choose a CUE sheet"},
+      {"#EXTM3U\n#EXTINF:100,One\none.flac\n", "choose a CUE sheet"},
+      {std::string("fLaC") + std::string(9000, 'x'), "choose a CUE sheet"},
+      {std::string((1 << 20) + 1, 'x'), "choose a CUE sheet"},
       {head, "no tracks"},
       {"TRACK 01 AUDIO\nINDEX 01 00:00:00\n", "before the first file"},
       {hundred, "1 to 99"},
       {head + "TRACK 02 AUDIO\nINDEX 01 00:00:00\n", "in order"},
-      {head + "TRACK 01 AUDIO\nINDEX 01 00:00:10\n", "beyond the end"},
-      {head + "TRACK 01 AUDIO\nINDEX 01 999:00:00\n", "beyond"},
+      {head + "TRACK 01 AUDIO\nINDEX 01 00:00:10\n", "track 1 lies beyond the end"},
+      {head + "TRACK 01 AUDIO\nINDEX 01 999:00:00\n", "track 1 lies beyond the end"},
+      {head + "TRACK 01 AUDIO\nINDEX 01 00:00:00\nTRACK 02 AUDIO\nINDEX 01 00:00:11\n", "track 2 lies beyond the end"},
+      {head + "TRACK 01 AUDIO\nINDEX 01 00:00:00\nTRACK 02 AUDIO\nINDEX 01 00:00:10\n", "track 2 lies beyond the end"},
+      {head + "TRACK 01 AUDIO\nINDEX 01 00:00:02\nTRACK 02 AUDIO\nINDEX 01 00:00:02\n", "track 1 has no length"},
       {head + "TRACK 01 AUDIO\nINDEX 01 00:00:05\nINDEX 02 00:00:04\n", "backwards"},
-      {head + "TRACK 01 AUDIO\nINDEX 01 00:00:05\nTRACK 02 AUDIO\nINDEX 01 00:00:02\n", "before"},
+      {head + "TRACK 01 AUDIO\nINDEX 01 00:00:05\nTRACK 02 AUDIO\nINDEX 01 00:00:02\n", "track 2 lies before"},
       {head + "TRACK 01 AUDIO\nINDEX 01 00:00:99\n", "cannot be read"},
       {head + "TRACK 01 AUDIO\nINDEX 00 00:00:00\n", "INDEX 01"},
       {head + "TRACK 01 JUMBLE\nINDEX 01 00:00:00\n", "unknown type"},
       {"FILE \"disc.bin\" MP3\nTRACK 01 AUDIO\nINDEX 01 00:00:00\n", "cannot be played"},
+      {"FILE \"disc.bin BINARY\nTRACK 01 AUDIO\nINDEX 01 00:00:00\n", "no closing quote"},
+      {"FILE \"" + std::string(880000, 'x') + "\" BINARY\n", "line 1 is longer"},
+      {"FILE \"" + std::string(3900, 'x') + "\" BINARY\nTRACK 01 AUDIO\nINDEX 01 00:00:00\n", "is missing"},
+      {many, "more files than a disc has tracks"},
       {"FILE \"disc.bin\" WAVE\nTRACK 01 AUDIO\nINDEX 01 00:00:00\n", "not a sound file"},
   };
   for (const auto& [sheet, why] : cases) {
     writeFile(folder / "bad.cue", sheet);
-    EXPECT_NE(errorOf(folder / "bad.cue").find(why), std::string::npos) << sheet << errorOf(folder / "bad.cue");
+    const std::string error = errorOf(folder / "bad.cue");
+    EXPECT_NE(error.find(why), std::string::npos) << sheet.substr(0, 200) << error;
+    EXPECT_LT(error.size(), 200) << "a box must stay readable";
   }
   EXPECT_NE(errorOf(folder / "absent.cue"), "");
-  EXPECT_NE(errorOf(folder.path()), "");
+  EXPECT_NE(errorOf(folder.path()).find("choose a CUE sheet in it"), std::string::npos);
 }
 
 TEST(DiscImage, RefusesFilesThatAreNotItsOwn) {
@@ -147,13 +165,87 @@ TEST(DiscImage, RefusesFilesThatAreNotItsOwn) {
   }
 }
 
+TEST(DiscImage, SoundFilesThatAreNoneAreToldApart) {
+  const TempFolder folder;
+  const auto write = [&](const char* name, int channels, int rate, int pairs) {
+    SF_INFO info{};
+    info.channels = channels;
+    info.samplerate = rate;
+    info.format = SF_FORMAT_WAV | SF_FORMAT_PCM_16;
+    SNDFILE* file = sf_open((folder / name).c_str(), SFM_WRITE, &info);
+    const std::vector<int16_t> samples(static_cast<size_t>(pairs * channels));
+    sf_writef_short(file, samples.data(), pairs);
+    sf_close(file);
+  };
+  write("mono.wav", 1, kSampleRate, 1000);
+  write("slow.wav", 2, 22050, 1000);
+  write("mute.wav", 2, kSampleRate, 0);
+  const TempFolder whole;
+  makeSoundDisc(whole, {100}, true);
+  std::string error;
+  const std::string flac = readSmallFile(whole / "disc.flac", 1 << 20, error);
+  writeFile(folder / "half.flac", flac.substr(0, flac.size() / 2));
+  for (const auto& [name, why] : {std::pair{"mono.wav", "not stereo"}, std::pair{"slow.wav", "44,100"},
+                                  std::pair{"mute.wav", "holds no sound"}, std::pair{"half.flac", "is cut short"}}) {
+    writeFile(folder / "bad.cue", std::string("FILE ") + name + " WAVE\nTRACK 01 AUDIO\nINDEX 01 00:00:00\n");
+    EXPECT_NE(errorOf(folder / "bad.cue").find(why), std::string::npos) << name << errorOf(folder / "bad.cue");
+  }
+}
+
+TEST(DiscImage, FindsItsFilesHoweverTheirNamesAreWritten) {
+  const TempFolder folder;
+  const auto utf16 = [](const std::u16string& text, bool big) {
+    std::string bytes;
+    for (const char16_t c : text) {
+      for (const int shift : {big ? 8 : 0, big ? 0 : 8}) bytes += static_cast<char>(c >> shift);
+    }
+    return bytes;
+  };
+  const std::u16string name = u"Caf\u00E9 \u0439 \u304C \uD55C \u1EAD.bin";
+  const std::u16string sheet = u"TITLE \"\U0001F3B5\"\nFILE \"" + name + u"\" BINARY\nTRACK 01 AUDIO\nINDEX 01 00:00:00\n";
+  // On the disk the accents stand behind their letters, as some systems keep them.
+  writeFile(folder / "CAFe\xCC\x81 \xD0\xB8\xCC\x86 \xE3\x81\x8B\xE3\x82\x99 \xE1\x84\x92\xE1\x85\xA1\xE1\x86\xAB a\xCC\xA3\xCC\x82.bin",
+            frameBytes(150, 10));
+  for (const std::string& bytes :
+       {"\xFF\xFE" + utf16(sheet, false), "\xFE\xFF" + utf16(sheet, true), utf16(sheet, false), utf16(sheet, true)}) {
+    writeFile(folder / "disc.cue", bytes + "\x0A");
+    std::string error;
+    const auto disc = DiscImage::open(folder / "disc.cue", error);
+    ASSERT_NE(disc, nullptr) << error;
+    EXPECT_EQ(disc->texts().title, "\xF0\x9F\x8E\xB5");
+  }
+  writeFile(folder / "disc.cue",
+            "\xFF\xFE" + utf16(u"TITLE \"a\xD800z\"\nFILE Cafe.bin BINARY\nTRACK 01 AUDIO\nINDEX 01 00:00:00\n", false));
+  EXPECT_NE(errorOf(folder / "disc.cue").find("\"Cafe.bin\" is missing"), std::string::npos) << "another name is another file";
+}
+
+TEST(DiscImage, ARootThatPointsNowhereIsPassedOver) {
+  constexpr uint32_t kHuge = 0x7FFFFFFF;
+  const TempFolder folder;
+  const std::string sheet = makeEnhancedDisc(folder, {100}, "START.EXE");
+  std::string error;
+  const std::string whole = readSmallFile(folder / "disc.bin", 1 << 20, error);
+  for (const auto& [block, bytes] : {std::pair{kHuge, 2048U}, std::pair{118U, kHuge}, std::pair{kHuge, kHuge},
+                                     std::pair{0xFFFFFFFFU, 0xFFFFFFFFU}, std::pair{kHuge - 149, 2048U}}) {
+    std::string image = whole;
+    const size_t record = size_t{116} * kBytesPerFrame + 16 + 156;
+    for (size_t i = 0; i < 4; ++i) {
+      image[record + 2 + i] = static_cast<char>(block >> (8 * i));
+      image[record + 10 + i] = static_cast<char>(bytes >> (8 * i));
+    }
+    writeFile(folder / "disc.bin", image);
+    EXPECT_EQ(DiscImage::open(sheet, error)->firstEntry(), block == 118 ? "START.EXE" : "Track01.cda") << block << " " << bytes;
+  }
+}
+
 TEST(ImageDrive, KeepsTheFoldersDiscWhenAnotherIsRefused) {
   const TempFolder folder;
   makeDisc(folder, {100, 100});
   const TempFolder bad;
   writeFile(bad / "bad.cue", "nothing");
   ImageDrive drive(folder.path(), bad / "bad.cue");
-  EXPECT_NE(drive.refusal().find("no tracks"), std::string::npos);
+  EXPECT_NE(drive.takeNotice().find("choose a CUE sheet"), std::string::npos);
+  EXPECT_EQ(drive.takeNotice(), "") << "told once";
   EXPECT_EQ(drive.poll(), DriveStatus::Disc);
   EXPECT_EQ(drive.toc().count(), 2);
   drive.openTray();
@@ -164,6 +256,95 @@ TEST(ImageDrive, KeepsTheFoldersDiscWhenAnotherIsRefused) {
   ImageDrive none(folder / "nowhere");
   EXPECT_TRUE(none.lock());
   EXPECT_EQ(none.poll(), DriveStatus::NoDisc);
+  EXPECT_EQ(none.missing(), folder / "nowhere");
+  EXPECT_EQ(drive.missing(), "");
+}
+
+/// As good as a full disk: while it lives no byte goes into any file.
+class FullDisk {
+ public:
+  FullDisk() {
+    ::signal(SIGXFSZ, SIG_IGN);
+    ::getrlimit(RLIMIT_FSIZE, &before_);
+    const rlimit none{0, before_.rlim_max};
+    ::setrlimit(RLIMIT_FSIZE, &none);
+  }
+  ~FullDisk() { ::setrlimit(RLIMIT_FSIZE, &before_); }
+
+ private:
+  rlimit before_{};
+};
+
+TEST(ImageDrive, RemembersItsImageOrRefusesIt) {
+  const TempFolder folder;
+  const TempFolder images;
+  const std::string one = makeDisc(images, {100});
+  std::filesystem::create_directory(images / "two");
+  writeFile(images / "two/two.cue", "FILE two.bin BINARY\nTRACK 01 AUDIO\nINDEX 01 00:00:00\nTRACK 02 AUDIO\nINDEX 01 00:00:05\n");
+  writeFile(images / "two/two.bin", frameBytes(150, 10));
+  const std::string memory = folder / "tray.dat";
+  const auto tracks = [&] {
+    ImageDrive next(folder.path(), "", memory);
+    next.poll();
+    return next.toc().count();
+  };
+  ImageDrive drive(folder.path(), one, memory);
+  std::string error;
+  EXPECT_EQ(readSmallFile(memory, 1000, error), folder.path() + "\n" + one + "\n");
+  EXPECT_EQ(tracks(), 1);
+  auto full = std::make_unique<FullDisk>();
+  EXPECT_EQ(drive.accept(images / "two/two.cue"),
+            "The disc image " + images / "two/two.cue" + " cannot be put in: " + memory + " cannot be written.");
+  drive.openTray();
+  drive.closeTray();
+  EXPECT_EQ(drive.toc().count(), 1);
+  EXPECT_EQ(tracks(), 1) << "the old memory is whole";
+  full.reset();
+  EXPECT_EQ(drive.accept(images / "two/two.cue"), "");
+  drive.closeTray();
+  EXPECT_EQ(drive.toc().count(), 2);
+  EXPECT_EQ(tracks(), 2);
+  std::filesystem::remove(images / "two/two.cue");
+  ImageDrive next(folder.path(), "", memory);
+  EXPECT_NE(next.takeNotice().find("two.cue cannot be played"), std::string::npos);
+  ImageDrive elsewhere(images.path(), "", memory);
+  EXPECT_EQ(elsewhere.takeNotice(), "") << "another drive's memory";
+}
+
+TEST(ImageDrive, TellsOnceWhatBecomesOfTheFilesOfItsDisc) {
+  using Act = void (*)(const std::string&);
+  const std::pair<Act, const char*> cases[] = {
+      {[](const std::string& bin) { std::filesystem::remove(bin); }, "was removed or renamed"},
+      {[](const std::string& bin) { std::filesystem::rename(bin, bin + ".old"); }, "was removed or renamed"},
+      {[](const std::string& bin) { std::filesystem::resize_file(bin, 30 * kBytesPerFrame); }, "was cut short"},
+      {[](const std::string& bin) { std::filesystem::resize_file(bin, 300 * kBytesPerFrame); }, "was changed"},
+      {[](const std::string& bin) {
+         writeFile(bin + ".other", "x");
+         std::filesystem::rename(bin + ".other", bin);
+       },
+       "was replaced"}};
+  for (const auto& [act, what] : cases) {
+    const TempFolder folder;
+    makeDisc(folder, {100});
+    ImageDrive drive(folder.path());
+    EXPECT_EQ(drive.poll(), DriveStatus::Disc);
+    EXPECT_EQ(drive.takeNotice(), "");
+    act(folder / "disc.bin");
+    EXPECT_EQ(drive.poll(), DriveStatus::Disc) << "what plays plays on";
+    const std::string notice = drive.takeNotice();
+    EXPECT_EQ(notice.find("The file \"disc.bin\" " + std::string(what)), 0U) << notice;
+    drive.poll();
+    EXPECT_EQ(drive.takeNotice(), "");
+    std::vector<int16_t> samples(kShortsPerFrame);
+    for (const int frame : {150, 179, 249}) {
+      ASSERT_TRUE(drive.read(frame, 1, samples.data()));
+      const bool there = frame < 180 || std::string(what) != "was cut short";
+      EXPECT_EQ(isFrame(frame, samples.data()), there) << what << frame;
+      if (!there) {
+        EXPECT_EQ(samples, std::vector<int16_t>(kShortsPerFrame));
+      }
+    }
+  }
 }
 
 }  // namespace

@@ -6,8 +6,9 @@
 #include <charconv>
 #include <optional>
 
-#include "base/code_page.h"
 #include "base/text.h"
+#include "platform/linux/cue_text.h"
+#include "platform/linux/image_path.h"
 #include "platform/linux/toc.h"
 
 namespace orvanta {
@@ -75,6 +76,9 @@ constexpr std::array<TrackType, 8> kTrackTypes = {{{"AUDIO", 2352, false},
                                                    {"CDI/2336", 2336, true},
                                                    {"CDI/2352", 2352, true}}};
 
+constexpr const char* kNoSheet = "it is no CUE sheet; choose a CUE sheet, a file that ends in .cue";
+constexpr size_t kLongestLine = 4096;  ///< bytes; no file system has longer paths
+
 class Parser {
  public:
   explicit Parser(CueSheet& sheet) : sheet_(sheet) {}
@@ -116,13 +120,18 @@ class Parser {
     text = withoutBlanks(text);
     std::string name;
     if (!text.empty() && text.front() == '"') {
-      name = takeWord(text);
+      // A name may hold quotes: the last one of the line ends it.
+      const auto last = text.rfind('"');
+      if (last == 0) return refuse("the name of a file has no closing quote");
+      name = text.substr(1, last - 1);
+      text.remove_prefix(last + 1);
     } else {
       const auto blank = text.find_last_of(" \t");
       name = withoutBlanks(text.substr(0, blank));
       text = blank == std::string_view::npos ? std::string_view{} : text.substr(blank);
     }
     const std::string type = upper(takeWord(text));
+    if (sheet_.files.size() == kMaxTracks) return refuse("it names more files than a disc has tracks");
     if (type == "BINARY") {
       sheet_.files.push_back({name, CueFileType::Binary});
     } else if (type == "MOTOROLA") {
@@ -130,7 +139,7 @@ class Parser {
     } else if (type == "WAVE" || type == "FLAC" || type == "AIFF") {
       sheet_.files.push_back({name, CueFileType::Sound});
     } else {
-      refuse("files of the type \"" + type + "\" cannot be played");
+      refuse("files of the type " + inQuotes(type) + " cannot be played");
     }
   }
 
@@ -140,7 +149,7 @@ class Parser {
     const auto* found = std::find_if(kTrackTypes.begin(), kTrackTypes.end(), [&](const TrackType& t) { return t.name == type; });
     if (sheet_.files.empty()) return refuse("a track stands before the first file");
     if (!place || *place != static_cast<int>(sheet_.tracks.size()) + 1) return refuse("the tracks are not numbered from 1 to 99 in order");
-    if (found == kTrackTypes.end()) return refuse(trackName(*place) + " is of the unknown type \"" + type + "\"");
+    if (found == kTrackTypes.end()) return refuse(trackName(*place) + " is of the unknown type " + inQuotes(type));
     CueTrack made;
     made.number = *place;
     made.sectorBytes = found->sectorBytes;
@@ -202,10 +211,15 @@ bool hasStart(const CueTrack& track) {
 CueSheet parseCue(std::string_view bytes) {
   CueSheet sheet;
   Parser parser(sheet);
-  if (bytes.substr(0, 3) == "\xEF\xBB\xBF") bytes.remove_prefix(3);
-  const std::string text = isUtf8(bytes) ? std::string(bytes) : fromWindows1252(bytes);
-  for (const std::string& line : splitLines(text)) parser.line(line);
-  if (sheet.tracks.empty()) parser.refuse("it holds no tracks");
+  const std::vector<std::string> lines = splitLines(cueText(bytes));
+  for (size_t i = 0; i < lines.size() && sheet.error.empty(); ++i) {
+    if (lines[i].size() > kLongestLine) {
+      const bool noSheet = sheet.files.empty() && !startsWithNoCase(lines[i], "FILE");
+      parser.refuse(noSheet ? kNoSheet : "line " + std::to_string(i + 1) + " is longer than any line of a sheet");
+    }
+    parser.line(lines[i]);
+  }
+  if (sheet.tracks.empty()) parser.refuse(sheet.files.empty() ? kNoSheet : "it holds no tracks");
   for (const CueTrack& track : sheet.tracks) {
     if (!hasStart(track)) parser.refuse("track " + std::to_string(track.number) + " has no INDEX 01");
   }

@@ -32,10 +32,14 @@ class Layer {
     }
     const int64_t end = lastOfFile ? fileEnd(track) : sheet_.tracks[i + 1].indexes.front().frame;
     const int start = startIndex(track);
+    const int64_t limit = fileEnd(track);
     const std::string name = "track " + std::to_string(track.number);
-    if (track.indexes.front().frame < fileFrame_ || end < start)
-      return refuse(name + " lies before the one it follows, or beyond its file");
-    if (start >= end || end > fileEnd(track)) return refuse(name + " lies beyond the end of its file");
+    const std::string next = "track " + std::to_string(track.number + 1);
+    if (track.indexes.front().frame < fileFrame_) return refuse(name + " lies before the one it follows");
+    if (start >= limit) return refuse(name + " lies beyond the end of its file");
+    if (end < start) return refuse(next + " lies before the one it follows");
+    if (end == start) return refuse(name + " has no length");
+    if (end > limit) return refuse(next + " lies beyond the end of its file");
     silence(track.pregap);
     out_.toc.tracks.push_back({track.number, at_ + start - fileFrame_, track.data});
     fromFile(track, static_cast<int>(end) - fileFrame_);

@@ -6,9 +6,11 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
+#include <optional>
 
 #include "base/text.h"
+#include "platform/linux/host_files.h"
+#include "platform/linux/image_path.h"
 #include "platform/linux/iso_root.h"
 
 namespace orvanta {
@@ -19,12 +21,18 @@ namespace {
 
 constexpr int64_t kMaxSheet = int64_t{1} << 20;
 
+std::string refusalOf(const std::string& path, const std::string& why) {
+  return "The disc image " + shown(path) + " cannot be played: " + why + ".";
+}
+
 }  // namespace
 
 std::unique_ptr<DiscImage> DiscImage::open(const std::string& cuePath, std::string& error) {
   auto disc = std::make_unique<DiscImage>();
   error.clear();
-  const std::string bytes = readSmallFile(cuePath, kMaxSheet, error);
+  std::error_code ignored;
+  if (fs::is_directory(cuePath, ignored)) error = "it is a folder; choose a CUE sheet in it, a file that ends in .cue";
+  const std::string bytes = error.empty() ? readSmallFile(cuePath, kMaxSheet, error) : "";
   if (!error.empty()) return nullptr;
   const CueSheet sheet = parseCue(bytes);
   error = sheet.error;
@@ -37,6 +45,7 @@ std::unique_ptr<DiscImage> DiscImage::open(const std::string& cuePath, std::stri
     error = opened.error;
     lengths.push_back(opened.file ? opened.file->length() : 0);
     disc->files_.push_back(std::move(opened.file));
+    disc->names_.push_back(inQuotes(sheet.files[i].name));
   }
   if (!error.empty()) return nullptr;
   disc->layout_ = layOut(sheet, lengths);
@@ -101,33 +110,55 @@ bool DiscImage::readBlock(int block, unsigned char* bytes) {
   return file.readBytes(offset + header, kIsoBlock, reinterpret_cast<char*>(bytes));
 }
 
+std::string DiscImage::fate() const {
+  for (size_t i = 0; i < files_.size(); ++i) {
+    const std::string fate = files_[i]->fate();
+    if (!fate.empty()) return "The file " + names_[i] + fate;
+  }
+  return {};
+}
+
 ImageDrive::ImageDrive(std::string folder, const std::string& disc, std::string memory)
     : folder_(std::move(folder)), memory_(std::move(memory)) {
-  if (!disc.empty()) {
-    refusal_ = ImageDrive::accept(disc);
-    ImageDrive::closeTray();
-  }
-  const std::string last = disc_ ? "" : remembered();
   std::string why;
-  if (!last.empty()) disc_ = DiscImage::open(last, why);
+  if (!disc.empty()) {
+    disc_ = DiscImage::open(disc, why);
+    if (disc_) {
+      remember(disc);
+    } else {
+      notice_ = refusalOf(disc, why);
+    }
+  }
+  if (!disc_) takeRemembered();
 }
 
-/// Two lines: this drive's folder, and the image that was put into it last.
-std::string ImageDrive::remembered() const {
-  std::string error;
-  const auto lines = splitLines(memory_.empty() ? "" : readSmallFile(memory_, kMaxSheet, error));
-  return lines.size() >= 2 && lines[0] == folder_ ? lines[1] : "";
+std::string rememberedImage(std::string_view bytes, const std::string& folder) {
+  const auto lines = splitLines(bytes);
+  return lines.size() >= 2 && lines[0] == folder ? lines[1] : "";
 }
 
-void ImageDrive::remember(const std::string& imagePath) const {
-  if (!memory_.empty()) std::ofstream(memory_) << folder_ << "\n" << imagePath << "\n";
+void ImageDrive::takeRemembered() {
+  const auto bytes = memory_.empty() ? std::nullopt : HostFiles().read(memory_);
+  const std::string last = bytes ? rememberedImage(*bytes, folder_) : "";
+  if (last.empty()) return;
+  std::string why;
+  disc_ = DiscImage::open(last, why);
+  if (!disc_ && notice_.empty()) notice_ = refusalOf(last, why);
+}
+
+/// False when the next process would not find the image: the disk is full.
+bool ImageDrive::remember(const std::string& imagePath) const {
+  return memory_.empty() || HostFiles().write(memory_, folder_ + "\n" + imagePath + "\n");
 }
 
 std::string ImageDrive::accept(const std::string& imagePath) {
   std::string why;
   next_ = DiscImage::open(imagePath, why);
-  nextPath_ = imagePath;
-  return next_ ? "" : "The disc image " + imagePath + " cannot be played: " + why + ".";
+  if (!next_) return refusalOf(imagePath, why);
+  // Another disc is played by another process, which has no other way to know it.
+  if (remember(imagePath)) return {};
+  next_.reset();
+  return "The disc image " + shown(imagePath) + " cannot be put in: " + shown(memory_) + " cannot be written.";
 }
 
 bool ImageDrive::lock() {
@@ -151,18 +182,30 @@ std::string ImageDrive::firstSheet() const {
   return first == sheets.end() ? "" : *first;
 }
 
+void ImageDrive::takeFirstSheet() {
+  const std::string sheet = firstSheet();
+  if (sheet.empty() || sheet == tried_) return;
+  std::string why;
+  disc_ = DiscImage::open(sheet, why);
+  tried_ = sheet;
+  if (!disc_ && notice_.empty()) notice_ = refusalOf(sheet, why);
+}
+
 DriveStatus ImageDrive::poll() {
   if (open_) return DriveStatus::TrayOpen;
-  if (!disc_) {
-    const std::string sheet = firstSheet();
-    if (!sheet.empty() && sheet != tried_) {
-      std::string why;
-      disc_ = DiscImage::open(sheet, why);
-      tried_ = sheet;
-      if (!disc_ && refusal_.empty()) refusal_ = "The disc image " + sheet + " cannot be played: " + why + ".";
-    }
+  if (!disc_) takeFirstSheet();
+  if (!disc_) return DriveStatus::NoDisc;
+  if (!fateTold_) {
+    const std::string fate = disc_->fate();
+    fateTold_ = !fate.empty();
+    if (fateTold_) notice_ = fate;
   }
-  return disc_ ? DriveStatus::Disc : DriveStatus::NoDisc;
+  return DriveStatus::Disc;
+}
+
+std::string ImageDrive::missing() const {
+  std::error_code error;
+  return disc_ || fs::is_directory(folder_, error) ? "" : folder_;
 }
 
 const Toc& ImageDrive::toc() const {
@@ -182,7 +225,7 @@ void ImageDrive::closeTray() {
   open_ = false;
   if (!next_) return;
   disc_ = std::move(next_);
-  remember(nextPath_);
+  fateTold_ = false;
 }
 
 }  // namespace orvanta

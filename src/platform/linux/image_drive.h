@@ -3,6 +3,8 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
+#include <utility>
 #include <vector>
 
 #include "platform/linux/disc_layout.h"
@@ -22,6 +24,8 @@ class DiscImage {
   const std::string& firstEntry() const { return firstEntry_; }
   const SheetTexts& texts() const { return texts_; }
   bool read(int frame, int count, int16_t* samples);
+  /// What has become of a file of the image since the disc was put in; "" for nothing.
+  std::string fate() const;
 
  private:
   bool readPiece(const Segment& segment, int frame, int count, int16_t* samples);
@@ -31,6 +35,7 @@ class DiscImage {
 
   DiscLayout layout_;
   std::vector<std::unique_ptr<ImageFile>> files_;
+  std::vector<std::string> names_;  ///< of the files, as a message tells them
   std::string firstEntry_;
   SheetTexts texts_;
 };
@@ -38,17 +43,18 @@ class DiscImage {
 class ImageDrive : public DiscSource {
  public:
   /// `folder`: its first CUE sheet, by name, is the disc. `disc`: a sheet to put in instead; one
-  /// that is refused leaves the disc in the tray that is there, and refusal() says why. `memory`: a
-  /// file that keeps, for the next process, which image was put in; "" for none.
+  /// that is refused leaves the disc in the tray that is there. `memory`: a
+  /// file that keeps, for the next process, which image was put in; "" for none. What is refused here is
+  /// told by takeNotice().
   explicit ImageDrive(std::string folder, const std::string& disc = "", std::string memory = "");
-
-  const std::string& refusal() const { return refusal_; }
 
   bool lock() override;
   DriveStatus poll() override;
   const Toc& toc() const override;
   std::string firstEntry() const override;
   SheetTexts texts() const override;
+  std::string missing() const override;
+  std::string takeNotice() override { return std::exchange(notice_, {}); }
   bool read(int frame, int count, int16_t* samples) override;
   void openTray() override;
   void closeTray() override;
@@ -56,18 +62,23 @@ class ImageDrive : public DiscSource {
 
  private:
   std::string firstSheet() const;
-  std::string remembered() const;
-  void remember(const std::string& imagePath) const;
+  void takeFirstSheet();
+  void takeRemembered();
+  bool remember(const std::string& imagePath) const;
 
   std::string folder_;
   std::string memory_;
-  std::string refusal_;
+  std::string notice_;
   std::string tried_;  ///< sheet of the folder that was refused, not to be tried each second
   std::unique_ptr<DiscImage> disc_;
   std::unique_ptr<DiscImage> next_;  ///< accepted, for the tray's next closing
-  std::string nextPath_;
   UniqueFd lock_;
   bool open_ = false;
+  bool fateTold_ = false;  ///< of the disc that is in
 };
+
+/// What a tray.dat says: the drive's folder, and the image that was put into it last; "" for a file that says
+/// nothing of `folder`.
+std::string rememberedImage(std::string_view bytes, const std::string& folder);
 
 }  // namespace orvanta

@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <cstring>
 
+#include "platform/linux/toc.h"
+
 namespace orvanta {
 
 namespace {
@@ -14,9 +16,11 @@ constexpr size_t kRootRecord = 156;
 constexpr size_t kMinRecord = 33;
 constexpr unsigned char kFolderFlag = 2;
 
-int little32(const unsigned char* bytes) {
-  const auto part = [bytes](size_t i) { return uint32_t{bytes[i]} << (8U * i); };
-  return static_cast<int>((part(0) | part(1) | part(2) | part(3)) & 0x7FFFFFFFU);
+constexpr int64_t kMostBlocks = 64;  ///< of a root folder that are looked through
+
+int64_t little32(const unsigned char* bytes) {
+  const auto part = [bytes](size_t i) { return int64_t{bytes[i]} << (8U * i); };
+  return part(0) | part(1) | part(2) | part(3);
 }
 
 /// First file among the records of one block of a folder; "" for none.
@@ -39,14 +43,16 @@ std::string firstFileIn(const IsoBlock& block) {
 
 std::string firstRootFile(int start, const std::function<bool(int, IsoBlock&)>& read) {
   IsoBlock block{};
-  if (!read(start + kDescriptor, block) || block[0] != 1 || std::memcmp(&block[1], "CD001", 5) != 0) return {};
+  // What a disc says of itself may be anything: no place beyond the end of any disc is asked for.
+  const auto readAt = [&](int64_t number) { return number >= 0 && number < kMaxFrames && read(static_cast<int>(number), block); };
+  if (!readAt(int64_t{start} + kDescriptor) || block[0] != 1 || std::memcmp(&block[1], "CD001", 5) != 0) return {};
   // Blocks count from the start of the disc, or, mastered without regard to it, of the session.
-  int first = little32(&block[kRootRecord + 2]);
+  int64_t first = little32(&block[kRootRecord + 2]);
   if (first < start) first += start;
-  const int bytes = little32(&block[kRootRecord + 10]);
-  const int blocks = std::clamp((bytes + kIsoBlock - 1) / kIsoBlock, 0, 64);
-  for (int i = 0; i < blocks; ++i) {
-    if (!read(first + i, block)) return {};
+  const int64_t bytes = little32(&block[kRootRecord + 10]);
+  const int64_t blocks = std::min<int64_t>((bytes + kIsoBlock - 1) / kIsoBlock, kMostBlocks);
+  for (int64_t i = 0; i < blocks; ++i) {
+    if (!readAt(first + i)) return {};
     std::string name = firstFileIn(block);
     if (!name.empty()) return name;
   }

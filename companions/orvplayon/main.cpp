@@ -13,6 +13,7 @@
 #include "platform/linux/image_drive.h"
 #include "platform/linux/local_socket.h"
 #include "platform/linux/play_on.h"
+#include "platform/linux/play_on_talk.h"
 #include "platform/linux/sound_choice.h"
 #include "platform/linux/stream_volume.h"
 
@@ -31,54 +32,26 @@ class PlayOn {
 
   int run() {
     if (server_.fd() < 0) return 1;
-    while (!over_) {
+    while (!talk_.over()) {
       pollfd wait{server_.fd(), POLLIN, 0};
       if (::poll(&wait, 1, kTick) > 0) {
-        while (auto request = server_.next()) answer(*request);
+        while (auto request = server_.next()) SocketServer::reply(*request, talk_.answer(request->line));
       }
       // The deck's lock goes with its process: ours follows as soon as it can.
-      if (playing_ && !held_) held_ = drive_.lock();
-      const bool ended = playing_ && player_.state() == PlayState::Stopped;
-      const bool forgotten = !playing_ && std::chrono::steady_clock::now() - started_ > kOrphan;
-      over_ = over_ || ended || forgotten;
+      if (talk_.playing() && !held_) held_ = drive_.lock();
+      if (!talk_.playing() && std::chrono::steady_clock::now() - started_ > kOrphan) break;
     }
     return 0;
   }
 
  private:
-  void answer(const SocketServer::Request& request) {
-    if (request.line == "ready") {
-      SocketServer::reply(request, player_.toc().count() > 0 ? "ok" : "wait");
-    } else if (request.line.rfind("play ", 0) == 0) {
-      const auto stretch = stretchOf(request.line.substr(5));
-      const Toc toc = player_.toc();
-      const bool good =
-          stretch && toc.count() > 0 && stretch->from >= kFirstFrame && stretch->from < stretch->to && stretch->to <= toc.leadOut;
-      if (good) {
-        player_.play(stretch->from, stretch->to);
-        to_ = stretch->to;
-        playing_ = true;
-      }
-      SocketServer::reply(request, good ? "ok" : "no");
-    } else if (request.line == "take" && playing_) {
-      const Stretch rest{player_.frame(), to_};
-      player_.stop();
-      SocketServer::reply(request, playWords(rest));
-      over_ = true;
-    } else {
-      SocketServer::reply(request, "no");
-    }
-  }
-
   DiscSource& drive_;
   SharedDrive shared_;
   Player player_;
+  PlayOnTalk talk_{player_};
   SocketServer server_;
   std::chrono::steady_clock::time_point started_ = std::chrono::steady_clock::now();
-  int to_ = 0;
-  bool playing_ = false;
   bool held_ = false;
-  bool over_ = false;
 };
 
 int run(int argc, char** argv) {

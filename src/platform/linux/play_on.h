@@ -17,9 +17,7 @@ struct Stretch {
   int to = 0;
 };
 
-/// The words in which deck and player without a window talk, one line each way:
-/// "ready" -> "ok" once the disc is known; "play FROM TO" -> "ok"; "take" -> "FROM TO", upon which it
-/// stops and lets go of the drive.
+/// A stretch as play_on_talk.h writes it.
 std::string playWords(const Stretch& stretch);
 std::optional<Stretch> stretchOf(const std::string& words);
 

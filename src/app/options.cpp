@@ -51,6 +51,8 @@ Options readOptions(const std::vector<std::string>& arguments, const std::string
     }
     if (option == "--take-over") {
       options.takeOver = true;
+    } else if (option == "--play") {
+      options.host.play = true;
     } else if (option == "--help" || option == "--version") {
       (option == "--help" ? options.help : options.version) = true;
     } else if (!takesValue(option)) {

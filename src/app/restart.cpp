@@ -22,6 +22,7 @@ void Restart::forDisc() {
   setMarker(ports_.files, folder, kHandOverMarker);
   ProcessRequest request{{joinPath(state_.process.windowsDir, "orvanlx")}, folder, WindowStyle::Normal};
   for (const std::string& argument : ports_.system.handedOn()) request.arguments.push_back(argument);
+  if (state_.process.playNext == kOn) request.arguments.emplace_back("--play");
   const Processes::Id started = ports_.processes.start(request);
   while (started != 0 && ports_.files.exists(handOver)) {
     if (!ports_.processes.running(started)) return;

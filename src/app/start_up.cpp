@@ -55,6 +55,7 @@ void StartUp::run(const HostOptions& options) {
   clearMarker(ports_.files, state_.settings.appDir, kHandOverMarker);
   readSettingsFiles();
   takeWord(options.words);
+  if (options.play) state_.process.autoStartMode = kOn;
   ports_.screen.setPointer(Pointer::Normal);
 }
 

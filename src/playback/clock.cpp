@@ -13,6 +13,12 @@
 
 namespace orvanta {
 
+namespace {
+
+constexpr const char* kNoSound = "No sound output";
+
+}  // namespace
+
 PlaybackClock::PlaybackClock(Ports& ports, DeviceLayer& layer, DiscLoad& load, Engine& engine, Modes& modes, Buttons& buttons,
                              TimeDisplay& display, CDForm& form, SharedState& state, PlaybackUpward& upward)
     : device_(ports.device),
@@ -61,6 +67,17 @@ void PlaybackClock::statusUpdate() {
     display_.updateHeader(state_.transport.deviceTrack, "Play");
     updateTrackTime(state_.transport.deviceTrack, layer_.currentTimeText());
   }
+  tellSoundless();
+}
+
+std::string PlaybackClock::titleLine() const {
+  const auto track = static_cast<size_t>(std::clamp<int16_t>(state_.transport.curTrack, 0, 100));
+  return device_.soundless() ? kNoSound : state_.disc.trackTitles[track];
+}
+
+/// Without sound the time runs and nothing is heard: the title's line says why, for as long as that lasts.
+void PlaybackClock::tellSoundless() {
+  if (device_.soundless() || form_.Label13.caption == kNoSound) form_.Label13.caption = titleLine();
 }
 
 void PlaybackClock::playCompleted(int16_t error) { engine_.playCompleted(error); }
@@ -247,7 +264,7 @@ void PlaybackClock::startOfNewTrack() {
   const std::string& time = form_.Label10.caption;
   // Left over from the track before, which the display went on counting.
   if (state_.settings.timeMode == Time && leadingNumber(time.substr(0, 1)) > 0 && time != "0:00") display_.clearTime("0:00");
-  form_.Label13.caption = state_.disc.trackTitles[static_cast<size_t>(transport.curTrack)];
+  form_.Label13.caption = titleLine();
 }
 
 }  // namespace orvanta

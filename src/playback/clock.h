@@ -2,6 +2,7 @@
 #pragma once
 
 #include <memory>
+#include <string>
 #include <string_view>
 
 #include "platform/ports/cd_device.h"
@@ -40,6 +41,8 @@ class PlaybackClock : public CdDeviceEvents {
   void endOfDisc();
   void pastTheEnd();
   void startOfNewTrack();
+  std::string titleLine() const;
+  void tellSoundless();
   void scanStep();
   void endActions();
   void stoppedInOne();

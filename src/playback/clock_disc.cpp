@@ -15,7 +15,10 @@ void PlaybackClock::answerOffer() {
   if (offer.answer == TrayOffer::Answer::Refused || offer.answer == TrayOffer::Answer::Notice) {
     dialogs_.message(BoxStyle::Warning, "Orvanta", offer.refusal);
   } else if (offer.answer == TrayOffer::Answer::Accepted) {
-    if (state_.disc.drawerOpen == kOff) engine_.mmcontrol1_EjectClick();
+    if (state_.disc.drawerOpen == kOff) {
+      state_.process.playNext = state_.transport.playingFlag;
+      engine_.mmcontrol1_EjectClick();
+    }
     tray_.close();
   }
 }

@@ -120,6 +120,7 @@ struct ProcessState {
   std::string commandWord;  ///< upper case; "" when none
   int16_t autoStartMode = kOff;
   int16_t autoStartDone = kOff;
+  int16_t playNext = kOff;     ///< a person put a disc in while another played: it is played in its turn
   int16_t setupWanted = kOff;  ///< the setup program is to run at the next tick of Timer3
   std::string systemDir;
   std::string windowsDir;

@@ -1,6 +1,7 @@
 // Discs that come and go, and the ways that a start can be told what to do.
 #include <gtest/gtest.h>
 
+#include "app/options.h"
 #include "tests/support/core_rig.h"
 
 namespace orvanta::test {
@@ -118,15 +119,65 @@ TEST(DiscChange, ATrayThatDoesNotOpenBringsTheDiscBack) {
 }
 
 TEST(Tray, AnImagePutOnTheDeckIsPlayedNext) {
-  ChangeRig rig;
-  rig.player.images["/b.cue"] = discB();
+  for (const char* keys : {"", "D", "DF", "DG", "DJ"}) {
+    ChangeRig rig;
+    rig.player.images["/b.cue"] = discB();
+    rig.startWith(discA());
+    for (const char key : std::string(keys)) {
+      rig.key(key);
+      rig.clock.advance(2000);
+    }
+    const std::string wanted = std::string(keys) == "D" ? "/programs/orvanlx --play" : "/programs/orvanlx";
+    rig.gate.enter([&] { rig.form.fileDropped("/b.cue"); });
+    rig.clock.advance(3000);
+    EXPECT_EQ(rig.player.ejected, 1) << keys;
+    EXPECT_EQ(rig.player.closed, 1) << keys;
+    EXPECT_EQ(rig.processes.tape, Tape{wanted}) << keys;
+    EXPECT_EQ(rig.player.disc, discB());
+  }
+  // The process that the deck has started for it.
+  CoreRig next;
+  next.install();
+  next.player.insert(discB());
+  next.gate.enter([&] {
+    next.orvanta.startUp({"", "", "", readOptions({"--take-over", "--play"}, "/").host.play});
+    next.orvanta.showFaceplate();
+  });
+  next.clock.advance(3100);
+  EXPECT_EQ(next.device.mode(), DeviceMode::Playing);
+  EXPECT_EQ(next.track() + " " + next.time(), "1 0:03");
+}
+
+TEST(Sound, ThatNobodyHearsIsTold) {
+  CoreRig rig;
+  rig.player.quiet = true;
   rig.startWith(discA());
-  rig.gate.enter([&] { rig.form.fileDropped("/b.cue"); });
+  rig.state.disc.trackTitles[1] = "One";
+  rig.key('D');
+  rig.clock.advance(5000);
+  EXPECT_EQ(rig.form.Label13.caption, "No sound output");
+  EXPECT_EQ(rig.time(), "0:05") << "it plays all the same";
+  rig.player.quiet = false;
+  rig.clock.advance(1000);
+  EXPECT_EQ(rig.form.Label13.caption, "One") << "in mid track";
+  rig.player.quiet = true;
+  rig.clock.advance(1000);
+  EXPECT_EQ(rig.form.Label13.caption, "No sound output");
+  rig.player.quiet = false;
+  rig.key('G');
+  rig.clock.advance(2000);
+  EXPECT_EQ(rig.form.Label13.caption, "One") << "a stopped deck misses no sound";
+}
+
+TEST(Tray, ANoticeIsTold) {
+  ChangeRig rig;
+  rig.startWith(discA());
+  rig.key('D');
+  rig.clock.advance(2100);
+  rig.player.answer = {TrayOffer::Answer::Notice, "The file was cut short."};
   rig.clock.advance(3000);
-  EXPECT_EQ(rig.player.ejected, 1);
-  EXPECT_EQ(rig.player.closed, 1);
-  EXPECT_EQ(rig.started(), 1);
-  EXPECT_EQ(rig.player.disc, discB());
+  EXPECT_EQ(rig.dialogs.tape, Tape{"Orvanta: The file was cut short."});
+  EXPECT_EQ(rig.time(), "0:05") << "and it plays on";
 }
 
 TEST(Tray, ARefusedImageChangesNothingAndSaysSoOnce) {

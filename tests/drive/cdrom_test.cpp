@@ -192,6 +192,16 @@ TEST(Cdrom, ADiscWaitedForInVainIsNotStartedForAgain) {
   EXPECT_TRUE(becomes([&] { return player.toc().count() == 3; }));
 }
 
+TEST(Cdrom, ADriveThatIsNotThereIsNamed) {
+  CdromDrive drive(kernelCdrom("/dev/orvanta-no-such-drive"));
+  SteppedOutputs outputs;
+  Player player(drive, outputs);
+  EXPECT_TRUE(player.waitUntilKnown(1000)) << "it is nobody's";
+  EXPECT_EQ(player.missingDrive(), "/dev/orvanta-no-such-drive");
+  FakeState state;
+  EXPECT_EQ(RealDeck(state).player.missingDrive(), "");
+}
+
 TEST(Cdrom, NonsenseTablesAreNoDisc) {
   for (int kind = 0; kind < 6; ++kind) {
     FakeState state;

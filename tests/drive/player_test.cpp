@@ -129,11 +129,14 @@ TEST(Player, SoundComesBackByItself) {
   deck.playAll();
   ASSERT_TRUE(becomes([&] { return deck.player.soundless(); }));
   deck.outputs.hear(100 * size_t{kSamplesPerFrame});
-  ASSERT_TRUE(becomes([&] { return deck.outputs.tries == 2; })) << "it tries, and tries again";
+  const auto start = std::chrono::steady_clock::now();
+  ASSERT_TRUE(becomes([&] { return deck.outputs.tries >= 2; })) << "it tries, and tries again";
+  EXPECT_GT(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(1000)) << "a second apart: a try takes time";
   EXPECT_EQ(deck.outputs.streams, 1) << "without giving up what plays";
   deck.player.pause();
+  ASSERT_TRUE(becomes([&] { return deck.player.settled(); }));
   const int tries = deck.outputs.tries;
-  EXPECT_FALSE(becomes([&] { return deck.outputs.tries > tries + 1; }, 1500)) << "not while it is paused";
+  EXPECT_FALSE(becomes([&] { return deck.outputs.tries > tries; }, 2200)) << "not while it is paused";
   deck.outputs.serverGone = false;
   deck.player.resume();
   ASSERT_TRUE(becomes([&] { return deck.outputs.streams == 2 && deck.outputs.open(); }));

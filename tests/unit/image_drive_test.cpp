@@ -30,6 +30,10 @@ void expectCounterDisc(const std::string& sheet, int first, int count) {
     ASSERT_TRUE(disc->read(frame, piece, samples.data()));
     for (int i = 0; i < piece; ++i) ASSERT_TRUE(isFrame(frame + i, &samples[static_cast<size_t>(i) * kShortsPerFrame])) << frame + i;
   }
+  for (int again = 0; again < 2; ++again) {
+    ASSERT_TRUE(disc->read(first + 1, 1, samples.data()));
+    EXPECT_TRUE(isFrame(first + 1, samples.data())) << "the same place once more";
+  }
   EXPECT_FALSE(disc->read(disc->toc().leadOut, 1, samples.data()));
   EXPECT_FALSE(disc->read(kFirstFrame - 1, 1, samples.data()));
 }

@@ -29,11 +29,10 @@ void append(std::string& out, char32_t c) {
 }
 
 std::string fromUtf16(std::string_view bytes, bool bigEndian) {
+  const auto byte = [&](size_t at) -> char32_t { return static_cast<unsigned char>(bytes[at]); };
   const auto unit = [&](size_t at) -> char32_t {
     if (at + 1 >= bytes.size()) return 0;
-    const auto first = static_cast<unsigned char>(bytes[at]);
-    const auto second = static_cast<unsigned char>(bytes[at + 1]);
-    return bigEndian ? first << 8U | second : second << 8U | first;
+    return bigEndian ? byte(at) << 8U | byte(at + 1) : byte(at + 1) << 8U | byte(at);
   };
   std::string out;
   for (size_t at = 0; at + 1 < bytes.size(); at += 2) {

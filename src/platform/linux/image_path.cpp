@@ -49,7 +49,7 @@ ImagePath resolveInside(const std::string& folder, const std::string& name) {
 }
 
 std::string shown(std::string_view name) {
-  const std::string line = withoutControls(name);
+  std::string line = withoutControls(name);
   const size_t count = characterCount(line);
   if (count <= kMostShown) return line;
   const size_t end = firstCharacters(line, count - kShownEnd).size();

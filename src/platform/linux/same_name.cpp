@@ -69,9 +69,9 @@ bool takeApartHangul(char32_t c, std::u32string& out) {
   constexpr char32_t kCount = 19 * 21 * 28;
   if (c < kFirst || c >= kFirst + kCount) return false;
   const char32_t place = c - kFirst;
-  out += 0x1100 + place / (21 * 28);
-  out += 0x1161 + place / 28 % 21;
-  if (place % 28 != 0) out += 0x11A7 + place % 28;
+  out.push_back(0x1100 + place / (21 * 28));
+  out.push_back(0x1161 + place / 28 % 21);
+  if (place % 28 != 0) out.push_back(0x11A7 + place % 28);
   return true;
 }
 

@@ -13,9 +13,7 @@
 #include "platform/ports/core_gate.h"
 #include "platform/ports/dialogs.h"
 #include "platform/ports/files.h"
-#include "platform/ports/http.h"
 #include "platform/ports/mixer_application.h"
-#include "platform/ports/net.h"
 #include "platform/ports/printer.h"
 #include "platform/ports/processes.h"
 #include "platform/ports/screen.h"
@@ -267,33 +265,6 @@ class FakeShell : public Shell {
     const auto found = all.find(key);
     return found == all.end() ? std::nullopt : std::optional(found->second);
   }
-};
-
-class FakeSocket : public Socket {
- public:
-  void setEvents(SocketEvents* to) override { events = to; }
-  void connect(const std::string& host, uint16_t port) override { tape.push_back("connect " + host + " " + std::to_string(port)); }
-  void send(std::string_view bytes) override { tape.push_back("send " + std::string(bytes)); }
-  void close() override { tape.emplace_back("close"); }
-  SocketEvents* events = nullptr;
-  Tape tape;
-};
-
-class FakeListener : public Listener {
- public:
-  void listen(uint16_t at) override { port = at; }
-  void close() override { port = 0; }
-  uint16_t port = 0;
-};
-
-class FakeHttp : public Http {
- public:
-  void setEvents(HttpEvents* to) override { events = to; }
-  void execute(const HttpRequest& request) override { requests.push_back(request); }
-  void cancel() override { ++cancelled; }
-  HttpEvents* events = nullptr;
-  std::vector<HttpRequest> requests;
-  int cancelled = 0;
 };
 
 }  // namespace orvanta::test

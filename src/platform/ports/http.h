@@ -1,36 +1,27 @@
-// One HTTP request at a time.
+// One HTTP question and its answer.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 
 namespace orvanta {
 
+/// Posted as a form. Redirects are not followed.
 struct HttpRequest {
-  std::string url;  ///< with scheme, host and path
+  std::string url;  ///< with or without "http://"; a port in it gives way to `port`
   uint16_t port = 80;
-  std::string method = "POST";
   std::string body;
   std::string proxy;  ///< "host:port", "" for none
-  std::string user;
+  std::string user;   ///< for a proxy that asks who we are; never sent to others
   std::string password;
+  size_t most = 0;  ///< bytes of a body; a longer one is an error
 };
 
-class HttpEvents {
- public:
-  virtual ~HttpEvents() = default;
-  /// The whole reply body, bytes.
-  virtual void httpCompleted(const std::string& body) = 0;
-  virtual void httpFailed(const std::string& reason) = 0;
-};
-
-class Http {
- public:
-  virtual ~Http() = default;
-  virtual void setEvents(HttpEvents* events) = 0;
-  /// Returns at once; a request under way is given up first.
-  virtual void execute(const HttpRequest& request) = 0;
-  virtual void cancel() = 0;
+struct HttpReply {
+  int status = 0;  ///< of HTTP; 0 when nothing came
+  std::string body;
+  std::string error;  ///< the system's words; "" when a reply is there, whatever its status
 };
 
 }  // namespace orvanta

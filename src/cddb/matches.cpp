@@ -34,6 +34,15 @@ Lines cutLines(std::string_view reply, size_t most) {
   return lines;
 }
 
+/// What goes back to the server in a command: a word of ours, whatever it sent.
+std::string plain(std::string_view bytes) {
+  std::string text(bytes);
+  for (char& c : text) {
+    if (c < ' ' || c > '~') c = '?';
+  }
+  return text;
+}
+
 std::string_view withoutLast(std::string_view text) { return text.substr(0, text.empty() ? 0 : text.size() - 1); }
 
 /// "200 misc 940c700b Artist / Title" CR.
@@ -79,7 +88,7 @@ QueryReply readQueryReply(std::string_view reply, const Road& road) {
 }
 
 std::string matchRow(std::string_view category, std::string_view title, std::string_view discId) {
-  return std::string(category) + " - " + withoutControls(fromWire(title)) + std::string(kGap, ' ') + std::string(discId);
+  return plain(category) + " - " + withoutControls(fromWire(title)) + std::string(kGap, ' ') + plain(discId);
 }
 
 Match matchOfRow(std::string_view row) {

@@ -18,6 +18,9 @@ struct DiscRecord {
   std::string notes;  ///< each line ends in CR LF
   size_t count = 0;   ///< tracks that the last record named
   bool hasExtended = false;
+  /// Worth saving: it names the disc and its tracks.
+  bool tellsAnything() const { return count > 0 && title.find_first_not_of(' ') != std::string::npos; }
+
   std::array<std::string, kMostTracks + 1> titles;    ///< [1] to [count]
   std::array<std::string, kMostTracks + 1> extended;  ///< texts of the tracks, with CR LF
 };

@@ -13,7 +13,7 @@ namespace {
 
 const TocFrames kDiscA{{150, 18627, 41002}, 812};
 
-Submission discA() { return {"1f032a03", "Some Artist", "Some Title", "", "", "", {"One", "Two", "Three"}, {}}; }
+Submission submissionOfA() { return {"1f032a03", "Some Artist", "Some Title", "", "", "", {"One", "Two", "Three"}, {}}; }
 
 std::string written(const Submission& disc) { return writeRecord(disc, kDiscA).value_or("none"); }
 
@@ -27,14 +27,14 @@ std::string linesOf(const std::string& record, const std::string& start) {
 }
 
 TEST(CddbWriter, WritesADiscByteForByte) {
-  const std::string record = written(discA());
+  const std::string record = written(submissionOfA());
   EXPECT_EQ(record,
             "# xmcd database file\r\n#\r\n# Track frame offsets:\r\n#150\r\n#18627\r\n#41002\r\n#\r\n# Disc length: 812 seconds\r\n"
             "# Submitted via: Orvanta 10.0\r\n#\r\nDISCID=1f032a03\r\nDTITLE=Some Artist / Some Title\r\nTTITLE0=One\r\nTTITLE1=Two\r\n"
             "TTITLE2=Three\r\nEXTD=\r\nEXTT0=\r\nEXTT1=\r\nEXTT2=\r\nPLAYORDER=\r\n");
   EXPECT_EQ(record.size(), 270U);
   for (const char* id : {"", "1f032a0", "1f032a033", "ta 10.0.", "00000000", "1f032a0.", "1f03\r\n03"}) {
-    Submission disc = discA();
+    Submission disc = submissionOfA();
     disc.discId = id;
     EXPECT_EQ(written(disc), "none") << id;
   }
@@ -80,7 +80,7 @@ TEST(CddbWriter, CutsAndWrapsLongTexts) {
        "TTITLE0=", "Strasse - E??"},
   };
   for (const auto& each : cases) {
-    Submission disc = discA();
+    Submission disc = submissionOfA();
     each.change(disc);
     EXPECT_EQ(linesOf(written(disc), each.key), each.lines) << each.what;
   }

@@ -24,6 +24,7 @@ struct DiscState {
   int16_t lampCount = 0;                      ///< trackCount, at most 20: there are twenty lamps and number keys
   std::array<std::string, 102> trackLengths;  ///< "m:ss"; filled on the first tick after the load
   std::array<int32_t, 101> trackFrames{};     ///< [0]: start of the disc in frames; [t]: frames part of t's length
+  std::array<bool, 101> dataTrack{};          ///< cannot be played; known from the load on
   std::array<std::string, 101> trackTitles;
   std::string discArtist;
   std::string discTitle;
@@ -57,8 +58,11 @@ struct TransportState {
   int16_t playEnded = kOff;    ///< after the end of program or disc: next does nothing until play
   int16_t trackGo = 0;         ///< 1 running; 0 track's end reached in Pgm or One; 99 on entering One
   int16_t scanCount = 0;       ///< ticks of a scan, below 0 backwards
-  double lastAdvanceTime = 0;  ///< seconds since midnight of the last automatic advance in Cont
-  double abPointA = 0;         ///< place on the bar, in twips, of the loop's start; 0 not set
+  double lastAdvanceTime = 0;  ///< seconds since midnight of the last automatic advance in Cont; 0 for none
+  int64_t advanceDue = 0;      ///< the clock's millisecond of the advance that a correction holds back; 0 for none
+  bool abSetA = false;         ///< the A-B loop's start is set; its place may be 0
+  bool abSetB = false;         ///< its end too: it loops
+  double abPointA = 0;         ///< places on the bar, in twips
   double abPointB = 0;
   int16_t abTrack = 0;
   int16_t introTrack = 0;

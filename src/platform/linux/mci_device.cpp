@@ -107,6 +107,11 @@ int16_t MciDevice::seek() {
 
 int16_t MciDevice::tracks() const { return open_ ? static_cast<int16_t>(player_.toc().count()) : int16_t{0}; }
 
+bool MciDevice::isData(int16_t track) const {
+  const Toc toc = player_.toc();
+  return toc.has(track) && toc.isData(track);
+}
+
 // Both lengths come out one frame short of the table of contents, as CD drivers tell them; disc
 // keys and lookups are made of them.
 uint32_t MciDevice::length() const {

@@ -23,6 +23,7 @@ class MciDevice : public CdDevice {
   void setTrack(int16_t track) override { track_ = track; }
   int16_t track() const override { return track_; }
   int16_t tracks() const override;
+  bool isData(int16_t track) const override;
   uint32_t length() const override;
   uint32_t trackLength() const override;
   uint32_t position() const override;

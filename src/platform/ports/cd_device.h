@@ -58,7 +58,8 @@ class CdDevice {
   virtual void setTrack(int16_t track) = 0;
   virtual int16_t track() const = 0;
 
-  virtual int16_t tracks() const = 0;        ///< 0 when not open or without a disc
+  virtual int16_t tracks() const = 0;  ///< 0 when not open or without a disc
+  virtual bool isData(int16_t track) const = 0;
   virtual uint32_t length() const = 0;       ///< of the disc, MSF, one frame short of the table of contents
   virtual uint32_t trackLength() const = 0;  ///< MSF; the last track's is one frame short; 0 out of range
   virtual uint32_t position() const = 0;     ///< what is heard now, TMSF; 0 when not open

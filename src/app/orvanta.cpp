@@ -10,12 +10,13 @@ namespace orvanta {
 
 Orvanta::Orvanta(Ports& ports)
     : ports_(ports),
+      looks_(ports.clock, form, state.settings),
       layer_(ports.device, ports.dialogs, state.disc),
-      discLoad_(ports.device, layer_, ports.files, ports.screen, display_, form, state, *this),
-      engine_(ports, display_, form, state, *this),
-      modes_(ports, engine_, display_, form, state, *this),
-      buttons_(engine_, modes_, display_, form, state, *this),
-      clock_(ports, layer_, discLoad_, engine_, modes_, buttons_, display_, form, state, *this),
+      discLoad_(ports.device, layer_, ports.files, ports.screen, display_, looks_, form, state, *this),
+      engine_(ports, layer_, display_, looks_, form, state, *this),
+      modes_(ports, engine_, display_, looks_, form, state, *this),
+      buttons_(engine_, modes_, display_, looks_, form, state, *this),
+      clock_(ports, layer_, discLoad_, engine_, modes_, buttons_, display_, looks_, form, state, *this),
       position_(ports.files, ports.screen, form, state),
       layout_(ports.screen, position_, form, state),
       sounds_(ports, state),
@@ -33,8 +34,8 @@ Orvanta::Orvanta(Ports& ports)
       exit_(ports, volume_, sounds_, form, state),
       restart_(ports, volume_, state),
       record_(ports, position_, volume_, restart_, form, state),
-      faceplate_(ports, {discLoad_, layer_, engine_, modes_, clock_, buttons_, colours_, position_, layout_, volume_, sounds_}, form, state,
-                 *this) {
+      faceplate_(ports, {discLoad_, layer_, looks_, engine_, modes_, clock_, buttons_, colours_, position_, layout_, volume_, sounds_},
+                 form, state, *this) {
   form.setEvents(&faceplate_);
 }
 

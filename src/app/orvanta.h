@@ -79,7 +79,8 @@ class Orvanta : private PlaybackUpward, private LibraryUpward {
 
   Ports& ports_;
   StartUp startUp_{ports_, state};
-  TimeDisplay display_{form, state};
+  Display display_{form, state};
+  KeyLooks looks_;
   DeviceLayer layer_;
   DiscLoad discLoad_;
   Engine engine_;

@@ -38,6 +38,7 @@ void Faceplate::load() {
     form_.backColor = 0x400000;
   }
   on_.layout.apply();
+  on_.looks.reset();
   const bool disc = on_.discLoad.probe();
   setPlayState();
   if (disc) {
@@ -69,7 +70,6 @@ void Faceplate::playTrackOfCommandLine() {
   on_.discLoad.deferredTable();
   state_.transport.selTrack = static_cast<int16_t>(track - 1);
   on_.engine.jump();
-  state_.transport.curTrack = track;
 }
 
 void Faceplate::setPlayState() {
@@ -107,10 +107,8 @@ void Faceplate::mouseDown(forms::Control* control, const forms::Mouse& mouse) {
 void Faceplate::pressed(forms::Control& control) {
   const auto index = static_cast<size_t>(std::max(control.index(), 0));
   if (control.name() == "icntla") {
-    keyTaken_ = on_.buttons.accepts(index);
-    if (!keyTaken_) return;
-    on_.sounds.play(Sound::Click);
-    on_.buttons.icntla_MouseDown(index);
+    keyTaken_ = on_.buttons.pressStarts(index);
+    if (keyTaken_) on_.sounds.play(Sound::Click);
     return;
   }
   if (control.tabStop) on_.sounds.play(Sound::Click1);
@@ -178,7 +176,7 @@ bool Faceplate::panelReleased(const std::string& name, size_t index) {
 void Faceplate::released(const std::string& name, size_t index, const forms::Mouse& mouse) {
   if (panelReleased(name, index)) return;
   if (name == "icntla") {
-    if (keyTaken_) on_.buttons.icntla_MouseUp(index);
+    if (keyTaken_) on_.buttons.pressEnds(index);
     keyTaken_ = false;
   } else if (name == "scntla") {
     on_.buttons.scntla_MouseUp(index);
@@ -202,7 +200,9 @@ void Faceplate::released(const std::string& name, size_t index, const forms::Mou
   } else if (name == "Label14" || name == "Image12") {
     upward_.launchEnhancedDisc();
   } else if (name == "CDStatusBar") {
-    on_.buttons.CDStatusBar_Click(mouse.x);
+    const forms::Bar& bar = form_.CDStatusBar;
+    // Let go beside the bar, the press was thought better of.
+    if (mouse.x >= 0 && mouse.y >= 0 && mouse.x < bar.width && mouse.y < bar.height) on_.buttons.CDStatusBar_Click(mouse.x);
   } else if (name == "Panel3D2") {
     if (state_.disc.drawerOpen != kOn && state_.disc.noDiscState == 0) on_.engine.mmcontrol1_EjectClick();
   } else if (name == "Panel3D7" || name == "Panel3D9" || name == "Panel3D10") {

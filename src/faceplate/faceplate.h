@@ -17,6 +17,7 @@ namespace orvanta {
 struct FaceplateParts {
   DiscLoad& discLoad;
   DeviceLayer& layer;
+  KeyLooks& looks;
   Engine& engine;
   Modes& modes;
   PlaybackClock& clock;

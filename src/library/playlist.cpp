@@ -20,7 +20,7 @@ constexpr size_t kProgramEntries = 100;
 
 }  // namespace
 
-Playlist::Playlist(Ports& ports, CdRecords& records, Engine& engine, Modes& modes, TimeDisplay& display, cdplist& form, CDForm& faceplate,
+Playlist::Playlist(Ports& ports, CdRecords& records, Engine& engine, Modes& modes, Display& display, cdplist& form, CDForm& faceplate,
                    SharedState& state)
     : ports_(ports),
       records_(records),
@@ -228,7 +228,7 @@ void Playlist::prvcdt() {
   previewing_ = kOn;
   modes_.Image4_MouseUp(OneKey);
   if (previewRow_ < 0 || previewRow_ >= state_.disc.trackCount) return;
-  if (previewRow_ + 1 == state_.transport.curTrack && faceplate_.icntlc[Play].visible) return;
+  if (previewRow_ + 1 == state_.transport.curTrack && state_.transport.playingFlag == kOn) return;
   faceplate_.Label17.foreColor = faceplate_.Label24.foreColor = colours::kBlack;
   state_.transport.selTrack = previewRow_;
   engine_.clrab();

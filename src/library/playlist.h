@@ -16,7 +16,7 @@ struct Ports;
 
 class Playlist : public forms::FormEvents {
  public:
-  Playlist(Ports& ports, CdRecords& records, Engine& engine, Modes& modes, TimeDisplay& display, cdplist& form, CDForm& faceplate,
+  Playlist(Ports& ports, CdRecords& records, Engine& engine, Modes& modes, Display& display, cdplist& form, CDForm& faceplate,
            SharedState& state);
 
   /// Nothing without tracks.
@@ -53,7 +53,7 @@ class Playlist : public forms::FormEvents {
   CdRecords& records_;
   Engine& engine_;
   Modes& modes_;
-  TimeDisplay& display_;
+  Display& display_;
   cdplist& form_;
   CDForm& faceplate_;
   SharedState& state_;

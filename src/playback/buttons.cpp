@@ -19,28 +19,47 @@ int pressDepth(const SharedState& state) { return state.process.smallFonts == kO
 
 // ---- transport row
 
-bool Buttons::accepts(size_t key) const { return !form_.icntlb[key].visible && !form_.icntlc[key].visible; }
+bool Buttons::pressStarts(size_t key) {
+  if (asleep()) return false;
+  modes_.stopintro();
+  engine_.settle();
+  if (!looks_.accepts(key)) return false;
+  icntla_MouseDown(key);
+  return true;
+}
+
+void Buttons::pressEnds(size_t key) {
+  faceUp(key);
+  if (asleep()) return;
+  engine_.settle();
+  if (looks_.accepts(key)) icntla_MouseUp(key);
+}
 
 void Buttons::icntla_MouseDown(size_t key) {
   if (asleep()) return;
   modes_.stopintro();
-  if (state_.settings.smallFaceplate == kOn || !accepts(key)) return;
+  // One key gives way at a time: a letter key struck meanwhile leaves the one under the mouse alone.
+  if (state_.settings.smallFaceplate == kOn || down_ || !looks_.accepts(key)) return;
   auto& face = form_.icntla[key];
   const int depth = pressDepth(state_);
   face.move(face.left + depth, face.top + depth);
   form_.Shape2.move(face.left + kPlateauLeft, face.top + kPlateauTop);
   form_.Shape2.visible = true;
-  down_ = true;
+  down_ = key;
+}
+
+/// Whatever has become of the disc since the press, the face comes back.
+void Buttons::faceUp(size_t key) {
+  if (down_ != key) return;
+  const int depth = pressDepth(state_);
+  down_.reset();
+  form_.Shape2.visible = false;
+  form_.icntla[key].move(form_.icntla[key].left - depth, form_.icntla[key].top - depth);
 }
 
 void Buttons::icntla_MouseUp(size_t key) {
+  faceUp(key);
   if (asleep()) return;
-  if (down_) {
-    const int depth = pressDepth(state_);
-    down_ = false;
-    form_.Shape2.visible = false;
-    form_.icntla[key].move(form_.icntla[key].left - depth, form_.icntla[key].top - depth);
-  }
   switch (key) {
     case Previous: engine_.previousKey(); break;
     case Next: engine_.nextKey(); break;
@@ -55,43 +74,54 @@ void Buttons::icntla_MouseUp(size_t key) {
 
 void Buttons::scntla_MouseDown(size_t key) {
   if (asleep() || (key != ScanBack && key != ScanForward)) return;
-  if (state_.transport.playingFlag != kOn || form_.scntlb[key].visible) return;
-  form_.scntlc[key].visible = true;
+  engine_.settle();
+  if (state_.transport.playingFlag != kOn || !looks_.acceptsScan()) return;
+  looks_.lightScan(key, true);
   state_.transport.scanCount = static_cast<int16_t>(key == ScanForward ? 1 : -1);
 }
 
 void Buttons::scntla_MouseUp(size_t key) {
   // A scan ends with its key, whatever has become of the disc meanwhile.
-  if (key == ScanBack || key == ScanForward) {
-    form_.scntlc[key].visible = false;
-    state_.transport.scanCount = 0;
-  }
+  if (key == ScanBack || key == ScanForward) engine_.endScan();
   if (asleep()) return;
   if (key == TimeKey) timeMode();
   if (key == AbKey) modes_.abKey();
 }
 
 void Buttons::timeMode() {
-  if (form_.icntlc[Pause].visible) return;
+  if (state_.transport.pausedFlag == kOn) return;
   state_.display.lastShownTrack = state_.display.lastShownSec = 0;
   int16_t& mode = state_.settings.timeMode;
   mode = static_cast<int16_t>(mode < Time || mode >= TotRem ? Time : mode + 1);
   display_.showTimeModeLabel();
-  form_.Label24.foreColor = colours::kBlack;
+  if (state_.transport.playingFlag == kOn && display_.number() > 0) {
+    engine_.showPlace();
+  } else {
+    display_.restTime();
+  }
+  looks_.timeLegend();
 }
 
 void Buttons::Label9_Click() {
   if (!asleep()) timeMode();
 }
 
-void Buttons::CDStatusBar_Click(int x) { engine_.CDStatusBar_Click(x); }
+void Buttons::CDStatusBar_Click(int x) {
+  engine_.settle();
+  engine_.CDStatusBar_Click(x);
+}
 
 // ---- number and small keys
 
 void Buttons::Image17_MouseUp(size_t key) {
   if (asleep() || form_.Label34[key].foreColor == colours::kGrey) return;
+  jumpTo(static_cast<int>(key) + 1);
+}
+
+void Buttons::jumpTo(int track) {
   modes_.stopintro();
-  state_.transport.selTrack = static_cast<int16_t>(key);
+  engine_.settle();
+  state_.transport.selTrack = static_cast<int16_t>(track - 1);
   engine_.clrab();
   engine_.jump();
 }
@@ -133,9 +163,7 @@ bool Buttons::entryKey(const forms::KeyPress& key) {
     const int track = static_cast<int>(leadingNumber(text));
     closeEntry();
     if (asleep() || track < 21 || track > state_.disc.trackCount) return true;
-    modes_.stopintro();
-    state_.transport.selTrack = static_cast<int16_t>(track - 1);
-    engine_.jump();
+    jumpTo(track);
     if (state_.settings.repeatOn == kOff) display_.lamps(20, kLcdDim);
   }
   return true;
@@ -144,9 +172,7 @@ bool Buttons::entryKey(const forms::KeyPress& key) {
 // ---- keyboard
 
 void Buttons::pressed(size_t key) {
-  if (!accepts(key)) return;
-  icntla_MouseDown(key);
-  icntla_MouseUp(key);
+  if (pressStarts(key)) pressEnds(key);
 }
 
 bool Buttons::keyDown(const forms::KeyPress& key) {

@@ -1,6 +1,8 @@
 // The keys of CDForm: transport and scan rows, number, small and mode keys, the bar, the keyboard.
 #pragma once
 
+#include <optional>
+
 #include "platform/forms/input.h"
 #include "playback/modes.h"
 
@@ -12,13 +14,15 @@ enum SmallKey : size_t { Above20, Shuffle, Repeat, Rip, Info };
 
 class Buttons {
  public:
-  Buttons(Engine& engine, Modes& modes, TimeDisplay& display, CDForm& form, SharedState& state, PlaybackUpward& upward)
-      : engine_(engine), modes_(modes), display_(display), form_(form), state_(state), upward_(upward) {}
+  Buttons(Engine& engine, Modes& modes, Display& display, KeyLooks& looks, CDForm& form, SharedState& state, PlaybackUpward& upward)
+      : engine_(engine), modes_(modes), display_(display), looks_(looks), form_(form), state_(state), upward_(upward) {}
 
-  /// Whether a person's press is taken: not under a mask, not on a lit key. A release by program
-  /// always acts.
-  bool accepts(size_t key) const;
-  // A press moves the face and shows its shadow, the release acts.
+  /// A person's press of a transport key: ends Intro and what a tick would find ended, whether or not the key
+  /// is taken then. False for one that is not: under a mask, or lit.
+  bool pressStarts(size_t key);
+  /// A person's release: what has happened since the press may have taken the key away.
+  void pressEnds(size_t key);
+  // A press moves the face and shows its shadow, the release acts. Called by program they always act.
   void icntla_MouseDown(size_t key);
   void icntla_MouseUp(size_t key);
 
@@ -36,7 +40,9 @@ class Buttons {
 
  private:
   bool asleep() const { return state_.disc.noDiscState > 0 || state_.disc.drawerOpen == kOn; }
+  void faceUp(size_t key);
   void pressed(size_t key);
+  void jumpTo(int track);
   void timeMode();
   bool entryKey(const forms::KeyPress& key);
   void closeEntry();
@@ -45,11 +51,12 @@ class Buttons {
 
   Engine& engine_;
   Modes& modes_;
-  TimeDisplay& display_;
+  Display& display_;
+  KeyLooks& looks_;
   CDForm& form_;
   SharedState& state_;
   PlaybackUpward& upward_;
-  bool down_ = false;
+  std::optional<size_t> down_;  ///< the transport key whose face has given way
 };
 
 }  // namespace orvanta

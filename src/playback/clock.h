@@ -17,8 +17,8 @@ namespace orvanta {
 
 class PlaybackClock : public CdDeviceEvents {
  public:
-  PlaybackClock(Ports& ports, DeviceLayer& layer, DiscLoad& load, Engine& engine, Modes& modes, Buttons& buttons, TimeDisplay& display,
-                CDForm& form, SharedState& state, PlaybackUpward& upward);
+  PlaybackClock(Ports& ports, DeviceLayer& layer, DiscLoad& load, Engine& engine, Modes& modes, Buttons& buttons, Display& display,
+                KeyLooks& looks, CDForm& form, SharedState& state, PlaybackUpward& upward);
 
   /// From the faceplate's load on.
   void start();
@@ -36,17 +36,11 @@ class PlaybackClock : public CdDeviceEvents {
   static constexpr int kTimer3Interval = 1100;
 
  private:
-  void advanceInCont();
-  void restart();
-  void endOfDisc();
-  void pastTheEnd();
+  void ranOut();
   void startOfNewTrack();
-  std::string titleLine() const;
-  void tellSoundless();
   void scanStep();
-  void endActions();
-  void stoppedInOne();
   void answerOffer();
+  void tellRefusal();
   void autoStart();
   void drawerIsOpen();
   bool discCameLater();
@@ -63,12 +57,15 @@ class PlaybackClock : public CdDeviceEvents {
   Engine& engine_;
   Modes& modes_;
   Buttons& buttons_;
-  TimeDisplay& display_;
+  Display& display_;
+  KeyLooks& looks_;
   CDForm& form_;
   SharedState& state_;
   PlaybackUpward& upward_;
   std::unique_ptr<Timer> timer2_;
   std::unique_ptr<Timer> timer3_;
+  std::unique_ptr<Timer> refusalBox_;  ///< a timer of its own, so that none of the clocks stands still behind the box
+  std::string refusal_;
   bool restartFailed_ = false;  ///< for the disc that is in the drive; another try waits for another disc
 };
 

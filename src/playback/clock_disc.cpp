@@ -1,9 +1,12 @@
 // The clock's slower side: auto-start, setup, and discs that come and go.
+#include <utility>
+
 #include "base/text.h"
 #include "platform/ports/dialogs.h"
 #include "platform/ports/disc_tray.h"
 #include "platform/ports/screen.h"
 #include "playback/clock.h"
+#include "playback/tracks.h"
 #include "playback/upward.h"
 
 namespace orvanta {
@@ -13,7 +16,8 @@ namespace orvanta {
 void PlaybackClock::answerOffer() {
   const TrayOffer offer = tray_.takeAnswer();
   if (offer.answer == TrayOffer::Answer::Refused || offer.answer == TrayOffer::Answer::Notice) {
-    dialogs_.message(BoxStyle::Warning, "Orvanta", offer.refusal);
+    refusal_ = offer.refusal;
+    refusalBox_->setInterval(1);
   } else if (offer.answer == TrayOffer::Answer::Accepted) {
     if (state_.disc.drawerOpen == kOff) {
       state_.process.playNext = state_.transport.playingFlag;
@@ -21,6 +25,14 @@ void PlaybackClock::answerOffer() {
     }
     tray_.close();
   }
+}
+
+void PlaybackClock::tellRefusal() {
+  refusalBox_->setInterval(0);
+  const std::string refusal = std::exchange(refusal_, {});
+  dialogs_.message(BoxStyle::Warning, "Orvanta", refusal);
+  // Another one was refused while the box was open.
+  if (!refusal_.empty()) refusalBox_->setInterval(1);
 }
 
 void PlaybackClock::autoStart() {
@@ -39,14 +51,8 @@ void PlaybackClock::autoStart() {
     modes_.Label30_Click();
     return;
   }
-  engine_.playingLook();
-  state_.transport.playingFlag = kOn;
-  device_.setUpdateInterval(1000);
-  state_.transport.curTrack = 1;
-  engine_.startOfTrack();
-  device_.setFrom(1);
-  device_.command("Play");
-  display_.showTimeModeLabel();
+  state_.transport.curTrack = firstTrack(state_.disc);
+  engine_.playKey();
   if (process.commandWord == "ORVLITE") {
     form_.minimised = true;
     screen_.setPointer(Pointer::Normal);
@@ -61,6 +67,7 @@ void PlaybackClock::timer3_timer() {
     state_.process.setupWanted = kOff;
     upward_.runSetup();
   }
+  answerOffer();
   modes_.introTick();
   if (disc.drawerOpen == kOn) {
     drawerIsOpen();
@@ -105,11 +112,11 @@ bool PlaybackClock::discCameLater() {
 
 /// The disc has ended, or was stopped at track 0. True when it was ejected for that.
 bool PlaybackClock::afterTheEnd() {
-  if (form_.Label8.caption != "0") return false;
+  if (display_.number() != 0) return false;
   if (state_.settings.timeMode == Time) {
     device_.command("stop");
-    form_.CDStatusBar.floodPercent = 0;
-    if (state_.disc.noDiscState == 0) engine_.stoppedLook();
+    display_.clearBar();
+    engine_.followState();
     // The small window has no mode keys: One would leave it at its track for good.
     if (state_.display.popupOpen == kOn && state_.transport.playMode == One) modes_.Image4_MouseUp(ContKey);
   }
@@ -120,21 +127,23 @@ bool PlaybackClock::afterTheEnd() {
 
 /// Somebody took the disc out by the drive's own button, or there was none from the start.
 void PlaybackClock::discGone() {
-  const auto& colour = state_.settings.lcdColor;
-  form_.Label14.foreColor = colour[kLcdDrawer];
-  display_.lamps(20, kLcdDim);
   device_.command("stop");
   device_.command("close");
   state_.transport.playingFlag = state_.transport.pausedFlag = kOff;
+  state_.transport.pausePosition = 0;
+  engine_.endScan();
+  engine_.clrab();
+  engine_.forgetAdvance();
   modes_.stopintro();
-  form_.Label12.caption = "";
-  form_.Label13.caption = "";
-  display_.showTrack(0);
+  display_.doorOpen();
+  display_.clearTexts();
+  display_.track(0);
   display_.clearTime("00:00");
   upward_.closeDiscWindows();
-  upward_.openDrawer();
-  clock_.delaySeconds(1.5);
+  // The state first: nothing that the opening door sets off may take the deck for one with a disc.
   state_.disc.drawerOpen = kOn;
+  upward_.openDrawer();
+  looks_.show(DeckState::DoorOpen);
   if (state_.disc.noDiscState > 0) upward_.showNoDisc();
 }
 

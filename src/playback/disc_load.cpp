@@ -44,8 +44,6 @@ bool DiscLoad::probe() {
     return false;
   }
   disc.noDiscState = 0;
-  form_.Label8.caption = layer_.discLengthTextOf();
-  form_.Label10.caption = disc.discLengthText;
   disc.trackCount = 1;
   if (layer_.openDevice()) loadDisc();
   if (device_.length() == 0) totalFromTracks();
@@ -62,7 +60,10 @@ void DiscLoad::loadDisc() {
   disc.trackFrames[0] = static_cast<int32_t>(std::floor(start * kFramesPerSecond / 1000));
   device_.setTimeFormat(kTimeFormatTmsf);
   disc.trackCount = device_.tracks();
-  form_.Label13.caption = "Reading CD Information...";
+  for (int16_t track = 1; track <= disc.trackCount && track <= 100; ++track) {
+    disc.dataTrack[static_cast<size_t>(track)] = device_.isData(track);
+  }
+  display_.word("Reading CD Information...");
   disc.discSum = layer_.sumOfTracks();
   disc.discKey = keyOf(disc.discSum);
   disc.discLengthText = layer_.discLengthTextOf();
@@ -72,9 +73,7 @@ void DiscLoad::loadDisc() {
   } else {
     clearTexts();
   }
-  form_.Label10.caption = disc.discLengthText;
-  form_.Label9.caption = "TOTAL";
-  form_.Label8.caption = std::to_string(disc.trackCount);
+  display_.disc(disc.trackCount, disc.discLengthText);
 }
 
 void DiscLoad::readTexts() {
@@ -82,13 +81,11 @@ void DiscLoad::readTexts() {
     clearTexts();
     return;
   }
-  form_.Label12.caption = display_.header();
-  form_.Label13.caption = "";
+  display_.showHeader();
 }
 
 void DiscLoad::clearTexts() {
-  form_.Label12.caption = "";
-  form_.Label13.caption = "";
+  display_.clearTexts();
   state_.disc.trackTitles.fill("");
 }
 
@@ -97,13 +94,12 @@ void DiscLoad::clearTexts() {
 void DiscLoad::totalFromTracks() {
   int sum = 3;
   for (int16_t track = 1; track <= state_.disc.trackCount; ++track) sum += secondsOf(layer_.trackLengthText(track));
-  form_.Label10.caption = longTime(sum);
+  display_.disc(state_.disc.trackCount, longTime(sum));
 }
 
 void DiscLoad::deferredTable() {
   DiscState& disc = state_.disc;
-  const bool unfilled = disc.discStarted == kOff && secondsOf(disc.trackLengths[1]) < 1 && disc.trackTableDone == kOff;
-  if (unfilled) {
+  if (disc.trackTableDone == kOff) {
     screen_.setPointer(Pointer::Hourglass);
     for (int16_t track = 1; track <= disc.trackCount; ++track) {
       disc.trackLengths[static_cast<size_t>(track)] = layer_.trackLengthText(track);
@@ -120,9 +116,9 @@ void DiscLoad::clearOnRequest() {
   DiscState& disc = state_.disc;
   if (disc.clearDiscRequest == kOff) return;
   disc.clearDiscRequest = kOff;
-  form_.Label12.caption = "";
   disc.discArtist.clear();
   disc.discTitle.clear();
+  display_.emptyHeader();
   form_.Image14.visible = false;
   upward_.closeDiscWindows();
 }
@@ -130,13 +126,12 @@ void DiscLoad::clearOnRequest() {
 void DiscLoad::showDiscType() {
   typeShown_ = true;
   if (entryIsAudio()) {
-    form_.Label14.caption = "DISC";
+    display_.discType("DISC");
     return;
   }
-  form_.Label14.caption = "Enh-CD";
+  display_.discType("Enh-CD");
   state_.disc.enhancedCd = kOn;
-  form_.Image4[3].visible = true;
-  form_.Image3[3].visible = false;
+  looks_.darkenIntro();
   form_.Image12.visible = true;
 }
 

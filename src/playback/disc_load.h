@@ -2,7 +2,8 @@
 #pragma once
 
 #include "playback/device.h"
-#include "playback/time_display.h"
+#include "playback/display.h"
+#include "playback/key_looks.h"
 
 namespace orvanta {
 
@@ -13,9 +14,17 @@ class Screen;
 
 class DiscLoad {
  public:
-  DiscLoad(CdDevice& device, DeviceLayer& layer, Files& files, Screen& screen, TimeDisplay& display, CDForm& form, SharedState& state,
-           PlaybackUpward& upward)
-      : device_(device), layer_(layer), files_(files), screen_(screen), display_(display), form_(form), state_(state), upward_(upward) {}
+  DiscLoad(CdDevice& device, DeviceLayer& layer, Files& files, Screen& screen, Display& display, KeyLooks& looks, CDForm& form,
+           SharedState& state, PlaybackUpward& upward)
+      : device_(device),
+        layer_(layer),
+        files_(files),
+        screen_(screen),
+        display_(display),
+        looks_(looks),
+        form_(form),
+        state_(state),
+        upward_(upward) {}
 
   /// At the faceplate's load: true with a playable disc, which is loaded then. Without one
   /// noDiscState is 2.
@@ -40,7 +49,8 @@ class DiscLoad {
   DeviceLayer& layer_;
   Files& files_;
   Screen& screen_;
-  TimeDisplay& display_;
+  Display& display_;
+  KeyLooks& looks_;
   CDForm& form_;
   SharedState& state_;
   PlaybackUpward& upward_;

@@ -1,4 +1,4 @@
-// The transport's procedures. Masks (icntlb, scntlb) disable keys, lit faces (icntlc) show state.
+// The transport's procedures.
 #include "playback/engine.h"
 
 #include <algorithm>
@@ -10,17 +10,21 @@
 #include "platform/ports/clock.h"
 #include "platform/ports/files.h"
 #include "platform/ports/screen.h"
+#include "playback/tracks.h"
 #include "playback/upward.h"
 #include "state/marker_files.h"
 
 namespace orvanta {
 
-Engine::Engine(Ports& ports, TimeDisplay& display, CDForm& form, SharedState& state, PlaybackUpward& upward)
+Engine::Engine(Ports& ports, DeviceLayer& layer, Display& display, KeyLooks& looks, CDForm& form, SharedState& state,
+               PlaybackUpward& upward)
     : device_(ports.device),
       clock_(ports.clock),
       files_(ports.files),
       screen_(ports.screen),
+      layer_(layer),
       display_(display),
+      looks_(looks),
       form_(form),
       state_(state),
       upward_(upward) {}
@@ -29,157 +33,210 @@ void Engine::setTimer2Interval(int milliseconds) {
   if (timer2_ != nullptr) timer2_->setInterval(milliseconds);
 }
 
-void Engine::lightMode(size_t mode) {
-  for (size_t key = 0; key < 4; ++key) {
-    form_.Image3[key].visible = key == mode;
-    form_.Image4[key].visible = key != mode;
+DeckState Engine::heard() const {
+  switch (device_.mode()) {
+    case DeviceMode::Playing: return DeckState::Playing;
+    case DeviceMode::Paused: return DeckState::Paused;
+    default: return DeckState::Stopped;
   }
+}
+
+void Engine::showState() {
+  if (!asleep()) looks_.show(heard());
+}
+
+void Engine::followState() {
+  if (!asleep()) looks_.follow(heard());
+}
+
+void Engine::glow(TransportKey key) {
+  if (!asleep()) looks_.flash(key);
 }
 
 void Engine::startOfTrack() {
   state_.display.lastShownTrack = 0;
   state_.display.lastShownSec = 0;
   state_.transport.trackGo = 1;
+  forgetAdvance();
 }
 
-void Engine::repeatLabel() {
-  form_.Label21.foreColor = state_.settings.lcdColor[state_.settings.repeatOn == kOn ? kLcdRepeatOn : kLcdRepeatOff];
+std::string_view Engine::lengthOf(int track) const {
+  const auto& lengths = state_.disc.trackLengths;
+  return track >= 0 && static_cast<size_t>(track) < lengths.size() ? std::string_view(lengths[static_cast<size_t>(track)])
+                                                                   : std::string_view();
 }
+
+// ---- play, pause, stop
 
 void Engine::MMControl1_PlayClick() {
   TransportState& transport = state_.transport;
+  forgetAdvance();
   transport.pausedFlag = kOff;
   transport.playingFlag = kOn;
   if (transport.pausePosition > 0) {
-    repeatLabel();
-    device_.command("Resume");
-    transport.pausePosition = 0;
-    form_.Label21.caption = "Repeat";
+    resume();
     return;
   }
-  if (transport.curTrack < 1 || transport.curTrack > state_.disc.trackCount) transport.curTrack = 1;
-  display_.showTrack(transport.curTrack);
+  transport.curTrack = playable(state_.disc, transport.curTrack);
+  state_.disc.discStarted = kOn;
+  display_.track(transport.curTrack);
   setTimer2Interval(100);
   transport.playEnded = kOff;
   display_.showTimeModeLabel();
   if (transport.playMode == Pgm) {
     programStep();
-    return;
+  } else {
+    playCurrent();
   }
+}
+
+void Engine::resume() {
+  display_.repeat();
+  device_.command("Resume");
+  state_.transport.pausePosition = 0;
+  // For a drive that takes a pause for a stop.
+  device_.command("Play");
+}
+
+/// `From` holds for the next play alone, so the two are never apart.
+void Engine::playCurrent() {
   device_.setUpdateInterval(1000);
-  device_.setFrom(static_cast<uint32_t>(transport.curTrack));
   startOfTrack();
-  // The small window's keys send nothing by themselves.
-  if (state_.display.popupOpen == kOn) device_.command("Play");
+  device_.setFrom(static_cast<uint32_t>(state_.transport.curTrack));
+  device_.command("Play");
 }
 
 void Engine::MMControl1_PauseClick() {
   TransportState& transport = state_.transport;
+  endScan();
+  forgetAdvance();
   transport.pausedFlag = kOn;
   transport.playingFlag = kOff;
   transport.pausePosition = static_cast<int32_t>(device_.position());
-  form_.Label21.foreColor = state_.settings.lcdColor[kLcdLabelOn];
-  form_.Label21.caption = "PAUSE";
-  form_.Label21.visible = true;
+  display_.pause();
 }
 
 void Engine::MMControl1_StopClick() {
-  state_.transport.playingFlag = kOff;
-  state_.transport.pausedFlag = kOff;
-  state_.transport.pausePosition = 0;
+  TransportState& transport = state_.transport;
+  endScan();
+  clrab();
+  forgetAdvance();
+  transport.playingFlag = transport.pausedFlag = kOff;
+  transport.pausePosition = 0;
   state_.display.lastShownSec = 0;
+  display_.repeat();
   display_.clearTime("00:00");
 }
 
-void Engine::mmcontrol1_EjectClick() {
-  const auto& colour = state_.settings.lcdColor;
-  const bool custom = state_.settings.lcdCustom == 1;
-  state_.disc.discLoaded = kOn;
-  clearMarker(files_, state_.settings.appDir, kRunningMarker);
-  clrab();
-  screen_.setPointer(Pointer::Hourglass);
-  form_.Label14.foreColor = colour[kLcdDrawer];
-  form_.Label30.foreColor = custom ? colour[kLcdDrawer] : 0x004040;
-  form_.Label22[20].foreColor = custom ? colour[kLcdDrawer] : 0x004000;
-  display_.lamps(20, kLcdDim);
-  state_.disc.drawerOpen = kOn;
-  if (state_.transport.introTrack > 0) {
-    state_.transport.introTrack = 0;
-    state_.transport.introStart = 0;
-    showPlayMode("Cont");
-    lightMode(Cont);
-    form_.Label30.caption = "Pgm Stored";
-  }
-  state_.volume.leftAttenPrev = state_.volume.leftAtten;
-  state_.volume.rightAttenPrev = state_.volume.rightAtten;
-  state_.transport.playingFlag = kOff;
-  state_.transport.pausedFlag = kOff;
-  display_.showTrack(0);
-  display_.clearTime("00:00");
-  state_.disc.trackCount = 0;
-  device_.command("stop");
-  form_.Label12.caption = "";
-  form_.Label13.caption = "";
-  upward_.openDrawer();
-  device_.command("Eject");
-  device_.command("Close");
-  form_.SSPanel3.backColor = colours::kYellow;
-  upward_.closeTrackList();
-  screen_.setPointer(Pointer::Normal);
+void Engine::playKey() {
+  MMControl1_PlayClick();
+  showState();
 }
+
+void Engine::pauseKey() {
+  MMControl1_PauseClick();
+  device_.command("Pause");
+  showState();
+}
+
+void Engine::stopKey() {
+  MMControl1_StopClick();
+  device_.command("Stop");
+  showState();
+  glow(Stop);
+}
+
+void Engine::adoptRunningDisc() {
+  TransportState& transport = state_.transport;
+  transport.curTrack = static_cast<int16_t>(unpackTmsf(device_.position()).track);
+  state_.disc.discStarted = transport.playingFlag = kOn;
+  transport.pausedFlag = kOff;
+  display_.track(transport.curTrack);
+  display_.showTimeModeLabel();
+  device_.setUpdateInterval(1000);
+  startOfTrack();
+  showState();
+}
+
+void Engine::playCompleted(int16_t error) {
+  if (error == device_error::kHardware) device_.command("Close");
+}
+
+// ---- places
+
+void Engine::showPlace(int16_t track, std::string_view timeText) {
+  const TransportState& transport = state_.transport;
+  DisplayState& display = state_.display;
+  display_.updateBar(lengthOf(track), timeText);
+  if (track == 0) return;
+  device_.setTrack(track);
+  display.elapsedSec = secondsOf(timeText);
+  display.nearEndSec = static_cast<int16_t>(secondsOf(lengthOf(transport.curTrack)) - 5);
+  // The last lamp's track runs to one second before its end; on a disc of more tracks than lamps
+  // that is not the last track.
+  if (transport.playMode == Cont && transport.curTrack == lastLampTrack(state_.disc)) display.nearEndSec += 4;
+  display_.updateTime(track, timeText);
+}
+
+void Engine::showPlace() { showPlace(layer_.currentDeviceTrack(), layer_.currentTimeText()); }
 
 void Engine::jump() {
   TransportState& transport = state_.transport;
   if (transport.playMode == Pgm) return;
+  // A number key of a track of data plays what follows it.
+  const int16_t target = audioFrom(state_.disc, transport.selTrack + 1);
+  if (target > state_.disc.trackCount) return;
   state_.display.holdTrackLabel = kOn;
   transport.pausedFlag = kOff;
   transport.playingFlag = kOn;
-  form_.CDStatusBar.floodPercent = 0;
-  playingLook();
-  repeatLabel();
   transport.pausePosition = 0;
-  form_.Label21.caption = "Repeat";
+  transport.playEnded = kOff;
+  transport.curTrack = target;
   state_.disc.discStarted = kOn;
+  display_.repeat();
   display_.showTimeModeLabel();
-  const auto target = static_cast<int16_t>(transport.selTrack + 1);
-  if (target > state_.disc.trackCount) return;
-  form_.Label10.caption = "00:00";
+  display_.clearTime("00:00");
   clrpgm();
   state_.program.pgmIndex = 0;
-  const auto& colour = state_.settings.lcdColor;
-  for (int16_t lamp = 1; transport.playMode == Cont && lamp <= state_.disc.lampCount; ++lamp) {
-    form_.Label22[static_cast<size_t>(lamp - 1)].foreColor = colour[lamp <= transport.selTrack ? kLcdDim : kLcdLit];
+  for (int lamp = 1; transport.playMode == Cont && lamp <= state_.disc.lampCount; ++lamp) {
+    display_.lamp(lamp, lamp < target ? kLcdDim : kLcdLit);
   }
-  transport.curTrack = target;
-  transport.playEnded = kOff;
   setTimer2Interval(100);
-  startOfTrack();
-  seekFraction(state_.disc.trackLengths[static_cast<size_t>(target)], 0);
+  seekFraction(lengthOf(target), 0);
   device_.command("Pause");
   device_.setTo(static_cast<uint32_t>(target));
   device_.command("Seek");
   device_.setTrack(target);
-  form_.Label8.caption = std::to_string(device_.track());
-  device_.setUpdateInterval(1000);
-  device_.setFrom(static_cast<uint32_t>(target));
-  device_.command("Play");
+  playCurrent();
+  showState();
 }
 
+/// The display goes to the place at once: the device's next report may be a second away.
 void Engine::seekFraction(std::string_view length, double x) {
   const double fraction = x / std::max<int>(form_.CDStatusBar.width, 1);
   const int seconds = static_cast<int>(std::nearbyint(secondsOf(length) * fraction));
+  forgetAdvance();
+  state_.display.lastShownTrack = state_.display.lastShownSec = 0;
   device_.command("PAUSE");
   device_.setTo(packSeekTarget(state_.transport.curTrack, seconds));
   device_.command("SEEK");
   device_.command("PLAY");
+  display_.track(state_.transport.curTrack);
+  showPlace();
 }
 
 /// The loop of A-B comes this way too, with its own places; the offset shifts its return a little.
 void Engine::CDStatusBar_Click(double x) {
   const int16_t track = state_.transport.curTrack;
-  if (state_.transport.playingFlag != kOn || state_.disc.drawerOpen == kOn || track < 1 || track > 100) return;
-  state_.display.lastShownTrack = state_.display.lastShownSec = 0;
-  seekFraction(state_.disc.trackLengths[static_cast<size_t>(track)], std::abs(x - kBarMargin));
+  if (state_.transport.playingFlag != kOn || state_.disc.drawerOpen == kOn || track < 1 || track > state_.disc.trackCount) return;
+  seekFraction(lengthOf(track), std::abs(x - kBarMargin));
+  showState();
+}
+
+int Engine::landing(int16_t track, double x) const {
+  const int length = secondsOf(lengthOf(track));
+  const double fraction = std::abs(x - kBarMargin) / std::max<int>(form_.CDStatusBar.width, 1);
+  return Display::percentOf(static_cast<int>(std::nearbyint(length * fraction)), length);
 }
 
 void Engine::clrpgm() {
@@ -188,71 +245,50 @@ void Engine::clrpgm() {
   display_.lamps(state_.disc.lampCount, kLcdDim);
 }
 
-void Engine::playCompleted(int16_t error) {
-  if (error == device_error::kHardware) device_.command("Close");
-}
-
-void Engine::playKey() {
-  form_.icntlc[Play].visible = true;
-  MMControl1_PlayClick();
-  device_.command("Play");
-  playingLook();
-}
-
-void Engine::pauseKey() {
-  pausedLook();
-  MMControl1_PauseClick();
-  device_.command("Pause");
-}
-
-void Engine::stopKey() {
-  stoppedLook();
-  MMControl1_StopClick();
-  device_.command("Stop");
-  form_.icntlb[Stop].visible = false;
-  form_.icntlc[Stop].visible = true;
-  form_.icntlc[Stop].refresh();
-  clock_.delaySeconds(0.3);
-  form_.icntlc[Stop].visible = false;
-  form_.icntlb[Stop].visible = true;
-}
-
 void Engine::clrab() {
-  state_.transport.abPointA = state_.transport.abPointB = 0;
-  state_.transport.abTrack = 0;
-  form_.Label16.foreColor = state_.settings.lcdColor[kLcdLabelOff];
-  form_.Label17.foreColor = colours::kBlack;
+  TransportState& transport = state_.transport;
+  if (!transport.abSetA && !transport.abSetB) return;
+  transport.abSetA = transport.abSetB = false;
+  transport.abTrack = 0;
+  display_.ab(state_.settings.lcdColor[kLcdLabelOff]);
+  looks_.abLegend(colours::kBlack);
 }
 
-void Engine::playingLook() {
-  form_.icntlc[Play].visible = true;
-  for (const size_t key : {0U, 3U}) form_.scntlb[key].visible = false;
-  for (const size_t key : {Previous, Next, Pause, Stop, Record}) form_.icntlb[key].visible = false;
-  for (const size_t key : {Pause, Stop}) form_.icntlc[key].visible = false;
-  for (auto* label : {&form_.Label17, &form_.Label24, &form_.Label38, &form_.Label39}) label->foreColor = colours::kBlack;
-}
+// ---- eject
 
-void Engine::pausedLook() {
-  for (const size_t key : {Stop, Previous, Next}) form_.icntlb[key].visible = true;
-  for (const size_t key : {0U, 3U}) form_.scntlb[key].visible = true;
-  form_.icntlc[Pause].visible = true;
-  form_.icntlc[Play].visible = false;
-  for (auto* label : {&form_.Label17, &form_.Label24, &form_.Label39}) label->foreColor = colours::kGrey;
-}
-
-void Engine::stoppedLook() {
-  for (const size_t key : {0U, 3U}) form_.scntlb[key].visible = true;
-  for (const size_t key : {Previous, Next, Pause, Stop}) form_.icntlb[key].visible = true;
-  for (const size_t key : {Previous, Next, Play, Pause, Stop}) form_.icntlc[key].visible = false;
-  form_.icntlb[Play].visible = false;
-  form_.icntla[Play].visible = true;
-}
-
-void Engine::adoptRunningDisc() {
-  state_.transport.curTrack = static_cast<int16_t>(unpackTmsf(device_.position()).track);
-  state_.disc.discStarted = kOn;
-  MMControl1_PlayClick();
-  playingLook();
+void Engine::mmcontrol1_EjectClick() {
+  TransportState& transport = state_.transport;
+  state_.disc.discLoaded = kOn;
+  clearMarker(files_, state_.settings.appDir, kRunningMarker);
+  clrab();
+  endScan();
+  forgetAdvance();
+  screen_.setPointer(Pointer::Hourglass);
+  state_.disc.drawerOpen = kOn;
+  if (transport.introTrack > 0) {
+    transport.introTrack = 0;
+    transport.introStart = 0;
+    display_.playMode("Cont");
+    display_.program(state_.program.pgmStored == kOn);
+    looks_.lightMode(Cont);
+  }
+  display_.doorOpen();
+  state_.volume.leftAttenPrev = state_.volume.leftAtten;
+  state_.volume.rightAttenPrev = state_.volume.rightAtten;
+  transport.playingFlag = transport.pausedFlag = kOff;
+  transport.pausePosition = 0;
+  display_.track(0);
+  display_.clearTime("00:00");
+  state_.disc.trackCount = 0;
+  device_.command("stop");
+  display_.clearTexts();
+  upward_.openDrawer();
+  looks_.show(DeckState::DoorOpen);
+  device_.command("Eject");
+  device_.command("Close");
+  form_.SSPanel3.backColor = colours::kYellow;
+  upward_.closeTrackList();
+  screen_.setPointer(Pointer::Normal);
 }
 
 }  // namespace orvanta

@@ -1,11 +1,14 @@
-// Play, pause, stop, next, previous, seek, jump, the step through a program, eject: the procedures that
-// keys, menus and the clock call.
+// Play, pause, stop, next, previous, seek, jump, the step through a program, eject, and the ends of tracks,
+// programs and discs: the procedures that keys, menus and the clock call.
 #pragma once
 
+#include <optional>
+
 #include "platform/ports/ports.h"
-#include "playback/time_display.h"
+#include "playback/device.h"
+#include "playback/display.h"
+#include "playback/key_looks.h"
 #include "state/shared_state.h"
-#include "windows/cdform.h"
 
 namespace orvanta {
 
@@ -21,9 +24,9 @@ constexpr int kBarMargin = 84;
 
 class Engine {
  public:
-  Engine(Ports& ports, TimeDisplay& display, CDForm& form, SharedState& state, PlaybackUpward& upward);
+  Engine(Ports& ports, DeviceLayer& layer, Display& display, KeyLooks& looks, CDForm& form, SharedState& state, PlaybackUpward& upward);
 
-  /// Prepares a play, or resumes a pause; the caller sends "Play".
+  /// Plays the current track from its start, resumes a pause, or makes a program's next step.
   void MMControl1_PlayClick();
   void MMControl1_PauseClick();
   void MMControl1_StopClick();
@@ -45,11 +48,6 @@ class Engine {
   /// Clears the A-B loop.
   void clrab();
 
-  // Looks of the transport row that go with a state of play.
-  void playingLook();
-  void pausedLook();
-  void stoppedLook();
-
   /// Takes over a device that plays already: track and look follow it, nothing is sent.
   void adoptRunningDisc();
 
@@ -59,31 +57,67 @@ class Engine {
   void seekFraction(std::string_view length, double x);
   /// A click on the bar, `x` twips from its left edge.
   void CDStatusBar_Click(double x);
+  /// What the bar shows after a click there, in percent.
+  int landing(int16_t track, double x) const;
   void clrpgm();
+
+  // ---- ends (engine_ends.cpp)
+
+  /// What a tick would find ended counts before a person's press: call it first of all.
+  void settle();
+  /// What follows the end of a track, by mode.
+  void endActions();
+  /// The disc from its first track, where Repeat is on.
+  void restart();
+  void endOfDisc();
+  /// The last track has been counted, and the device is in its last second.
+  void pastTheEnd();
+  /// The end of a track in Cont: the count goes on, at once or when the disc's correction says so.
+  void advanceInCont();
+  /// Carries out a correction's step that has fallen due.
+  void dueStep();
+  /// From here on the device is in the current track: the next end counts.
+  void forgetAdvance();
+  void endScan();
+
+  /// Bar and time of a place in a track.
+  void showPlace(int16_t track, std::string_view timeText);
+  /// Bar and time of what is heard.
+  void showPlace();
+  /// What the keys show: what the device does, not what was pressed.
+  DeckState heard() const;
+  /// After an act.
+  void showState();
+  /// At a tick.
+  void followState();
 
   /// Tick of the 100 ms clock; 0 ends it until play or a mode key.
   void setTimer2Interval(int milliseconds);
   void setTimer2(Timer* timer) { timer2_ = timer; }
 
-  /// Lights the key of a mode and darkens the others.
-  void lightMode(size_t mode);
-  void showPlayMode(std::string_view word) { form_.Label6.caption = std::string(word); }
-
   /// Every start of a track's play goes through here: the next display is taken as it comes.
   void startOfTrack();
 
-  /// "Repeat" in the colour of its state.
-  void repeatLabel();
-
  private:
+  bool asleep() const { return state_.disc.noDiscState > 0 || state_.disc.drawerOpen == kOn; }
+  bool canStep(int16_t track) const;
+  std::string_view lengthOf(int track) const;
+  void resume();
+  void playCurrent();
+  void fallSilent();
+  void glow(TransportKey key);
   void programStep();
+  void programEntry(int16_t entry);
+  void emptyProgram();
   void programEnd();
 
   CdDevice& device_;
   Clock& clock_;
   Files& files_;
   Screen& screen_;
-  TimeDisplay& display_;
+  DeviceLayer& layer_;
+  Display& display_;
+  KeyLooks& looks_;
   CDForm& form_;
   SharedState& state_;
   PlaybackUpward& upward_;

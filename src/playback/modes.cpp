@@ -4,19 +4,28 @@
 #include <algorithm>
 #include <random>
 
-#include "base/times.h"
 #include "platform/ports/clock.h"
 #include "platform/ports/screen.h"
+#include "playback/tracks.h"
 #include "playback/upward.h"
 
 namespace orvanta {
 
-Modes::Modes(Ports& ports, Engine& engine, TimeDisplay& display, CDForm& form, SharedState& state, PlaybackUpward& upward)
-    : clock_(ports.clock), screen_(ports.screen), engine_(engine), display_(display), form_(form), state_(state), upward_(upward) {}
+Modes::Modes(Ports& ports, Engine& engine, Display& display, KeyLooks& looks, CDForm& form, SharedState& state, PlaybackUpward& upward)
+    : clock_(ports.clock),
+      screen_(ports.screen),
+      engine_(engine),
+      display_(display),
+      looks_(looks),
+      form_(form),
+      state_(state),
+      upward_(upward) {}
 
 void Modes::Image4_MouseUp(size_t mode) {
   if (asleep()) return;
   stopintro();
+  engine_.settle();
+  engine_.forgetAdvance();
   state_.transport.playEnded = kOff;
   engine_.setTimer2Interval(100);
   leaveOne();
@@ -33,48 +42,45 @@ void Modes::leaveOne() {
 }
 
 void Modes::enterPgm() {
-  engine_.showPlayMode("PGM");
+  display_.playMode("PGM");
   state_.disc.discStarted = kOn;
   state_.transport.playMode = Pgm;
-  engine_.lightMode(PgmKey);
+  looks_.lightMode(PgmKey);
   display_.lamps(20, kLcdDim);
 }
 
 void Modes::enterOne() {
-  engine_.showPlayMode("One");
+  display_.playMode("One");
   state_.transport.trackGo = 99;
-  form_.Label38.foreColor = form_.Label39.foreColor = colours::kGrey;
-  form_.Label40.foreColor = state_.program.pgmStored == kOn ? colours::kBlack : colours::kGrey;
+  looks_.greyChance(state_.program.pgmStored == kOn);
   state_.disc.discStarted = kOn;
   engine_.clrpgm();
   state_.transport.playMode = One;
-  engine_.lightMode(OneKey);
-  if (state_.transport.curTrack < 1 || state_.transport.curTrack > state_.disc.trackCount) state_.transport.curTrack = 1;
+  looks_.lightMode(OneKey);
+  state_.transport.curTrack = playable(state_.disc, state_.transport.curTrack);
 }
 
 void Modes::enterCont() {
-  engine_.showPlayMode("Cont");
-  form_.Label38.foreColor = colours::kBlack;
+  display_.playMode("Cont");
+  looks_.allowShuffle();
   engine_.clrpgm();
   state_.transport.playMode = Cont;
-  engine_.lightMode(ContKey);
+  looks_.lightMode(ContKey);
   display_.lamps(20, kLcdDim);
 }
 
 void Modes::enterIntro() {
-  engine_.showPlayMode("Intro");
+  display_.intro();
   state_.transport.introStart = 0;
   state_.transport.introTrack = 1;
-  form_.Label30.caption = "Intro Play";
-  form_.Label30.foreColor = state_.settings.lcdColor[kLcdLabelOn];
   engine_.clrpgm();
   state_.transport.playMode = Cont;
-  engine_.lightMode(IntroKey);
+  looks_.lightMode(IntroKey);
   display_.lamps(20, kLcdDim);
 }
 
 void Modes::nextMode() {
-  const bool intro = form_.Label6.caption == "Intro";
+  const bool intro = display_.introShown();
   Image4_MouseUp(intro ? size_t{PgmKey} : static_cast<size_t>(std::clamp<int>(state_.transport.playMode + 1, 0, 3)));
 }
 
@@ -82,56 +88,63 @@ void Modes::stopintro() {
   if (state_.transport.introTrack <= 0) return;
   state_.transport.introStart = 0;
   state_.transport.introTrack = 0;
-  engine_.showPlayMode("Cont");
-  form_.Label30.caption = "Pgm Stored";
-  form_.Label30.foreColor = state_.settings.lcdColor[state_.program.pgmStored == kOn ? kLcdLabelOn : kLcdLabelOff];
+  display_.playMode("Cont");
+  display_.program(state_.program.pgmStored == kOn);
   screen_.setPointer(Pointer::Normal);
   if (state_.transport.playMode == Pgm) {
     engine_.stopKey();
     Image4_MouseUp(ContKey);
   } else {
-    engine_.lightMode(ContKey);
+    looks_.lightMode(ContKey);
   }
 }
 
 /// All tracks in an order of chance, each once. A disc of more tracks than lamps is shuffled whole,
 /// though the count says no more than there are lamps.
 void Modes::shuffle() {
-  if (asleep() || form_.icntlc[Pause].visible || form_.Label38.foreColor == colours::kGrey) return;
+  if (asleep()) return;
   stopintro();
+  engine_.settle();
+  if (state_.transport.pausedFlag == kOn || !looks_.acceptsShuffle()) return;
   ProgramState& program = state_.program;
-  form_.Label38.foreColor = colours::kBlack;
+  looks_.allowShuffle();
   state_.disc.discStarted = kOn;
-  engine_.lightMode(PgmKey);
-  program.pgmList.fill(0);
-  for (int16_t lamp = 1; lamp <= state_.disc.lampCount; ++lamp) {
-    auto& label = form_.Label22[static_cast<size_t>(lamp - 1)];
-    label.foreColor = state_.settings.lcdColor[kLcdLitInCont];
-    label.caption = std::to_string(lamp);
-  }
-  for (int16_t i = 1; i <= state_.disc.trackCount; ++i) {
-    std::minstd_rand chance(static_cast<uint32_t>(clock_.milliseconds() * 131 + int64_t{i} * 7919 + 1));
-    chance.discard(3);
-    std::uniform_int_distribution<int> draw(1, state_.disc.trackCount);
-    const auto first = program.pgmList.begin() + 1;
-    int16_t track = 0;
-    do {
-      track = static_cast<int16_t>(draw(chance));
-    } while (std::find(first, first + (i - 1), track) != first + (i - 1));
-    program.pgmList[static_cast<size_t>(i)] = track;
-  }
+  looks_.lightMode(PgmKey);
+  display_.lamps(state_.disc.lampCount, kLcdLitInCont);
+  display_.lampNumbers(state_.disc.lampCount);
+  fillWithChance();
   leaveOne();
   state_.transport.playMode = Pgm;
-  engine_.showPlayMode("PGM");
+  display_.playMode("PGM");
   program.pgmIndex = 0;
   program.pgmCount = state_.disc.lampCount;
   engine_.playKey();
 }
 
+/// Drawn anew until a track comes that is not in the list yet, so that every order is as likely as any other.
+void Modes::fillWithChance() {
+  const DiscState& disc = state_.disc;
+  auto& list = state_.program.pgmList;
+  list.fill(0);
+  int tracks = 0;
+  for (int track = 1; track <= disc.trackCount; ++track) tracks += isAudio(disc, track) ? 1 : 0;
+  std::random_device seed;
+  std::mt19937 chance(seed());
+  std::uniform_int_distribution<int> draw(1, std::max<int>(disc.trackCount, 1));
+  for (auto entry = list.begin() + 1; entry - list.begin() <= tracks; ++entry) {
+    int track = 0;
+    do {
+      track = draw(chance);
+    } while (!isAudio(disc, track) || std::find(list.begin() + 1, entry, track) != entry);
+    *entry = static_cast<int16_t>(track);
+  }
+}
+
 void Modes::repeatKey() {
-  if (form_.Label39.foreColor != colours::kBlack) return;
+  if (!looks_.acceptsRepeat()) return;
+  engine_.endActions();
   state_.settings.repeatOn = state_.settings.repeatOn == kOn ? kOff : kOn;
-  engine_.repeatLabel();
+  display_.repeat();
 }
 
 void Modes::rclpgm() {
@@ -151,7 +164,7 @@ void Modes::rclpgm() {
     if (good) ++program.pgmCount;
   }
   if (program.pgmCount < 1) {
-    form_.Label30.foreColor = state_.settings.lcdColor[kLcdLabelOff];
+    display_.program(false);
     return;
   }
   state_.transport.playMode = Pgm;
@@ -159,13 +172,12 @@ void Modes::rclpgm() {
 }
 
 void Modes::Label30_Click() {
-  if (asleep() || form_.Label30.foreColor == state_.settings.lcdColor[kLcdLabelOff]) return;
+  if (asleep() || state_.program.pgmStored != kOn) return;
   screen_.setPointer(Pointer::Hourglass);
   Image4_MouseUp(PgmKey);
   state_.disc.discStarted = kOn;
   rclpgm();
-  engine_.MMControl1_PlayClick();
-  engine_.playingLook();
+  engine_.playKey();
   screen_.setPointer(Pointer::Normal);
 }
 

@@ -9,7 +9,7 @@ enum ModeKey : size_t { PgmKey, OneKey, ContKey, IntroKey };
 
 class Modes {
  public:
-  Modes(Ports& ports, Engine& engine, TimeDisplay& display, CDForm& form, SharedState& state, PlaybackUpward& upward);
+  Modes(Ports& ports, Engine& engine, Display& display, KeyLooks& looks, CDForm& form, SharedState& state, PlaybackUpward& upward);
 
   /// A mode key's release.
   void Image4_MouseUp(size_t mode);
@@ -38,12 +38,18 @@ class Modes {
   void enterOne();
   void enterCont();
   void enterIntro();
+  void fillWithChance();
+  void setA();
+  void setB();
+  void abReturn();
+  void abBlink();
   double placeOnBar() const;
 
   Clock& clock_;
   Screen& screen_;
   Engine& engine_;
-  TimeDisplay& display_;
+  Display& display_;
+  KeyLooks& looks_;
   CDForm& form_;
   SharedState& state_;
   PlaybackUpward& upward_;

@@ -1,10 +1,10 @@
 // What the modes do with time: the A-B loop, Intro, the lamps.
 #include <algorithm>
 
-#include "base/text.h"
 #include "base/times.h"
 #include "platform/ports/clock.h"
 #include "playback/modes.h"
+#include "playback/tracks.h"
 
 namespace orvanta {
 
@@ -18,43 +18,71 @@ constexpr int kUsualIntro = 7;   ///< seconds
 double Modes::placeOnBar() const { return form_.CDStatusBar.width * form_.CDStatusBar.floodPercent / 100.0; }
 
 void Modes::abKey() {
-  TransportState& transport = state_.transport;
-  const auto& colour = state_.settings.lcdColor;
-  if (form_.icntlc[Pause].visible) return;
-  if (transport.abPointA > 0 && transport.abPointB > 0) {
+  const TransportState& transport = state_.transport;
+  engine_.settle();
+  if (transport.pausedFlag == kOn) return;
+  if (transport.abSetB) {
     engine_.clrab();
-    return;
-  }
-  if (!form_.icntlc[Play].visible) return;
-  if (transport.abPointA == 0) {
-    state_.display.lastShownTrack = state_.display.lastShownSec = 0;
-    transport.abTrack = static_cast<int16_t>(leadingNumber(form_.Label8.caption.get()));
-    transport.abPointA = placeOnBar();
-    form_.Label16.foreColor = form_.Label17.foreColor = colour[kLcdLabelOn];
-    lastBlink_ = clock_.milliseconds();
-  } else {
-    form_.Label16.foreColor = form_.Label17.foreColor = colour[kLcdLit];
-    transport.abPointB = placeOnBar();
-    engine_.CDStatusBar_Click(transport.abPointA);
+  } else if (transport.playingFlag == kOn) {
+    if (transport.abSetA) {
+      setB();
+    } else {
+      setA();
+    }
   }
 }
 
-void Modes::abTick() {
+void Modes::setA() {
   TransportState& transport = state_.transport;
-  const auto& colour = state_.settings.lcdColor;
-  if (transport.abPointB > 0) {
-    if (placeOnBar() >= transport.abPointB) engine_.CDStatusBar_Click(transport.abPointA);
+  state_.display.lastShownTrack = state_.display.lastShownSec = 0;
+  transport.abTrack = display_.number();
+  transport.abPointA = placeOnBar();
+  transport.abSetA = true;
+  display_.ab(state_.settings.lcdColor[kLcdLabelOn]);
+  looks_.abLegend(display_.ab());
+  lastBlink_ = clock_.milliseconds();
+}
+
+/// A loop that would land at its own end, or behind it, never came round: it is given up.
+void Modes::setB() {
+  TransportState& transport = state_.transport;
+  if (form_.CDStatusBar.floodPercent <= engine_.landing(transport.abTrack, transport.abPointA)) {
+    engine_.clrab();
     return;
   }
-  if (transport.abPointA <= 0) return;
-  if (clock_.milliseconds() - lastBlink_ >= kBlink) {
-    lastBlink_ = clock_.milliseconds();
-    form_.Label16.foreColor = colour[form_.Label16.foreColor == colour[kLcdLabelOn] ? kLcdLabelOff : kLcdLabelOn];
-    form_.Label17.foreColor = form_.Label16.foreColor;
+  transport.abSetB = true;
+  transport.abPointB = placeOnBar();
+  display_.ab(state_.settings.lcdColor[kLcdLit]);
+  looks_.abLegend(display_.ab());
+  abReturn();
+}
+
+/// In the last seconds of a track the count may be at the next one already: the loop stays in its own.
+void Modes::abReturn() {
+  state_.transport.curTrack = state_.transport.abTrack;
+  engine_.CDStatusBar_Click(state_.transport.abPointA);
+}
+
+void Modes::abBlink() {
+  if (clock_.milliseconds() - lastBlink_ < kBlink) return;
+  const auto& colour = state_.settings.lcdColor;
+  lastBlink_ = clock_.milliseconds();
+  display_.ab(colour[display_.ab() == colour[kLcdLabelOn] ? kLcdLabelOff : kLcdLabelOn]);
+  looks_.abLegend(display_.ab());
+}
+
+void Modes::abTick() {
+  const TransportState& transport = state_.transport;
+  if (!transport.abSetA) return;
+  if (display_.number() != transport.abTrack) {
+    engine_.clrab();
+  } else if (transport.playingFlag != kOn) {
+    return;
+  } else if (!transport.abSetB) {
+    abBlink();
+  } else if (placeOnBar() >= transport.abPointB) {
+    abReturn();
   }
-  const std::string& time = form_.Label10.caption;
-  const bool anew = time.size() >= 4 && time.substr(time.size() - 4) == "0:00";
-  if (static_cast<int16_t>(leadingNumber(form_.Label8.caption.get())) != transport.abTrack || anew) engine_.clrab();
 }
 
 void Modes::introTick() {
@@ -62,7 +90,8 @@ void Modes::introTick() {
   if (transport.introTrack <= 0) return;
   if (transport.introStart == 0) {
     transport.introStart = clock_.secondsToday();
-    transport.selTrack = transport.curTrack < state_.disc.trackCount ? transport.curTrack : int16_t{0};
+    // The one after the current track; past the last it goes round.
+    transport.selTrack = static_cast<int16_t>(playable(state_.disc, transport.curTrack + 1) - 1);
     engine_.jump();
     return;
   }
@@ -80,28 +109,25 @@ void Modes::introTick() {
 /// Pgm shows what is in the program, One the track that plays, Cont what is still to come; a disc just read, or
 /// one that repeats, is lit whole.
 void Modes::lampTick() {
-  const auto& colour = state_.settings.lcdColor;
   const TransportState& transport = state_.transport;
   const auto& list = state_.program.pgmList;
   const int lampCount = state_.disc.lampCount;
   if (transport.playMode == Pgm) {
     for (int lamp = std::max<int>(state_.program.pgmIndex, 1); lamp <= lampCount; ++lamp) {
-      auto& label = form_.Label22[static_cast<size_t>(lamp - 1)];
       const bool listed = std::find(list.begin() + 1, list.begin() + 101, lamp) != list.begin() + 101;
-      if (listed && label.foreColor == colour[kLcdDim]) label.foreColor = colour[kLcdLit];
+      if (listed && display_.lampDim(lamp)) display_.lamp(lamp, kLcdLit);
     }
     return;
   }
   const bool whole = state_.disc.discStarted == kOff || state_.settings.repeatOn == kOn;
-  const int shown = whole ? 1 : std::max(1, static_cast<int>(leadingNumber(form_.Label8.caption.get())));
+  const int shown = whole ? 1 : std::max<int>(1, display_.number());
   for (int lamp = 1; lamp <= 20; ++lamp) {
-    auto& label = form_.Label22[static_cast<size_t>(lamp - 1)];
     if (transport.playMode == One) {
-      label.foreColor = colour[lamp == transport.curTrack ? kLcdLitInCont : kLcdDim];
+      display_.lamp(lamp, lamp == transport.curTrack ? kLcdLitInCont : kLcdDim);
     } else if (shown > 20 || lamp < shown) {
-      label.foreColor = colour[kLcdDim];
+      display_.lamp(lamp, kLcdDim);
     } else if (lamp <= lampCount) {
-      label.foreColor = colour[kLcdLitInCont];
+      display_.lamp(lamp, kLcdLitInCont);
     }
   }
 }

@@ -57,9 +57,9 @@ TEST(Display, Time) {
 TEST(Display, OtherTimeModes) {
   using Times = std::vector<std::pair<int, const char*>>;
   const std::pair<TimeMode, Times> cases[] = {
-      {Rem, {{1, "-2:59"}, {175, "-0:05"}, {180, "-0:00"}, {181, "-3:59"}, {420, "-0:00"}, {421, "-4:02"}, {658, "-0:05"}}},
+      {Rem, {{1, "-2:59"}, {175, "-0:05"}, {180, "-0:00"}, {181, "-3:59"}, {420, "-0:00"}, {421, "-3:58"}, {658, "-0:01"}}},
       {Total, {{175, "02:55"}, {176, "05:56"}, {180, "06:00"}, {181, "03:01"}}},
-      {TotRem, {{1, "-10:58"}, {175, "-08:04"}, {180, "-07:59"}, {420, "-04:03"}}},
+      {TotRem, {{1, "-10:58"}, {175, "-08:04"}, {180, "-07:59"}, {420, "-03:59"}, {421, "-03:58"}}},
   };
   for (const auto& [mode, times] : cases) {
     Playing deck(mode);
@@ -168,6 +168,8 @@ TEST(Keys, PlayPauseStop) {
   rig.key('D');
   EXPECT_EQ(rig.time(), "0:12") << "a lit key is not pressed again";
   rig.key('G');
+  EXPECT_TRUE(rig.form.icntlc[Stop].visible);
+  rig.clock.advance(300);
   EXPECT_EQ(rig.device.mode(), DeviceMode::Stopped);
   EXPECT_EQ(rig.time(), "00:00");
   EXPECT_EQ(rig.form.CDStatusBar.floodPercent, 0);

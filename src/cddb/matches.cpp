@@ -88,7 +88,7 @@ QueryReply readQueryReply(std::string_view reply, const Road& road) {
 }
 
 std::string matchRow(std::string_view category, std::string_view title, std::string_view discId) {
-  return plain(category) + " - " + withoutControls(fromWire(title)) + std::string(kGap, ' ') + plain(discId);
+  return plain(category) + " - " + lineAsText(title) + std::string(kGap, ' ') + plain(discId);
 }
 
 Match matchOfRow(std::string_view row) {

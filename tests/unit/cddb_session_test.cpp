@@ -249,6 +249,15 @@ TEST(CddbpSession, EndsOnceWhereverTheServerBreaksOff) {
   }
 }
 
+TEST(CddbpSession, AsksOnceForARecord) {
+  Conversation talk(recording("01-exact"));
+  talk.run(kEleven, Purpose::Lookup, 45);
+  ASSERT_EQ(talk.net.tape.back(), "cddb query 940c700b 11 150 25075 46501 70596 88533 105910 125169 147365 162906 190441 215174 3186\r\n");
+  talk.watcher.session->retrieve({"misc", "940c700b"});
+  talk.clock.advance(1000);
+  EXPECT_EQ(talk.watcher.said(), kFound) << "not while another reply is due";
+}
+
 TEST(CddbpSession, MissesNoConnectionThatIsNotNeeded) {
   auto script = recording("01-exact");
   script[4].closes = true;

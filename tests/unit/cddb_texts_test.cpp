@@ -119,6 +119,10 @@ TEST(CddbMatches, TakesWhateverCountsAsAReply) {
   EXPECT_EQ(rows("200 cd 1234abcd\r\n"), (Tape{"Cd - " + kGap + "1234abcd"}));
   EXPECT_EQ(rows("  200 rock 12345678 A\tB / \xD6l\r\n"), (Tape{"Rock - A B / \xC3\x96l" + kGap + "12345678"}));
   EXPECT_EQ(rows("211 close\r\n?newage 12345678 T-T\r\n.\r\n"), (Tape{"Newage  - T-T" + kGap + "12345678"}));
+  EXPECT_EQ(rows("211 x\r\nro\x01k 12\xFF"
+                 "45678 T\x02\r\n.\r\n"),
+            (Tape{"Ro?k  - T" + kGap + "12?45678"}))
+      << "what goes back is plain";
   for (const char* odd : {"", "200", "200\r\n", "200 \r\n", "200 x\r\n", "211\r\n", "211 x\r\n\r\n.\r\n", "211 x\r\ny\r\n", "no\r\n"}) {
     for (const std::string& row : rows(odd)) EXPECT_LE(matchOfRow(row).discId.size(), 8U) << odd;
   }

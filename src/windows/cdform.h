@@ -158,6 +158,7 @@ struct CDForm : forms::Form {
 
  protected:
   std::span<const forms::DesignRow> design() const override;
+  std::span<const forms::PartnerRow> partners() const override;
 };
 
 }  // namespace orvanta

@@ -1,7 +1,9 @@
 // Forms without a screen: properties, life, focus, keys and the mouse's one release.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <functional>
+#include <tuple>
 
 #include "platform/forms/design.h"
 #include "tests/support/fakes.h"
@@ -34,6 +36,11 @@ struct Little : Form {
                                           row("box", -1, 0, {0, 200, 500, 100}, "", false)};
     return kRows;
   }
+  std::span<const PartnerRow> partners() const override {
+    static constexpr PartnerRow kRows[] = {
+        {Role::Mask, "keys", 1, "box"}, {Role::Grey, "bar", -1, "title"}, {Role::Hole, "keys", kEach, "keys", kEach}};
+    return kRows;
+  }
 };
 
 struct Recorder : FormEvents {
@@ -46,13 +53,17 @@ struct Recorder : FormEvents {
     tape.push_back("down " + name(c));
     if (onDown) onDown();
   }
-  void mouseUp(Control* c, const Mouse& /*m*/) override { tape.push_back("up " + name(c)); }
+  void mouseUp(Control* c, const Mouse& m) override {
+    tape.push_back((m.over ? "up " : "off ") + name(c));
+    if (onUp) onUp();
+  }
   void click(Control& c) override { tape.push_back("click " + name(&c)); }
   bool keyDown(const KeyPress& key) override { return key.code == 'D'; }
   void lostFocus(Control& c) override { tape.push_back("lost " + name(&c)); }
   void gotFocus(Control& c) override { tape.push_back("got " + name(&c)); }
   Tape& tape;
   std::function<void()> onDown;
+  std::function<void()> onUp;
 };
 
 struct Forms : testing::Test {
@@ -96,14 +107,92 @@ TEST_F(Forms, EveryPressHasExactlyOneRelease) {
   form.mouseDown(&form.keys[1], {});
   form.keys[0].visible = false;
   form.mouseUp({MouseButton::Right, 0, 0});
-  form.mouseUp({MouseButton::Left, -5, 0});
+  form.mouseUp({MouseButton::Left, -50, 0});
   form.mouseUp({});
-  EXPECT_EQ(tape, (Tape{"got keys(0)", "down keys(0)", "up keys(0)"})) << "no click: released outside";
+  EXPECT_EQ(tape, (Tape{"got keys(0)", "down keys(0)", "off keys(0)"})) << "no click: released outside";
   tape.clear();
   form.keys[1].enabled = false;
   form.press(form.keys[1]);
   form.press(form.keys[2]);
   EXPECT_EQ(tape, (Tape{"lost keys(0)", "got keys(2)", "down keys(2)", "up keys(2)", "click keys(2)"}));
+}
+
+TEST_F(Forms, AReleaseCountsWhereTheKeyIsAndWhereItStood) {
+  // The key gives way by ten to the right and down; a pixel's rounding of 15 more is forgiven.
+  for (const auto& [x, y, over] : std::initializer_list<std::tuple<int, int, bool>>{
+           {0, 0, true}, {-25, -25, true}, {-26, 0, false}, {0, -26, false}, {94, 94, true}, {95, 0, false}, {0, 95, false}}) {
+    tape.clear();
+    recorder.onDown = [&] { form.keys[0].move(210, 10); };
+    recorder.onUp = [&] { form.keys[0].move(200, 0); };
+    form.mouseDown(&form.keys[0], {});
+    form.mouseUp({MouseButton::Left, x, y});
+    EXPECT_EQ(std::count(tape.begin(), tape.end(), "click keys(0)"), over ? 1 : 0) << x << ' ' << y;
+    EXPECT_EQ(std::count(tape.begin(), tape.end(), over ? "up keys(0)" : "off keys(0)"), 1) << x << ' ' << y;
+  }
+}
+
+TEST_F(Forms, OneHandAtATime) {
+  form.setFocus(form.keys[2]);
+  tape.clear();
+  // Space while the mouse holds a key, and the mouse while Space does.
+  form.mouseDown(&form.keys[0], {});
+  EXPECT_FALSE(form.keyDown({key::kSpace}));
+  form.keyUp({key::kSpace});
+  form.mouseUp({});
+  form.keyDown({key::kSpace});
+  form.keyDown({key::kSpace, false, false, false, true});
+  form.mouseDown(&form.keys[1], {});
+  form.mouseUp({});
+  form.press(form.keys[1]);
+  form.keyUp({key::kSpace});
+  EXPECT_EQ(tape, (Tape{"lost keys(2)", "got keys(0)", "down keys(0)", "up keys(0)", "click keys(0)", "down keys(0)", "up keys(0)",
+                        "click keys(0)"}));
+  // The key that is held when another window comes is let go there.
+  tape.clear();
+  form.keyDown({key::kEnter});
+  form.deactivated();
+  form.keyUp({key::kEnter});
+  EXPECT_EQ(tape, (Tape{"down keys(0)", "off keys(0)"}));
+}
+
+TEST_F(Forms, AFaceThatGoesHandsTheFocusToItsTwin) {
+  form.keys[1].move(form.keys[0].left, form.keys[0].top);
+  form.keys[1].visible = false;
+  recorder.onUp = [&] {
+    form.keys[0].visible = false;
+    form.keys[1].visible = true;
+  };
+  form.press(form.keys[0]);
+  EXPECT_EQ(form.activeControl(), &form.keys[1]);
+  recorder.onUp = nullptr;
+  tape.clear();
+  form.press(form.keys[0]);
+  EXPECT_EQ(tape, Tape{}) << "what does not show takes no press";
+  // By program, while nobody pressed: the next key finds the face that shows.
+  form.keys[1].visible = false;
+  form.keys[0].visible = true;
+  form.keyDown({key::kSpace});
+  EXPECT_EQ(form.activeControl(), &form.keys[0]);
+  form.keyUp({key::kSpace});
+  form.keys[0].visible = false;
+  form.keyDown({key::kSpace});
+  EXPECT_EQ(tape.back(), "click keys(0)") << "nothing in its place: Space presses nothing";
+}
+
+TEST_F(Forms, TabLeavesOutWhatIsUnavailable) {
+  EXPECT_EQ(form.keys[2].with(Role::Hole), &form.keys[2]);
+  EXPECT_EQ(form.keys[2].with(Role::Mask), nullptr);
+  const auto available = [&] { return Tape{form.keys[1].available() ? "keys(1)" : "", form.bar.available() ? "bar" : ""}; };
+  EXPECT_EQ(available(), (Tape{"", "bar"})) << "its mask shows";
+  form.title.foreColor = colours::kGrey;
+  EXPECT_EQ(available(), (Tape{"", ""}));
+  form.box.visible = false;
+  EXPECT_EQ(available(), (Tape{"keys(1)", ""}));
+  form.firstStop = &form.keys[2];
+  for (const char* next : {"keys(2)", "keys(0)", "keys(1)"}) {
+    form.keyDown({key::kTab});
+    EXPECT_EQ(form.activeControl()->fullName(), next);
+  }
 }
 
 TEST_F(Forms, TabVisitsEveryLiveControlOnce) {

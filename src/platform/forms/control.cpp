@@ -39,6 +39,14 @@ bool Control::insideForm() const {
 
 bool Control::shown() const { return visible && (parent == nullptr || parent->shown()); }
 
+bool Control::available() const {
+  const Control* mask = with(Role::Mask);
+  const Control* grey = with(Role::Grey);
+  return enabled && (mask == nullptr || !mask->visible) && (grey == nullptr || grey->foreColor != colours::kGrey);
+}
+
+bool Control::on() const { return with(Role::Light) != nullptr && with(Role::Light)->visible; }
+
 void Combo::setItems(std::vector<std::string> items) {
   items_ = std::move(items);
   propertyChanged(Change::Rows);

@@ -15,6 +15,21 @@ namespace orvanta::forms {
 
 class Form;
 
+/// What another control is to a key or a drawing.
+enum class Role {
+  Mask,     ///< while it shows, the key is dead
+  Light,    ///< while it shows, the key is on
+  Caption,  ///< goes down with the key
+  Grey,     ///< in grey, the key is dead
+  Hole,     ///< shown where the key stood while it is down
+  Plateau,  ///< shows while a press of the key is taken
+  Percent,  ///< tells where the slider stands
+  Colour,   ///< lends its colour to the drawing
+  Joint,    ///< covers the edge between two panes
+  Scale,    ///< the slider that a scale is engraved for
+};
+constexpr size_t kRoles = 10;
+
 enum class Kind { Label, Image, Panel, Line, Shape, Bar, TextBox, Button, List, Combo };
 std::string_view kindName(Kind kind);
 
@@ -64,6 +79,10 @@ class Control : protected PropertyOwner {
   Cell cell;                  ///< in a window that lays itself out
   bool tellsText = false;     ///< a new caption is told to the form's handlers, whoever wrote it
 
+  /// The control that has this role for it; nullptr for none.
+  Control* with(Role role) const { return partners_[static_cast<size_t>(role)]; }
+  void setWith(Role role, Control* control) { partners_[static_cast<size_t>(role)] = control; }
+
   Property<int> left{*this, Change::Geometry};
   Property<int> top{*this, Change::Geometry};
   Property<int> width{*this, Change::Geometry};
@@ -86,6 +105,10 @@ class Control : protected PropertyOwner {
   bool insideForm() const;
   /// Visible with all its parents.
   bool shown() const;
+  /// A press would do something: enabled, not under its mask, its caption not grey.
+  bool available() const;
+  /// Its light is lit.
+  bool on() const;
 
  protected:
   void propertyChanged(Change change) final;
@@ -95,6 +118,7 @@ class Control : protected PropertyOwner {
   std::string name_;
   int index_;
   Kind kind_;
+  std::array<Control*, kRoles> partners_{};
 };
 
 template <Kind K>

@@ -63,6 +63,18 @@ void applyDesign(Form& form, std::span<const DesignRow> rows, bool smallFonts) {
   }
 }
 
+void applyPartners(Form& form, std::span<const PartnerRow> rows) {
+  for (Control* control : form.controls()) {
+    for (const PartnerRow& row : rows) {
+      const bool each = row.index == kEach;
+      if (control->name() != row.name || (!each && control->index() != row.index)) continue;
+      Control* partner = form.find(row.partner, each && row.partnerIndex == kEach ? control->index() : row.partnerIndex);
+      assert(partner != nullptr);
+      control->setWith(row.role, partner);
+    }
+  }
+}
+
 /// Places are the view's. Each control but a panel counts as a point, so that it is within its form.
 void applyGrid(Form& form, std::span<const GridRow> rows) {
   for (const GridRow& row : rows) {

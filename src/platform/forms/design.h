@@ -45,6 +45,19 @@ struct GridRow {
   const char* art = "";  ///< "tab", "frame", "heading", "value", "stretch", ...: hints for the view
 };
 
+constexpr int kEach = -2;  ///< every index of an array, each with the like index of its partner's
+
+/// Who has which role for whom.
+struct PartnerRow {
+  Role role;
+  const char* name;
+  int index;
+  const char* partner;
+  int partnerIndex = kNoIndex;
+};
+
+void applyPartners(Form& form, std::span<const PartnerRow> rows);
+
 void applyGrid(Form& form, std::span<const GridRow> rows);
 
 /// Writes a table into a form's controls, as one batch before a view looks at them.

@@ -11,6 +11,9 @@ namespace {
 
 FormEvents noEvents;
 
+constexpr int kRounding = 15;         ///< twips that a pixel may be off
+constexpr int kElsewhere = -1000000;  ///< over no control
+
 bool takesFocus(const Control& control) { return control.tabStop && control.enabled && control.shown() && control.insideForm(); }
 
 }  // namespace
@@ -22,6 +25,8 @@ Form::~Form() = default;
 std::span<const DesignRow> Form::design() const { return {}; }
 
 std::span<const GridRow> Form::grid() const { return {}; }
+
+std::span<const PartnerRow> Form::partners() const { return {}; }
 
 Control* Form::find(std::string_view controlName, int index) const {
   const auto found = std::find_if(controls_.begin(), controls_.end(),
@@ -41,6 +46,7 @@ void Form::load(Desktop& desktop) {
   enabled = true;
   applyDesign(*this, design(), smallFonts);
   applyGrid(*this, grid());
+  applyPartners(*this, partners());
   view_ = desktop.open(*this);
   events_->load();
 }
@@ -97,31 +103,76 @@ void Form::moveFocus(bool backwards) {
   const auto count = static_cast<int>(controls_.size());
   const auto at = std::find(controls_.begin(), controls_.end(), active_);
   int place = at == controls_.end() ? (backwards ? 0 : -1) : static_cast<int>(at - controls_.begin());
+  if (at == controls_.end() && firstStop != nullptr && !backwards) {
+    place = static_cast<int>(std::find(controls_.begin(), controls_.end(), firstStop) - controls_.begin()) - 1;
+  }
   for (int i = 0; i < count; ++i) {
     place = (place + (backwards ? count - 1 : 1)) % count;
-    if (setFocus(*controls_[static_cast<size_t>(place)], true)) return;
+    Control& next = *controls_[static_cast<size_t>(place)];
+    if (next.available() && setFocus(next, true)) return;
+  }
+}
+
+/// What has gone from under the focus hands it to the control that came in its place, as the two faces of
+/// one key do.
+void Form::settleFocus() {
+  if (active_ == nullptr || resizable() || (active_->shown() && active_->insideForm())) return;
+  const int x = active_->left + active_->width / 2;
+  const int y = active_->top + active_->height / 2;
+  for (Control* twin : controls_) {
+    const bool here = twin->parent == active_->parent && x >= twin->left && x < twin->left + twin->width && y >= twin->top &&
+                      y < twin->top + twin->height;
+    if (here && setFocus(*twin, focusShown_)) return;
   }
 }
 
 void Form::mouseDown(Control* control, const Mouse& mouse) {
-  if (down_ || (control != nullptr && !control->enabled)) return;
+  if (keyPress_) return;
+  press(control, mouse);
+}
+
+void Form::press(Control* control, const Mouse& mouse) {
+  if (down_ || (control != nullptr && (!control->enabled || !control->shown()))) return;
   down_ = true;
   pressed_ = control;
   pressedButton_ = mouse.button;
-  if (control != nullptr) setFocus(*control);
+  if (control != nullptr) {
+    pressedAt_ = {control->left, control->top, control->width, control->height};
+    setFocus(*control);
+  }
   events_->mouseDown(control, mouse);
 }
 
 void Form::mouseMove(Control* control, const Mouse& mouse) { events_->mouseMove(down_ ? pressed_ : control, mouse); }
 
 void Form::mouseUp(const Mouse& mouse) {
+  if (!keyPress_) release(mouse);
+}
+
+void Form::release(const Mouse& mouse) {
   if (!down_ || mouse.button != pressedButton_) return;
   Control* control = pressed_;
   down_ = false;
   pressed_ = nullptr;
-  events_->mouseUp(control, mouse);
-  const bool over = control != nullptr && mouse.x >= 0 && mouse.y >= 0 && mouse.x < control->width && mouse.y < control->height;
-  if (over && mouse.button == MouseButton::Left) events_->click(*control);
+  Mouse told = mouse;
+  if (control != nullptr) {
+    const auto within = [](int at, int length, int slack) { return at >= -slack && at < length + slack; };
+    // A key gives way under the mouse, so its place at rest counts as well as where it is now.
+    const int right = control->left - pressedAt_.left;
+    const int down = control->top - pressedAt_.top;
+    const int slack = right != 0 || down != 0 ? kRounding : 0;
+    told.over = within(mouse.x + right, pressedAt_.width, slack) && within(mouse.y + down, pressedAt_.height, slack);
+    told.over = told.over || (within(mouse.x, control->width, 0) && within(mouse.y, control->height, 0));
+  }
+  events_->mouseUp(control, told);
+  if (control != nullptr && told.over && mouse.button == MouseButton::Left) events_->click(*control);
+  settleFocus();
+}
+
+void Form::deactivated() {
+  if (!keyPress_) return;
+  keyPress_ = false;
+  release({MouseButton::Left, kElsewhere, kElsewhere});
 }
 
 void Form::doubleClick(Control* control) { events_->doubleClick(control); }
@@ -149,13 +200,18 @@ void Form::userFocus(Control& control) {
 }
 
 void Form::press(Control& control) {
+  if (down_) return;
   const Mouse middle{MouseButton::Left, control.width / 2, control.height / 2};
-  mouseDown(&control, middle);
-  mouseUp(middle);
+  press(&control, middle);
+  release(middle);
 }
 
 bool Form::keyDown(const KeyPress& pressed) {
-  if (events_->keyDown(pressed)) return true;
+  settleFocus();
+  if (events_->keyDown(pressed)) {
+    settleFocus();
+    return true;
+  }
   if (pressed.code == key::kTab && !pressed.control && !pressed.alt) {
     moveFocus(pressed.shift);
     return true;
@@ -163,16 +219,16 @@ bool Form::keyDown(const KeyPress& pressed) {
   const bool presses = pressed.code == key::kSpace || pressed.code == key::kEnter;
   const bool pressable =
       active_ != nullptr && active_->kind() != Kind::TextBox && active_->kind() != Kind::Combo && active_->kind() != Kind::List;
-  if (!presses || !pressable || keyPress_) return false;
-  keyPress_ = true;
-  mouseDown(active_, {MouseButton::Left, active_->width / 2, active_->height / 2});
+  if (!presses || !pressable || down_ || pressed.repeats) return false;
+  press(active_, {MouseButton::Left, active_->width / 2, active_->height / 2});
+  keyPress_ = down_;
   return true;
 }
 
 void Form::keyUp(const KeyPress& released) {
   if (!keyPress_ || (released.code != key::kSpace && released.code != key::kEnter)) return;
   keyPress_ = false;
-  if (pressed_ != nullptr) mouseUp({MouseButton::Left, pressed_->width / 2, pressed_->height / 2});
+  if (pressed_ != nullptr) release({MouseButton::Left, pressed_->width / 2, pressed_->height / 2});
 }
 
 void Form::dragged(int newLeft, int newTop) {

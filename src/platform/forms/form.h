@@ -71,6 +71,7 @@ class Desktop {
 
 struct DesignRow;
 struct GridRow;
+struct PartnerRow;
 
 struct Place {
   int left = 0;
@@ -94,6 +95,8 @@ class Form : private PropertyOwner {
 
   void setEvents(FormEvents* events) { events_ = events; }
 
+  /// Where Tab begins; nullptr: with the first.
+  Control* firstStop = nullptr;
   /// Which places of the design table load() takes: those for 15 twips a pixel, else for 12.
   bool smallFonts = true;
 
@@ -125,6 +128,7 @@ class Form : private PropertyOwner {
   bool focusShown() const { return focusShown_; }
 
   // Input, called by the view (through the gate) and by tests.
+  /// One that does not show or is not enabled takes no press.
   void mouseDown(Control* control, const Mouse& mouse);
   void mouseMove(Control* control, const Mouse& mouse);
   /// The release of the last press, whichever control lies under the mouse now: one for each press.
@@ -144,6 +148,8 @@ class Form : private PropertyOwner {
   void press(Control& control);
   void activated();
   void dragged(int newLeft, int newTop);
+  /// Another window is the active one now: a key that is held here will be let go elsewhere.
+  void deactivated();
   void fileDropped(const std::string& path);
   void closeAsked();
   Control* pressed() const { return pressed_; }
@@ -152,6 +158,7 @@ class Form : private PropertyOwner {
   /// A window of fixed places has this table, one that lays itself out the next.
   virtual std::span<const DesignRow> design() const;
   virtual std::span<const GridRow> grid() const;
+  virtual std::span<const PartnerRow> partners() const;
 
  private:
   friend class Control;
@@ -161,6 +168,9 @@ class Form : private PropertyOwner {
   void textChanged(Control& control) { events_->textChanged(control); }
   void rowClicked(ListBox& list) { events_->click(list); }
   void moveFocus(bool backwards);
+  void press(Control* control, const Mouse& mouse);
+  void release(const Mouse& mouse);
+  void settleFocus();
 
   std::string name_;
   std::vector<Control*> controls_;
@@ -169,9 +179,10 @@ class Form : private PropertyOwner {
   Desktop* desktop_ = nullptr;
   Control* active_ = nullptr;
   Control* pressed_ = nullptr;
+  Place pressedAt_;  ///< of the pressed control before it gave way
   MouseButton pressedButton_ = MouseButton::Left;
   bool down_ = false;
-  bool keyPress_ = false;
+  bool keyPress_ = false;  ///< the press is the keyboard's
   bool focusShown_ = false;
 };
 

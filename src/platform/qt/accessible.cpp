@@ -1,8 +1,11 @@
-// Names and roles come from the control: what it shows, or what it does.
+// Names, roles and states come from the control: what it shows, or what it does. What only decorates is
+// not told at all.
 #include "platform/qt/accessible.h"
 
 #include <QAccessible>
 #include <QAccessibleWidget>
+#include <algorithm>
+#include <vector>
 
 #include "platform/qt/form_view.h"
 #include "platform/qt/to_qt.h"
@@ -11,10 +14,30 @@ namespace orvanta {
 
 namespace {
 
-/// A slider is a panel that names the label with its percent; nullptr for all else.
-const forms::Control* percentOf(const forms::Control& control) {
-  constexpr std::string_view kSlider = "clear:";
-  return control.art.rfind(kSlider, 0) == 0 ? control.form().find(control.art.substr(kSlider.size())) : nullptr;
+/// A slider has a label with its percent; nullptr for all else.
+const forms::Control* percentOf(const forms::Control& control) { return control.with(forms::Role::Percent); }
+
+bool isHeard(const ControlWidget& widget);
+
+/// The children that a screen reader meets.
+std::vector<ControlWidget*> heardIn(const QWidget& owner) {
+  std::vector<ControlWidget*> heard;
+  for (QObject* child : owner.children()) {
+    auto* widget = dynamic_cast<ControlWidget*>(child);
+    if (widget != nullptr && isHeard(*widget)) heard.push_back(widget);
+  }
+  return heard;
+}
+
+bool isHeard(const ControlWidget& widget) {
+  const forms::Control& control = widget.control();
+  switch (control.kind()) {
+    case forms::Kind::Image:
+    case forms::Kind::Line:
+    case forms::Kind::Shape: return control.tabStop || !control.says.empty();
+    case forms::Kind::Panel: return control.tabStop || !control.says.empty() || !heardIn(widget).empty();
+    default: return true;
+  }
 }
 
 QAccessible::Role roleOf(const forms::Control& control) {
@@ -31,9 +54,26 @@ QAccessible::Role roleOf(const forms::Control& control) {
   }
 }
 
-class AccessibleControl : public QAccessibleWidget {
+/// A widget whose children are those that are heard.
+class AccessibleParent : public QAccessibleWidget {
  public:
-  explicit AccessibleControl(ControlWidget& widget) : QAccessibleWidget(&widget, roleOf(widget.control())), widget_(widget) {}
+  using QAccessibleWidget::QAccessibleWidget;
+  int childCount() const override { return static_cast<int>(heardIn(*widget()).size()); }
+  QAccessibleInterface* child(int index) const override {
+    const auto heard = heardIn(*widget());
+    return index < 0 || index >= static_cast<int>(heard.size()) ? nullptr
+                                                                : QAccessible::queryAccessibleInterface(heard[static_cast<size_t>(index)]);
+  }
+  int indexOfChild(const QAccessibleInterface* child) const override {
+    const auto heard = heardIn(*widget());
+    const auto found = std::find(heard.begin(), heard.end(), child == nullptr ? nullptr : child->object());
+    return found == heard.end() ? -1 : static_cast<int>(found - heard.begin());
+  }
+};
+
+class AccessibleControl : public AccessibleParent {
+ public:
+  explicit AccessibleControl(ControlWidget& widget) : AccessibleParent(&widget, roleOf(widget.control())), widget_(widget) {}
 
   QString text(QAccessible::Text kind) const override {
     widget_.describe();
@@ -51,17 +91,29 @@ class AccessibleControl : public QAccessibleWidget {
   }
 
   QAccessible::State state() const override {
+    const forms::Control& control = widget_.control();
     QAccessible::State state = QAccessibleWidget::state();
-    state.disabled = !widget_.control().enabled;
-    state.focusable = widget_.control().tabStop;
-    state.focused = widget_.control().form().activeControl() == &widget_.control();
+    state.disabled = !control.available();
+    state.focusable = control.tabStop;
+    state.focused = control.form().activeControl() == &control;
+    state.checkable = control.with(forms::Role::Light) != nullptr;
+    state.checked = control.on();
+    state.pressed = control.on() || control.form().pressed() == &control;
     return state;
   }
 
-  QStringList actionNames() const override { return widget_.control().tabStop ? QStringList{pressAction()} : QStringList{}; }
+  QStringList actionNames() const override {
+    if (percentOf(widget_.control()) != nullptr) return {increaseAction(), decreaseAction()};
+    return widget_.control().tabStop ? QStringList{pressAction()} : QStringList{};
+  }
 
   void doAction(const QString& name) override {
-    if (name == pressAction()) widget_.formWindow().press(widget_.control());
+    const bool slider = percentOf(widget_.control()) != nullptr;
+    if (slider && (name == increaseAction() || name == decreaseAction())) {
+      widget_.formWindow().step(widget_.control(), name == increaseAction() ? 1 : -1);
+    } else if (!slider && name == pressAction()) {
+      widget_.formWindow().press(widget_.control());
+    }
   }
 
  private:
@@ -69,8 +121,14 @@ class AccessibleControl : public QAccessibleWidget {
 };
 
 QAccessibleInterface* make(const QString& /*className*/, QObject* object) {
-  auto* widget = dynamic_cast<ControlWidget*>(object);
-  return widget == nullptr ? nullptr : new AccessibleControl(*widget);
+  if (auto* widget = dynamic_cast<ControlWidget*>(object)) return new AccessibleControl(*widget);
+  auto* window = dynamic_cast<FormWindow*>(object);
+  return window == nullptr ? nullptr : new AccessibleParent(window, QAccessible::Window);
+}
+
+void tell(ControlWidget& widget, QAccessible::Event what) {
+  QAccessibleEvent event(&widget, what);
+  QAccessible::updateAccessibility(&event);
 }
 
 }  // namespace
@@ -82,9 +140,24 @@ void useAccessibleControls() {
   Q_UNUSED(kInstalled);
 }
 
-void nameChanged(ControlWidget& widget, forms::Change change) {
-  if (!QAccessible::isActive() || change != forms::Change::Text) return;
-  widget.describe();
+void nameChanged(ControlWidget& widget) {
+  if (QAccessible::isActive()) widget.describe();
+}
+
+void stateChanged(ControlWidget& widget) {
+  if (!QAccessible::isActive() || !isHeard(widget)) return;
+  if (percentOf(widget.control()) != nullptr) {
+    tell(widget, QAccessible::ValueChanged);
+    return;
+  }
+  QAccessible::State changed;
+  changed.disabled = changed.checked = changed.pressed = true;
+  QAccessibleStateChangeEvent event(&widget, changed);
+  QAccessible::updateAccessibility(&event);
+}
+
+void focusChanged(ControlWidget& widget) {
+  if (QAccessible::isActive()) tell(widget, QAccessible::Focus);
 }
 
 }  // namespace orvanta

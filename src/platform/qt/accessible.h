@@ -1,8 +1,6 @@
 // Controls as a screen reader meets them.
 #pragma once
 
-#include "platform/forms/property.h"
-
 namespace orvanta {
 
 class ControlWidget;
@@ -10,10 +8,12 @@ class ControlWidget;
 /// ORVANTA_TEST_NAMES=1: descriptions are the controls' names, so that tests find them.
 bool testNames();
 
-/// Makes every ControlWidget known with its role, name, state and press.
+/// Makes windows and their ControlWidgets known, each with its role, name, state and press.
 void useAccessibleControls();
 
-/// Tells a screen reader, if there is one, what changed.
-void nameChanged(ControlWidget& widget, forms::Change change);
+// Tell a screen reader, if there is one, what changed.
+void nameChanged(ControlWidget& widget);
+void stateChanged(ControlWidget& widget);
+void focusChanged(ControlWidget& widget);
 
 }  // namespace orvanta

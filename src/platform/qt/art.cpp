@@ -48,11 +48,6 @@ const QImage& ArtCache::keep(const std::string& key, QImage picture) {
   return *pictures_.object(key);
 }
 
-const forms::Control* colourSource(const forms::Control& control) {
-  const Name name = nameOf(control);
-  return name.art == "power" ? control.form().find(name.detail) : nullptr;
-}
-
 double bleedOf(const forms::Control& control) {
   constexpr double kShadow = 4;
   constexpr double kPoolOfLight = 20;
@@ -64,13 +59,14 @@ std::string surfaceKey(const forms::Control& control) {
   static constexpr std::array<std::string_view, 7> kKept = {"faceplate", "metal", "door", "tray", "glass", "emblem", "power"};
   const Name name = nameOf(control);
   if (std::find(kKept.begin(), kKept.end(), name.art) == kKept.end()) return {};
-  std::string key = control.fullName() + ' ' + std::to_string(control.backColor) + ' ' + std::to_string(control.form().backColor);
+  std::string key = control.fullName() + ' ' + std::to_string(control.backColor) + ' ' + std::to_string(control.foreColor) + ' ' +
+                    std::to_string(control.form().backColor);
   if (const auto* panel = dynamic_cast<const forms::Panel*>(&control)) key += ' ' + std::to_string(panel->bevelInner);
   if (const auto* image = dynamic_cast<const forms::Image*>(&control)) key += ' ' + image->picture.get();
-  if (const auto* source = colourSource(control)) key += ' ' + std::to_string(source->backColor);
+  if (const auto* source = control.with(forms::Role::Colour)) key += ' ' + std::to_string(source->backColor);
   // The panes' joint shows only where no line covers it.
-  const forms::Control* joint = control.form().find("Line1");
-  if (name.art == "glass" && joint != nullptr) key += joint->visible ? " over" : " beside";
+  const forms::Control* joint = control.with(forms::Role::Joint);
+  if (joint != nullptr) key += joint->visible ? " over" : " beside";
   return key;
 }
 

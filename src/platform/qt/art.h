@@ -56,9 +56,6 @@ std::string surfaceKey(const forms::Control& control);
 /// How far a drawing reaches beyond its control, for glow and shadow; design pixels.
 double bleedOf(const forms::Control& control);
 
-/// The control that a drawing takes a colour from; nullptr for its own alone.
-const forms::Control* colourSource(const forms::Control& control);
-
 // The families of drawings; each returns false for an art that is not its own.
 bool paintSurface(Art& art, std::string_view name, std::string_view detail);
 bool paintKey(Art& art, std::string_view name, std::string_view detail);

@@ -10,7 +10,7 @@ namespace orvanta {
 
 namespace {
 
-/// The user's own display colours, when they are set: the panes then have the back colour.
+/// The user's own display colours, when they are set: the panes then have them.
 struct OwnColours {
   bool set = false;
   QColor fore;
@@ -20,9 +20,8 @@ struct OwnColours {
 OwnColours ownColours(const forms::Control& control) {
   const auto* pane = dynamic_cast<const forms::Panel*>(control.parent);
   if (pane == nullptr) pane = dynamic_cast<const forms::Panel*>(&control);
-  const forms::Control* digits = control.form().find("Label8");
-  if (pane == nullptr || digits == nullptr || pane->bevelInner != 1) return {};
-  return {true, qColour(digits->foreColor), qColour(pane->backColor)};
+  if (pane == nullptr || pane->bevelInner != 1) return {};
+  return {true, qColour(pane->foreColor), qColour(pane->backColor)};
 }
 
 /// What both panes lie on, in design pixels of the window.
@@ -62,7 +61,7 @@ void glass(Art& art, std::string_view detail) {
   band(.30, .52, .18, strength);
   band(.55, .58, .43, strength * .8);
   p.restore();
-  const forms::Control* joint = art.control.form().find("Line1");
+  const forms::Control* joint = art.control.with(forms::Role::Joint);
   if (detail == "joint" && (joint == nullptr || !joint->visible)) {
     const QColor line = own.set ? mix(own.back, Qt::black, .16) : mix(Qt::black, Qt::white, .10);
     fill(p, QRectF(0, 0, art.w, .8), line);

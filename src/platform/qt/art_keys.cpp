@@ -21,14 +21,8 @@ QColor litColour(Symbol symbol) {
 
 /// A mask or lit symbol of the same key shows: the face then leaves its own symbol to it.
 bool overlaid(const forms::Control& face) {
-  const std::string_view faceArt = face.art;
-  const std::string_view name = faceArt.substr(faceArt.find(':'));
-  for (const forms::Control* other : face.form().controls()) {
-    const std::string_view art = other->art;
-    const bool overlay = art.rfind("mask:", 0) == 0 || art.rfind("lit:", 0) == 0;
-    if (overlay && other->visible && art.substr(art.find(':')) == name) return true;
-  }
-  return false;
+  const forms::Control* mask = face.with(forms::Role::Mask);
+  return face.on() || (mask != nullptr && mask->visible);
 }
 
 bool isPressed(const forms::Control& control) { return control.form().pressed() == &control; }
@@ -37,7 +31,7 @@ void transport(Art& art, Symbol which) {
   if (ownPicture(art)) return;
   QPainter& p = art.painter;
   // A press that is refused leaves the face as it is: only a taken one shows its plateau.
-  const forms::Control* plateauShape = art.control.form().find("Shape2");
+  const forms::Control* plateauShape = art.control.with(forms::Role::Plateau);
   graphite(p, QRectF(1, 1, art.w - 2, art.h - 2), 2.5, isPressed(art.control) && plateauShape != nullptr && plateauShape->visible);
   const QRectF plateau(54 / 15.0 * art.k, 70 / 15.0 * art.k, 815 / 15.0 * art.k, 355 / 15.0 * art.k);
   fill(p, plateau,

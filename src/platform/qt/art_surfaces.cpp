@@ -163,7 +163,7 @@ void power(Art& art) {
   disc(r - 3.9 * art.k,
        blendIn(area(art), .4, 1, {{0, QColor(0x26, 0x29, 0x2D)}, {.5, QColor(0x33, 0x37, 0x3C)}, {1, QColor(0x4A, 0x4F, 0x56)}}),
        QPen(QBrush(blendIn(area(art), .3, 1, {{0, alpha(Qt::black, .7)}, {1, alpha(Qt::white, .25)}})), .8));
-  const forms::Control* source = colourSource(art.control);
+  const forms::Control* source = art.control.with(forms::Role::Colour);
   const QColor colour = source == nullptr ? QColor(0x32, 0xC8, 0x55) : qColour(source->backColor);
   QPainterPath path;
   path.arcMoveTo(QRectF(-4.7, -4.7, 9.4, 9.4), 132);
@@ -223,7 +223,7 @@ void sunkPanel(Art& art, bool scale) {
        blend(inner.topLeft(), inner.topLeft() + QPointF(0, 6), {{0, alpha(Qt::black, .52)}, {1, alpha(Qt::black, 0)}}), 3);
   fill(p, QRectF(inner.left(), inner.top(), 5, inner.height()),
        blend(inner.topLeft(), inner.topLeft() + QPointF(5, 0), {{0, alpha(Qt::black, .42)}, {1, alpha(Qt::black, 0)}}), 3);
-  const forms::Control* slider = scale ? art.control.form().find("VolumeL") : nullptr;
+  const forms::Control* slider = scale ? art.control.with(forms::Role::Scale) : nullptr;
   if (slider == nullptr) return;
   const double middle = art.w / 2;
   const double last = at(art, art.k == 1 ? 1235 : 1215);

@@ -74,7 +74,7 @@ void disc(QPainter& p, const TrayShape& shape) {
 void paintTray(Art& art, bool half) {
   const TrayShape shape = shapeOf(half);
   // The right and lower slices have no colour of their own: the tray's is the main one's.
-  const forms::Control* main = art.control.form().find(half ? "Panel3D8" : "Panel3D7");
+  const forms::Control* main = art.control.with(forms::Role::Colour);
   const QColor base = qColour(main != nullptr ? main->backColor.get() : art.control.backColor.get());
   QPainter& p = art.painter;
   p.save();

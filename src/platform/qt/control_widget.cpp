@@ -51,7 +51,13 @@ void ControlWidget::follow(Change change) {
   if (change == Change::Geometry) place();
   if (change == Change::Geometry || change == Change::Visibility) showIfInside();
   if (change == Change::Text || change == Change::Look) update();
-  if (change != Change::Geometry && change != Change::Look) nameChanged(*this, change);
+  if (change == Change::Text) nameChanged(*this);
+  if (change == Change::Enabled || change == Change::Visibility) stateChanged(*this);
+}
+
+void ControlWidget::followPartner() {
+  update();
+  stateChanged(*this);
 }
 
 void ControlWidget::paintEvent(QPaintEvent* /*event*/) {

@@ -29,6 +29,15 @@ namespace {
 
 constexpr int kDragEnd = 300;  ///< milliseconds without a move
 
+/// The file stays its owner's: a drop is never taken as a move, which would let the source delete it.
+bool takeCopy(QDropEvent& event) {
+  const auto urls = event.mimeData()->urls();
+  const bool taken = !urls.isEmpty() && urls.front().isLocalFile() && event.possibleActions().testFlag(Qt::CopyAction);
+  event.setDropAction(taken ? Qt::CopyAction : Qt::IgnoreAction);
+  event.setAccepted(taken);
+  return taken;
+}
+
 }  // namespace
 
 // ---- FormWindow
@@ -61,7 +70,10 @@ void FormWindow::build() {
       for (forms::Control* control : order) {
         if (control->parent != parent) continue;
         widgets_[control] = new ControlWidget(*this, owner, *control);
-        if (const forms::Control* source = colourSource(*control)) followers_[source].push_back(widgets_[control]);
+        for (size_t role = 0; role < forms::kRoles; ++role) {
+          const forms::Control* partner = control->with(static_cast<forms::Role>(role));
+          if (partner != nullptr && partner != control) followers_[partner].push_back(widgets_[control]);
+        }
         next.push_back(control);
       }
     }
@@ -103,8 +115,9 @@ void FormWindow::raise() {
 void FormWindow::changed(forms::Control& control, Change change) {
   if (ControlWidget* widget = widgetOf(control)) widget->follow(change);
   const auto followers = followers_.find(&control);
-  if (change != Change::Look || followers == followers_.end()) return;
-  for (ControlWidget* widget : followers->second) widget->update();
+  const bool told = change == Change::Look || change == Change::Visibility || change == Change::Text;
+  if (!told || followers == followers_.end()) return;
+  for (ControlWidget* widget : followers->second) widget->followPartner();
 }
 
 void FormWindow::formChanged(Change change) {
@@ -131,11 +144,17 @@ void FormWindow::refresh(forms::Control& control) {
 void FormWindow::focusMoved(forms::Control* control) {
   if (focused_ != nullptr) focused_->update();
   focused_ = control == nullptr ? nullptr : widgetOf(*control);
-  if (focused_ != nullptr) focused_->update();
+  if (focused_ == nullptr) return;
+  focused_->update();
+  focusChanged(*focused_);
 }
 
 void FormWindow::press(forms::Control& control) {
   gate_.enter([&] { form_.press(control); });
+}
+
+void FormWindow::step(forms::Control& control, int steps) {
+  gate_.enter([&] { form_.wheel(&control, steps); });
 }
 
 // ---- input
@@ -170,6 +189,7 @@ forms::Mouse FormWindow::mouseAt(const QMouseEvent& event, const forms::Control*
 void FormWindow::mousePressEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton && event->button() != Qt::RightButton) return;
   grip_ = event->globalPosition().toPoint() - pos();
+  held_ = event->button() == Qt::LeftButton;
   forms::Control* control = hit(event->position().toPoint());
   gate_.enter([&] { form_.mouseDown(control, mouseAt(*event, control)); });
 }
@@ -184,6 +204,7 @@ void FormWindow::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void FormWindow::mouseReleaseEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton) held_ = false;
   if (moving_) {
     moving_ = false;
     dragMayHaveEnded();
@@ -195,7 +216,7 @@ void FormWindow::mouseReleaseEvent(QMouseEvent* event) {
 void FormWindow::mouseDoubleClickEvent(QMouseEvent* event) {
   // A double click is a second press as well: a deck's key pressed twice fast acts twice.
   mousePressEvent(event);
-  gate_.enter([&] { form_.doubleClick(hit(event->position().toPoint())); });
+  if (event->button() == Qt::LeftButton) gate_.enter([&] { form_.doubleClick(hit(event->position().toPoint())); });
 }
 
 void FormWindow::wheelEvent(QWheelEvent* event) {
@@ -209,11 +230,8 @@ void FormWindow::wheelEvent(QWheelEvent* event) {
 }
 
 void FormWindow::keyPressEvent(QKeyEvent* event) {
-  const forms::KeyPress key = keyPress(*event);
-  const bool repeats = key.code >= forms::key::kLeft && (key.code <= forms::key::kDown || key.code >= forms::key::kF1);
-  if (event->isAutoRepeat() && !repeats && key.code != forms::key::kTab) return;
   bool used = false;
-  gate_.enter([&] { used = form_.keyDown(key); });
+  gate_.enter([&] { used = form_.keyDown(keyPress(*event)); });
   if (!used) event->ignore();
 }
 
@@ -224,15 +242,14 @@ void FormWindow::keyReleaseEvent(QKeyEvent* event) {
 
 bool FormWindow::focusNextPrevChild(bool /*next*/) { return false; }
 
-void FormWindow::dragEnterEvent(QDragEnterEvent* event) {
-  if (event->mimeData()->hasUrls()) event->acceptProposedAction();
-}
+void FormWindow::dragEnterEvent(QDragEnterEvent* event) { dragMoveEvent(event); }
+
+void FormWindow::dragMoveEvent(QDragMoveEvent* event) { takeCopy(*event); }
 
 void FormWindow::dropEvent(QDropEvent* event) {
-  const auto urls = event->mimeData()->urls();
-  if (urls.isEmpty() || !urls.front().isLocalFile()) return;
-  event->acceptProposedAction();
-  gate_.enter([&] { form_.fileDropped(urls.front().toLocalFile().toStdString()); });
+  if (!takeCopy(*event)) return;
+  const std::string path = event->mimeData()->urls().front().toLocalFile().toStdString();
+  gate_.enter([&] { form_.fileDropped(path); });
 }
 
 // ---- the window
@@ -241,8 +258,7 @@ bool FormWindow::event(QEvent* event) {
   if (event->type() == QEvent::ToolTip) {
     const auto* help = static_cast<QHelpEvent*>(event);
     const forms::Control* control = hit(help->pos());
-    // Escaped: a tip is plain text, never taken for HTML.
-    QToolTip::showText(help->globalPos(), control == nullptr ? QString() : toQt(control->toolTip).toHtmlEscaped(), this);
+    QToolTip::showText(help->globalPos(), control == nullptr ? QString() : plainTip(control->toolTip), this);
     return true;
   }
   return QWidget::event(event);
@@ -261,7 +277,7 @@ void FormWindow::paintEvent(QPaintEvent* event) {
 
 void FormWindow::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
-  if (event->type() == QEvent::ActivationChange && isActiveWindow()) gate_.enter([&] { form_.activated(); });
+  if (event->type() == QEvent::ActivationChange) gate_.enter([&] { isActiveWindow() ? form_.activated() : form_.deactivated(); });
 }
 
 void FormWindow::closeEvent(QCloseEvent* event) {
@@ -269,10 +285,17 @@ void FormWindow::closeEvent(QCloseEvent* event) {
   gate_.enter([&] { form_.closeAsked(); });
 }
 
+/// What waits comes first: with the release among it, the window would stick to the mouse.
 void FormWindow::drag() {
+  QTimer::singleShot(0, this, [this] { startDrag(); });
+}
+
+void FormWindow::startDrag() {
+  if (!held_ || dragging_) return;
   dragging_ = true;
   // The system takes the mouse from here on, so the press has had its one release.
-  gate_.enter([&] { form_.mouseUp({}); });
+  held_ = false;
+  gate_.enter([&] { form_.mouseUp({forms::MouseButton::Left, -1, -1}); });
   moving_ = windowHandle() == nullptr || !windowHandle()->startSystemMove();
   dragEnd_.start(kDragEnd);
 }

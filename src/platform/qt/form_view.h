@@ -24,6 +24,8 @@ class ControlWidget : public QWidget {
   FormWindow& formWindow() const { return window_; }
   /// Takes over place, visibility and name.
   void follow(forms::Change change);
+  /// A mask came, a light went out, a lamp that lends its colour changed.
+  void followPartner();
   void describe();
   void showIfInside();
   /// The control's own rectangle, without the bleed.
@@ -58,6 +60,8 @@ class FormWindow : public QWidget, public forms::FormView {
 
   /// Space, ENTER and screen readers press a control by the same road as the mouse.
   void press(forms::Control& control);
+  /// One step of a slider, as a notch of the wheel.
+  void step(forms::Control& control, int steps);
 
   const Scale& scale() const { return scale_; }
   Fonts& fonts() const { return fonts_; }
@@ -81,6 +85,7 @@ class FormWindow : public QWidget, public forms::FormView {
   void keyReleaseEvent(QKeyEvent* event) override;
   bool focusNextPrevChild(bool next) override;
   void dragEnterEvent(QDragEnterEvent* event) override;
+  void dragMoveEvent(QDragMoveEvent* event) override;
   void dropEvent(QDropEvent* event) override;
 
  private:
@@ -89,6 +94,7 @@ class FormWindow : public QWidget, public forms::FormView {
   bool onScreen() const;
   forms::Control* hit(const QPoint& place) const;
   forms::Mouse mouseAt(const QMouseEvent& event, const forms::Control* control) const;
+  void startDrag();
   void dragMayHaveEnded();
 
   forms::Form& form_;
@@ -98,11 +104,12 @@ class FormWindow : public QWidget, public forms::FormView {
   ArtCache glows_{ArtCache::kGlows};
   Scale scale_;
   std::map<const forms::Control*, ControlWidget*> widgets_;
-  std::map<const forms::Control*, std::vector<ControlWidget*>> followers_;  ///< that take a colour from a control
+  std::map<const forms::Control*, std::vector<ControlWidget*>> followers_;  ///< whose partner a control is
   ControlWidget* focused_ = nullptr;
   int wheel_ = 0;  ///< of a notch, in Qt's eighths of a degree
   QTimer dragEnd_;
-  QPoint grip_;  ///< of a drag without a window manager
+  QPoint grip_;        ///< of a drag without a window manager
+  bool held_ = false;  ///< the left mouse button is down
   bool dragging_ = false;
   bool moving_ = false;  ///< we move it ourselves
   bool painted_ = false;

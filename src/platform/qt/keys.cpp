@@ -1,4 +1,4 @@
-// Letters and digits are their upper-case codes in both.
+// Letters, digits and the blank have the same codes in both.
 #include "platform/qt/keys.h"
 
 #include <QKeyEvent>
@@ -23,7 +23,9 @@ int keyCode(int qtKey) {
     default: break;
   }
   if (qtKey >= Qt::Key_F1 && qtKey <= Qt::Key_F12) return forms::key::kF1 + qtKey - Qt::Key_F1;
-  return qtKey < 0x80 ? qtKey : 0;
+  const bool letter = qtKey >= Qt::Key_A && qtKey <= Qt::Key_Z;
+  const bool digit = qtKey >= Qt::Key_0 && qtKey <= Qt::Key_9;
+  return letter || digit || qtKey == Qt::Key_Space ? qtKey : 0;
 }
 
 }  // namespace
@@ -31,7 +33,7 @@ int keyCode(int qtKey) {
 forms::KeyPress keyPress(const QKeyEvent& event) {
   const auto modifiers = event.modifiers();
   return {keyCode(event.key()), (modifiers & Qt::ShiftModifier) != 0 || event.key() == Qt::Key_Backtab,
-          (modifiers & Qt::ControlModifier) != 0, (modifiers & Qt::AltModifier) != 0};
+          (modifiers & Qt::ControlModifier) != 0, (modifiers & Qt::AltModifier) != 0, event.isAutoRepeat()};
 }
 
 }  // namespace orvanta

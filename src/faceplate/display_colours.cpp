@@ -183,6 +183,7 @@ void DisplayColours::customDisplay() {
   const Colour back = state_.settings.lcdBack;
   for (auto* panel : {&form_.Panel3D1, &form_.Panel3D5}) {
     panel->bevelInner = 1;
+    panel->foreColor = front;
     panel->backColor = back;
   }
   fore({&form_.Label16, &form_.Label21, &form_.Label30}, back);

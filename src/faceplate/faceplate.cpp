@@ -2,6 +2,7 @@
 #include "faceplate/faceplate.h"
 
 #include <algorithm>
+#include <cstdlib>
 
 #include "base/text.h"
 #include "platform/ports/cd_device.h"
@@ -13,6 +14,12 @@
 #include "state/settings_files.h"
 
 namespace orvanta {
+
+namespace {
+
+constexpr int kDragStarts = 60;  ///< twips that a hand moves before the window follows it
+
+}  // namespace
 
 Faceplate::Faceplate(Ports& ports, const FaceplateParts& parts, CDForm& form, SharedState& state, PlaybackUpward& upward)
     : device_(ports.device),
@@ -30,6 +37,7 @@ void Faceplate::load() {
   // Tells the sibling programs that a player runs.
   setMarker(files_, state_.settings.appDir, kRunningMarker);
   state_.clearForLoad();
+  form_.firstStop = &form_.icntla[Play];
   // The title lines are laid out by what they hold.
   form_.Label12.tellsText = true;
   on_.colours.loadorvanta1();
@@ -98,7 +106,7 @@ void Faceplate::mouseDown(forms::Control* control, const forms::Mouse& mouse) {
   if (control != nullptr && on_.volume.mouseDown(*control, mouse)) return;
   if (mouse.button != forms::MouseButton::Left) return;
   if (control == nullptr || control == &form_.Image8) {
-    if (form_.view() != nullptr) form_.view()->drag();
+    grip_ = mouse;
   } else {
     pressed(*control);
   }
@@ -116,18 +124,36 @@ void Faceplate::pressed(forms::Control& control) {
   if (control.name() == "scntla") on_.buttons.scntla_MouseDown(index);
 }
 
+/// The window is dragged only once the mouse moves, so that a click, or two, leaves it where it is.
 void Faceplate::mouseMove(forms::Control* control, const forms::Mouse& mouse) {
+  if (grip_ && std::max(std::abs(mouse.x - grip_->x), std::abs(mouse.y - grip_->y)) >= kDragStarts) {
+    grip_.reset();
+    if (form_.view() != nullptr) form_.view()->drag();
+    return;
+  }
   if (control != nullptr && form_.pressed() == control) on_.volume.mouseMove(*control, mouse);
 }
 
 void Faceplate::mouseUp(forms::Control* control, const forms::Mouse& mouse) {
   look_.up();
+  grip_.reset();
   if (control == nullptr || on_.volume.mouseUp(*control)) return;
-  if (mouse.button == forms::MouseButton::Right) {
+  if (!mouse.over) {
+    letGo(*control);
+  } else if (mouse.button == forms::MouseButton::Right) {
     rightReleased(*control);
   } else {
     released(control->name(), static_cast<size_t>(std::max(control->index(), 0)), mouse);
   }
+}
+
+/// Whoever thinks better of a press slides off the key: it comes back up and does nothing.
+void Faceplate::letGo(const forms::Control& control) {
+  const auto index = static_cast<size_t>(std::max(control.index(), 0));
+  if (control.name() == "icntla") on_.buttons.faceUp(index);
+  const bool scan = control.name() == "scntla" && (index == ScanBack || index == ScanForward);
+  if (scan) on_.buttons.scntla_MouseUp(index);
+  keyTaken_ = false;
 }
 
 /// The wheel moves a slider, and the place on the bar.
@@ -142,8 +168,10 @@ void Faceplate::textChanged(forms::Control& control) {
   if (&control == &form_.Label12) on_.layout.layTitles();
 }
 
-/// Arrows move the slider that has the focus.
+/// Arrows move the slider that has the focus. It is no key: Space and ENTER leave it where it stands.
 bool Faceplate::sliderKey(const forms::KeyPress& key) {
+  const bool press = key.code == forms::key::kSpace || key.code == forms::key::kEnter;
+  if (press) return form_.activeControl() != nullptr && form_.activeControl()->with(forms::Role::Percent) != nullptr;
   const bool up = key.code == forms::key::kUp || key.code == forms::key::kRight;
   const bool down = key.code == forms::key::kDown || key.code == forms::key::kLeft;
   if (form_.activeControl() == nullptr || (!up && !down)) return false;
@@ -200,9 +228,7 @@ void Faceplate::released(const std::string& name, size_t index, const forms::Mou
   } else if (name == "Label14" || name == "Image12") {
     upward_.launchEnhancedDisc();
   } else if (name == "CDStatusBar") {
-    const forms::Bar& bar = form_.CDStatusBar;
-    // Let go beside the bar, the press was thought better of.
-    if (mouse.x >= 0 && mouse.y >= 0 && mouse.x < bar.width && mouse.y < bar.height) on_.buttons.CDStatusBar_Click(mouse.x);
+    on_.buttons.CDStatusBar_Click(mouse.x);
   } else if (name == "Panel3D2") {
     if (state_.disc.drawerOpen != kOn && state_.disc.noDiscState == 0) on_.engine.mmcontrol1_EjectClick();
   } else if (name == "Panel3D7" || name == "Panel3D9" || name == "Panel3D10") {
@@ -240,7 +266,16 @@ void Faceplate::askForDisc() {
 
 void Faceplate::fileDropped(const std::string& path) { tray_.offer(path); }
 
-bool Faceplate::keyDown(const forms::KeyPress& key) { return on_.buttons.keyDown(key) || sliderKey(key); }
+bool Faceplate::keyDown(const forms::KeyPress& key) {
+  // Held, the keys for the level go on; a toggle would flap.
+  const bool level = key.code == forms::key::kF1 + 4 || key.code == forms::key::kF1 + 5;
+  if (key.repeats && !level) return sliderKey(key);
+  if (key.code == 'J' && state_.disc.drawerOpen == kOn && !key.control && !key.alt) {
+    askForDisc();
+    return true;
+  }
+  return on_.buttons.keyDown(key) || sliderKey(key);
+}
 
 void Faceplate::closeAsked() { upward_.exitProgram(); }
 

@@ -1,6 +1,8 @@
 // Behaviour of CDForm: its load, and the road from its events to the handlers.
 #pragma once
 
+#include <optional>
+
 #include "faceplate/display_colours.h"
 #include "faceplate/interface_sounds.h"
 #include "faceplate/layout.h"
@@ -53,6 +55,7 @@ class Faceplate : public forms::FormEvents {
   void released(const std::string& name, size_t index, const forms::Mouse& mouse);
   bool panelReleased(const std::string& name, size_t index);
   void rightReleased(const forms::Control& control);
+  void letGo(const forms::Control& control);
   bool sliderKey(const forms::KeyPress& key);
   void playTrackOfCommandLine();
   void askForDisc();
@@ -67,6 +70,7 @@ class Faceplate : public forms::FormEvents {
   SharedState& state_;
   PlaybackUpward& upward_;
   bool keyTaken_ = false;
+  std::optional<forms::Mouse> grip_;  ///< where the metal was taken hold of
 };
 
 }  // namespace orvanta

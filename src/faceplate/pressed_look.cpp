@@ -16,23 +16,6 @@ constexpr std::array<std::string_view, 10> kWindowKeys = {"Image10", "Image16", 
 
 }  // namespace
 
-forms::Label* PressedLook::captionOf(const forms::Control& control) {
-  const auto index = static_cast<size_t>(std::max(control.index(), 0));
-  if (control.name() == "Image17") return &form_.Label34[index];
-  if (control.name() == "Image10") return std::array{&form_.Label18, &form_.Label19, &form_.Label20, &form_.Label25}.at(index);
-  if (control.name() == "Image16")
-    return std::array{&form_.Label44, &form_.Label38, &form_.Label39, &form_.Label40, &form_.Label35}.at(index);
-  if (control.name() == "scntla" && index == 1) return &form_.Label24;
-  if (control.name() == "scntla" && index == 2) return &form_.Label17;
-  return nullptr;
-}
-
-forms::Shape* PressedLook::holeOf(const forms::Control& control) {
-  if (control.name() == "Image4") return &form_.Shape5;
-  if (control.name() == "Image2" || control.name() == "Image9") return &form_.Shape4;
-  return nullptr;
-}
-
 void PressedLook::showPair(forms::ControlArray<forms::Image, 2>& pair, bool pressed) {
   pair[0].visible = !pressed;
   pair[1].visible = pressed;
@@ -43,7 +26,7 @@ void PressedLook::down(forms::Control& control) {
   const std::string& name = control.name();
   const bool pair = name == "Image19" || name == "Image20";
   const bool inPanel = name == "Image2" || name == "Image9";
-  const bool caption = name == "scntla" && captionOf(control) != nullptr;
+  const bool caption = name == "scntla" && control.with(forms::Role::Caption) != nullptr;
   const bool key = caption || std::find(kWindowKeys.begin(), kWindowKeys.end(), name) != kWindowKeys.end();
   if (!pair && !inPanel && !key) return;
   key_ = &control;
@@ -52,8 +35,8 @@ void PressedLook::down(forms::Control& control) {
     return;
   }
   depth_ = inPanel || state_.process.smallFonts == kOn ? kPanelDepth : kPanelDepth + 2;
-  caption_ = captionOf(control);
-  hole_ = holeOf(control);
+  caption_ = control.with(forms::Role::Caption);
+  hole_ = control.with(forms::Role::Hole);
   if (hole_ != nullptr) {
     hole_->move(control.left, control.top);
     hole_->visible = true;

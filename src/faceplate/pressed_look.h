@@ -15,15 +15,13 @@ class PressedLook {
   void up();
 
  private:
-  forms::Label* captionOf(const forms::Control& control);
-  forms::Shape* holeOf(const forms::Control& control);
   void showPair(forms::ControlArray<forms::Image, 2>& pair, bool pressed);
 
   CDForm& form_;
   const SharedState& state_;
   forms::Control* key_ = nullptr;
-  forms::Label* caption_ = nullptr;
-  forms::Shape* hole_ = nullptr;
+  forms::Control* caption_ = nullptr;
+  forms::Control* hole_ = nullptr;
   int depth_ = 0;
 };
 

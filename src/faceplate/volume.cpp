@@ -80,7 +80,8 @@ void Volume::activate() {
   if (mode == kOwnVolume && state_.volume.volBlocked == -1) cdvol();
   layout_.placeVolumePanel();
   if (mode == kOwnVolume && state_.volume.volDrag == kArea) state_.volume.volDrag = kNoDrag;
-  if (std::exchange(fresh_, false) && mode == kMixerProgram) {
+  // Once: at the start, or when the setup has turned to the mixer.
+  if (mode == kMixerProgram && std::exchange(fresh_, false)) {
     mixer_.prepare();
     for (Channel* channel : {&left_, &right_}) {
       channel->atten = channel->attenPrev = kPrepared;
@@ -214,6 +215,8 @@ void Volume::unmuted() {
 void Volume::Image2_MouseUp(size_t index) {
   VolumeState& volume = state_.volume;
   const bool mute = index == 1;
+  // A second mute would keep the silence in place of the level.
+  if (mute == muted()) return;
   const bool byMixer = state_.settings.soundMode == kMixerProgram;
   form_.Image2[1].visible = !mute;
   form_.Image2[0].visible = mute;

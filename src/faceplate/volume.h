@@ -90,7 +90,7 @@ class Volume {
   SharedState& state_;
   Channel left_;
   Channel right_;
-  bool fresh_ = true;  ///< not yet activated since the load
+  bool fresh_ = true;  ///< the mixer program is not prepared yet
 };
 
 }  // namespace orvanta

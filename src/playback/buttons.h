@@ -22,6 +22,8 @@ class Buttons {
   bool pressStarts(size_t key);
   /// A person's release: what has happened since the press may have taken the key away.
   void pressEnds(size_t key);
+  /// The face that went down comes back; nothing is done.
+  void faceUp(size_t key);
   // A press moves the face and shows its shadow, the release acts. Called by program they always act.
   void icntla_MouseDown(size_t key);
   void icntla_MouseUp(size_t key);
@@ -40,7 +42,6 @@ class Buttons {
 
  private:
   bool asleep() const { return state_.disc.noDiscState > 0 || state_.disc.drawerOpen == kOn; }
-  void faceUp(size_t key);
   void pressed(size_t key);
   void jumpTo(int track);
   void timeMode();

@@ -4,14 +4,21 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QDropEvent>
 #include <QImage>
+#include <QKeyEvent>
+#include <QMimeData>
 #include <QTest>
+#include <QUrl>
 #include <algorithm>
+#include <map>
 #include <memory>
 #include <numeric>
+#include <set>
 #include <vector>
 
 #include "platform/qt/form_view.h"
+#include "platform/qt/keys.h"
 #include "platform/qt/qt_clock.h"
 #include "platform/qt/qt_screen.h"
 #include "tests/gui/deck.h"
@@ -43,17 +50,102 @@ TEST(View, APressReachesTheKeyUnderItsCaption) {
   QTest::mousePress(deck.window, Qt::LeftButton, {}, deck.inWindow(form.icntla[Play]).center());
   EXPECT_TRUE(form.Shape2.visible);
   QTest::mouseRelease(deck.window, Qt::LeftButton, {}, QPoint(1, 1));
-  EXPECT_EQ(deck.core.state.transport.playingFlag, kOn) << "one release, wherever the mouse is";
+  EXPECT_EQ(deck.core.state.transport.playingFlag, kOff) << "whoever slides off has thought better of it";
+  EXPECT_FALSE(form.Shape2.visible);
+  // From its very corner, where the key gives way from under the mouse.
+  QTest::mouseClick(deck.window, Qt::LeftButton, {}, deck.inWindow(form.icntla[Play]).topLeft());
+  EXPECT_EQ(deck.core.state.transport.playingFlag, kOn);
   QTest::mouseClick(deck.window, Qt::LeftButton, {}, deck.inWindow(form.icntla[Pause]).center());
   EXPECT_EQ(deck.core.state.transport.pausedFlag, kOn);
   QTest::keyClick(deck.window, Qt::Key_D);
   EXPECT_EQ(deck.core.state.transport.playingFlag, kOn);
 }
 
+TEST(View, EveryKeyIsWhatItSays) {
+  using namespace forms::key;  // NOLINT(google-build-using-namespace): the table reads as one
+  const std::map<int, int> named = {
+      {Qt::Key_Tab, kTab},       {Qt::Key_Backtab, kTab},         {Qt::Key_Return, kEnter}, {Qt::Key_Enter, kEnter},
+      {Qt::Key_Left, kLeft},     {Qt::Key_Right, kRight},         {Qt::Key_Up, kUp},        {Qt::Key_Down, kDown},
+      {Qt::Key_Escape, kEscape}, {Qt::Key_Backspace, kBackspace}, {Qt::Key_Help, kHelp},    {Qt::Key_F1, kF1},
+      {Qt::Key_F7, kF1 + 6},     {Qt::Key_F12, kF1 + 11}};
+  std::set<int> codes;
+  for (const auto& [qtKey, code] : named) {
+    EXPECT_EQ(keyPress(QKeyEvent(QEvent::KeyPress, qtKey, Qt::NoModifier)).code, code) << qtKey;
+    EXPECT_GT(code, 0xFF) << "beyond all characters";
+    codes.insert(code);
+  }
+  EXPECT_EQ(codes.size(), named.size() - 2) << "Tab and ENTER alone are on two keys";
+  // Of all characters those that stand for a key of the deck; "/" or "%" is for text fields.
+  for (int character = 1; character < 0x500; ++character) {
+    const bool known = character == ' ' || (character >= '0' && character <= '9') || (character >= 'A' && character <= 'Z');
+    EXPECT_EQ(keyPress(QKeyEvent(QEvent::KeyPress, character, Qt::NoModifier)).code, known ? character : 0) << character;
+  }
+  const forms::KeyPress all = keyPress(QKeyEvent(QEvent::KeyPress, Qt::Key_A, Qt::ShiftModifier | Qt::AltModifier, "a", true));
+  EXPECT_TRUE(all.shift && all.alt && all.repeats && !all.control);
+  EXPECT_TRUE(keyPress(QKeyEvent(QEvent::KeyPress, Qt::Key_Backtab, Qt::ControlModifier)).shift);
+}
+
+/// A drag over the window from a source that offers these actions, let go on it: what the source is told was done.
+Qt::DropAction dropped(Deck& deck, const QString& url, Qt::DropActions offered, Qt::DropAction proposed) {
+  QMimeData data;
+  data.setUrls({QUrl(url)});
+  const QPointF place(100, 100);
+  QDragEnterEvent enter(place.toPoint(), offered, &data, Qt::LeftButton, proposed == Qt::MoveAction ? Qt::ShiftModifier : Qt::NoModifier);
+  QApplication::sendEvent(deck.window, &enter);
+  if (!enter.isAccepted()) return Qt::IgnoreAction;
+  QDropEvent drop(place, offered, &data, Qt::LeftButton, Qt::NoModifier);
+  drop.setDropAction(proposed);
+  QApplication::sendEvent(deck.window, &drop);
+  return drop.isAccepted() ? drop.dropAction() : Qt::IgnoreAction;
+}
+
+TEST(View, ADropIsACopy) {
+  Deck deck;
+  const Qt::DropActions both = Qt::CopyAction | Qt::MoveAction;
+  EXPECT_EQ(dropped(deck, QStringLiteral("file:///music/disc.cue"), both, Qt::MoveAction), Qt::CopyAction);
+  EXPECT_EQ(dropped(deck, QStringLiteral("file:///music/disc.cue"), both, Qt::CopyAction), Qt::CopyAction);
+  EXPECT_EQ(dropped(deck, QStringLiteral("file:///music/disc.cue"), Qt::MoveAction, Qt::MoveAction), Qt::IgnoreAction);
+  EXPECT_EQ(dropped(deck, QStringLiteral("https://example.org/disc.cue"), both, Qt::CopyAction), Qt::IgnoreAction);
+}
+
+TEST(View, TheMetalIsDraggedByAMoveAndCentredByTwoClicks) {
+  Deck deck;
+  CDForm& form = deck.core.form;
+  const QPoint metal(300, 10);
+  const auto moveTo = [&](QPoint place) {
+    QMouseEvent move(QEvent::MouseMove, place, deck.window->mapToGlobal(place), Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(deck.window, &move);
+    QTest::qWait(5);
+  };
+  form.left = 3000;
+  form.top = 1500;
+  const QPoint before = deck.window->pos();
+  QTest::mousePress(deck.window, Qt::LeftButton, {}, metal);
+  moveTo(metal + QPoint(3, 3));
+  EXPECT_EQ(deck.window->pos(), before) << "a hand trembles";
+  moveTo(metal + QPoint(20, 8));
+  moveTo(metal + QPoint(30, 12));
+  EXPECT_EQ(deck.window->pos(), before + QPoint(30, 12));
+  QTest::mouseRelease(deck.window, Qt::LeftButton, {}, metal);
+  EXPECT_EQ(form.left, 3000 + 30 * 15);
+  EXPECT_EQ(deck.files.tape.back(), "write /data/CDPOSN.DAT");
+  // The move and the release wait together: the window does not stick to the mouse.
+  QTest::mousePress(deck.window, Qt::LeftButton, {}, metal);
+  QMouseEvent move(QEvent::MouseMove, metal + QPoint(40, 0), deck.window->mapToGlobal(metal + QPoint(40, 0)), Qt::NoButton, Qt::LeftButton,
+                   Qt::NoModifier);
+  QApplication::sendEvent(deck.window, &move);
+  QTest::mouseRelease(deck.window, Qt::LeftButton, {}, metal);
+  moveTo(metal + QPoint(80, 0));
+  EXPECT_EQ(form.left, 3000 + 30 * 15);
+  QTest::mouseDClick(deck.window, Qt::LeftButton, {}, metal);
+  EXPECT_EQ(form.left, (deck.screen.widthTwips() - form.width) / 2);
+  EXPECT_EQ(deck.files.tape.back(), "remove /data/CDPOSN.DAT");
+}
+
 TEST(View, TabShowsFocusAndSpacePresses) {
   Deck deck;
   const QImage before = deck.picture();
-  for (int i = 0; i < 60 && deck.core.form.activeControl() != &deck.core.form.icntla[Play]; ++i) QTest::keyClick(deck.window, Qt::Key_Tab);
+  QTest::keyClick(deck.window, Qt::Key_Tab);
   ASSERT_EQ(deck.core.form.activeControl(), &deck.core.form.icntla[Play]);
   EXPECT_NE(deck.picture(), before);
   QTest::keyClick(deck.window, Qt::Key_Space);
@@ -84,6 +176,55 @@ TEST(View, ScreenReadersFindEveryControl) {
   EXPECT_EQ(interfaceOf(form.Label10)->text(QAccessible::Name), "0:03");
   EXPECT_EQ(interfaceOf(form.CDStatusBar)->text(QAccessible::Value), "1%");
   EXPECT_EQ(interfaceOf(form.Label10)->rect().size(), deck.inWindow(form.Label10).size());
+}
+
+/// What a screen reader meets: names of what can be pressed, with their states; "?" for a picture that has none.
+void listTree(QAccessibleInterface* node, Tape& out) {
+  const QAccessible::State state = node->state();
+  const bool picture = node->role() == QAccessible::Graphic && node->text(QAccessible::Name).isEmpty();
+  if (picture) out.emplace_back("?");
+  if (!state.invisible && (node->role() == QAccessible::PushButton || node->role() == QAccessible::Slider)) {
+    out.push_back(node->text(QAccessible::Name).toStdString() + (state.disabled ? ", unavailable" : "") + (state.checked ? ", on" : "") +
+                  (state.pressed ? ", pressed" : ""));
+  }
+  for (int i = 0; i < node->childCount(); ++i) {
+    EXPECT_EQ(node->indexOfChild(node->child(i)), i);
+    listTree(node->child(i), out);
+  }
+}
+
+TEST(View, ScreenReadersHearWhatKeysAreAndDo) {
+  Deck deck;
+  const auto heard = [&] {
+    Tape all;
+    listTree(QAccessible::queryAccessibleInterface(deck.window), all);
+    std::sort(all.begin(), all.end());
+    return all;
+  };
+  const Tape stopped = heard();
+  EXPECT_EQ(std::adjacent_find(stopped.begin(), stopped.end()), stopped.end()) << "no two keys of one name";
+  EXPECT_EQ(std::count(stopped.begin(), stopped.end(), "?"), 0);
+  const auto differs = [&](const Tape& before) {
+    const Tape after = heard();
+    Tape news;
+    std::set_difference(after.begin(), after.end(), before.begin(), before.end(), std::back_inserter(news));
+    return news;
+  };
+  deck.gate.enter([&] { deck.core.form.press(deck.core.form.icntla[Play]); });
+  EXPECT_EQ(differs(stopped), (Tape{"Next", "Pause", "Play, on, pressed", "Previous", "Scan back", "Scan forward", "Stop"}));
+  const Tape playing = heard();
+  deck.gate.enter([&] { deck.core.form.press(deck.core.form.Image2[1]); });
+  deck.gate.enter([&] { deck.core.form.press(deck.core.form.Image4[1]); });
+  EXPECT_EQ(differs(playing),
+            (Tape{"Cont mode", "Mute, on, pressed", "One mode, on, pressed", "Repeat, unavailable", "Shuffle, unavailable"}));
+  // A slider goes up and down; pressing it in the middle would throw the level away.
+  QAccessibleInterface* slider = QAccessible::queryAccessibleInterface(deck.window->widgetOf(deck.core.form.VolumeL));
+  const int place = deck.core.form.ThumbL.top;
+  deck.gate.enter([&] { deck.core.form.press(deck.core.form.Image2[0]); });
+  slider->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+  EXPECT_EQ(deck.core.form.ThumbL.top, place);
+  slider->actionInterface()->doAction(QAccessibleActionInterface::decreaseAction());
+  EXPECT_GT(deck.core.form.ThumbL.top, place);
 }
 
 TEST(View, PaintsWhatChanges) {

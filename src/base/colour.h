@@ -17,6 +17,9 @@ constexpr Colour kDarkRed = 192;
 constexpr Colour kYellow = 65535;
 }  // namespace colours
 
+/// How well one can be read on the other: 1 for equals to 21 for black on white; 3 is the least for a legend.
+double contrast(Colour a, Colour b);
+
 /// 1440 to the inch; 15 to a pixel at 96 dots per inch.
 constexpr int kTwipsPerPixel = 15;
 

@@ -145,6 +145,7 @@ class Panel : public Simple<Kind::Panel> {
   int bevelInner = 2;
   int bevelOuter = 2;
   int bevelWidth = 3;
+  Property<bool> empty{*this, Change::Look, false};  ///< drawn without what it could hold
 };
 
 /// The text is the caption.

@@ -30,6 +30,7 @@ void applyRow(Control& control, const DesignRow& row, const Place& place, Form& 
     bar->floodPercent = 0;
   }
   control.tellsText = false;
+  if (auto* panel = dynamic_cast<Panel*>(&control)) panel->empty = false;
   if (auto* image = dynamic_cast<Image*>(&control)) image->picture = std::string();
   control.font = Font{row.font, row.points, row.bold};
   control.align = row.align;

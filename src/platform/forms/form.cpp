@@ -51,11 +51,16 @@ void Form::load(Desktop& desktop) {
   events_->load();
 }
 
-Place Form::designPlace(const Control& control) const {
+const DesignRow* Form::designRow(const Control& control) const {
   for (const DesignRow& row : design()) {
-    if (row.index == control.index() && row.name == control.name()) return smallFonts ? row.coarse : row.fine;
+    if (row.index == control.index() && row.name == control.name()) return &row;
   }
-  return {};
+  return nullptr;
+}
+
+Place Form::designPlace(const Control& control) const {
+  const DesignRow* row = designRow(control);
+  return row == nullptr ? Place{} : smallFonts ? row->coarse : row->fine;
 }
 
 void Form::show(Desktop& desktop) {

@@ -56,6 +56,7 @@ class FormEvents {
   virtual void gotFocus(Control& /*control*/) {}
   /// The window was dragged by the user; left and top are the new ones.
   virtual void dragged() {}
+  virtual bool takesFile(const std::string& /*path*/) const { return false; }
   virtual void fileDropped(const std::string& /*path*/) {}
   /// The system asks to close the window.
   virtual void closeAsked() {}
@@ -116,6 +117,8 @@ class Form : private PropertyOwner {
   bool loaded() const { return desktop_ != nullptr; }
   /// Where the design puts a control in the present metric variant; a control of no row is at 0, 0.
   Place designPlace(const Control& control) const;
+  /// The row of its design; nullptr for a control of none.
+  const DesignRow* designRow(const Control& control) const;
   /// Loads if need be, shows and raises; activates unless it was the last one shown.
   void show(Desktop& desktop);
   void hide();
@@ -150,6 +153,8 @@ class Form : private PropertyOwner {
   void dragged(int newLeft, int newTop);
   /// Another window is the active one now: a key that is held here will be let go elsewhere.
   void deactivated();
+  /// A drop of it would be used.
+  bool takesFile(const std::string& path) const { return events_->takesFile(path); }
   void fileDropped(const std::string& path);
   void closeAsked();
   Control* pressed() const { return pressed_; }

@@ -22,6 +22,7 @@ std::string line(const Control& control) {
   if (!control.visible) text += " hidden";
   if (!control.enabled) text += " disabled";
   if (const auto* bar = dynamic_cast<const Bar*>(&control)) text += " " + std::to_string(bar->floodPercent) + "%";
+  if (const auto* panel = dynamic_cast<const Panel*>(&control); panel != nullptr && panel->empty) text += " empty";
   return text + "\n";
 }
 

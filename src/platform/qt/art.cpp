@@ -61,7 +61,8 @@ std::string surfaceKey(const forms::Control& control) {
   if (std::find(kKept.begin(), kKept.end(), name.art) == kKept.end()) return {};
   std::string key = control.fullName() + ' ' + std::to_string(control.backColor) + ' ' + std::to_string(control.foreColor) + ' ' +
                     std::to_string(control.form().backColor);
-  if (const auto* panel = dynamic_cast<const forms::Panel*>(&control)) key += ' ' + std::to_string(panel->bevelInner);
+  if (const auto* panel = dynamic_cast<const forms::Panel*>(&control))
+    key += ' ' + std::to_string(panel->bevelInner) + (panel->empty ? " empty" : "");
   if (const auto* image = dynamic_cast<const forms::Image*>(&control)) key += ' ' + image->picture.get();
   if (const auto* source = control.with(forms::Role::Colour)) key += ' ' + std::to_string(source->backColor);
   // The panes' joint shows only where no line covers it.

@@ -258,7 +258,9 @@ bool paintKey(Art& art, std::string_view name, std::string_view detail) {
     titleKey(art, detail);
   } else if (name == "caption") {
     letters(art, c.caption, alpha(Qt::white, .45), {c.align, 0, .5});
-    letters(art, c.caption, qColour(c.foreColor), {c.align});
+    // Grey says that the key is dead; a colour of the display is darkened to what can be read on metal.
+    const QColor fore = qColour(c.foreColor);
+    letters(art, c.caption, c.foreColor == colours::kGrey ? fore : readable(fore, QColor(0x9B, 0xA1, 0xA8)), {c.align});
   } else {
     return false;
   }

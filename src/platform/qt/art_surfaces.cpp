@@ -76,7 +76,9 @@ void recess(Art& art) {
        blend({0, 2}, {0, 2 + 10 * art.k}, {{0, alpha(Qt::black, .9)}, {1, alpha(Qt::black, 0)}}));
 }
 
-void openSign(Art& art, double right, double top, double k) { ejectSign(art.painter, {art.w - right * art.k, top * art.k}, k * art.k); }
+void openSign(Art& art, double right, double top, double k) {
+  ejectSign(art.painter, {art.w - right * art.k, top * art.k}, k * art.k, qColour(art.control.backColor));
+}
 
 void door(Art& art, bool moving) {
   const auto* panel = dynamic_cast<const forms::Panel*>(&art.control);
@@ -99,7 +101,7 @@ void door(Art& art, bool moving) {
   doorPlate(art, area(art), base);
   openSign(art, 16, 19, 1.05);
   engraved(art, QRectF(art.w - 66 * art.k, 28 * art.k, 57 * art.k, 9 * art.k), {"Small Fonts", 7, false}, "OPEN / CLOSE",
-           QColor(0xA9, 0xB0, 0xB7), {forms::Align::Right, .3});
+           readable(QColor(0xA9, 0xB0, 0xB7), base), {forms::Align::Right, .3});
 }
 
 /// Light and dark sectors round a middle, `turns` of them a round, brightest at `phase`.
@@ -147,7 +149,7 @@ void statusLamp(Art& art) {
 
 /// A chrome ring round a hollow cap, its sign in the status lamp's colour.
 void power(Art& art) {
-  if (ownPicture(art)) return;
+  if (ownPicture(art, true)) return;
   QPainter& p = art.painter;
   const QPointF centre(art.w / 2, art.h / 2);
   const double r = art.w / 2;
@@ -288,7 +290,8 @@ bool paintSurface(Art& art, std::string_view name, std::string_view detail) {
          blend({0, 0}, {0, art.h}, {{0, alpha(Qt::black, .55)}, {.4, alpha(Qt::black, .25)}, {1, alpha(Qt::black, .05)}}), 1.8);
   } else if (name == "maker") {
     ground(art);
-    letters(art, area(art), c.font, c.caption, alpha(Qt::black, .75), {forms::Align::Left, 2.3 * art.k, .9});
+    letters(art, area(art), c.font, c.caption, alpha(brightness(fore) < .35 ? Qt::white : Qt::black, .75),
+            {forms::Align::Left, 2.3 * art.k, .9});
     letters(art, area(art), c.font, c.caption, fore, {forms::Align::Left, 2.3 * art.k});
   } else if (name == "engraved") {
     const double spacing = detail == "wide" ? 2.4 * art.k : c.align == forms::Align::Left ? 1.6 * art.k : .3;

@@ -1,10 +1,9 @@
 // The deck's lettering: by glyph, at any size, engraved or shining.
-#include <QGlyphRun>
-#include <QTextLayout>
 #include <algorithm>
 #include <cmath>
 
 #include "platform/qt/art_tools.h"
+#include "platform/qt/text_lines.h"
 
 namespace orvanta {
 
@@ -14,73 +13,11 @@ double capHeight(const forms::Font& font) { return font.family == "LcdD" ? 1.0 :
 
 double pixelsOf(const Art& art, double points) { return points * 96 / 72 * art.k * art.factor; }
 
-struct Line {
-  QGlyphRun glyphs;
-  double width = 0;
-};
-
-/// Shaped and kerned by the face's own tables. A text that it lacks letters for is only measured here.
-Line layOutLine(const QRawFont& face, const QString& text, double spacing) {
-  const auto known = face.glyphIndexesForString(text);
-  if (known.contains(0)) {
-    Line line;
-    line.glyphs.setGlyphIndexes(known);
-    for (const QPointF& advance : face.advancesForGlyphIndexes(known)) line.width += advance.x() + spacing;
-    return line;
-  }
-  QTextLayout layout(text);
-  layout.setRawFont(face);
-  layout.beginLayout();
-  layout.createLine();
-  layout.endLayout();
-  Line line;
-  QList<quint32> indexes;
-  QList<QPointF> places;
-  for (const QGlyphRun& run : layout.glyphRuns()) {
-    const auto runPlaces = run.positions();
-    const auto runIndexes = run.glyphIndexes();
-    for (qsizetype i = 0; i < runIndexes.size(); ++i) {
-      indexes.append(runIndexes[i]);
-      places.append({runPlaces[i].x() + static_cast<double>(indexes.size() - 1) * spacing, 0});
-    }
-  }
-  line.width = layout.lineAt(0).naturalTextWidth() + static_cast<double>(std::max<qsizetype>(indexes.size() - 1, 0)) * spacing;
-  line.glyphs.setRawFont(face);
-  line.glyphs.setGlyphIndexes(indexes);
-  line.glyphs.setPositions(places);
-  return line;
-}
-
-/// Text that the face lacks letters for goes through the system's own fall-back.
-void systemLine(QPainter& painter, const QString& text, double x, double baseLine, double pixels, bool bold) {
-  QFont font(QStringLiteral("sans-serif"));
-  font.setPixelSize(std::max(1, static_cast<int>(pixels)));
-  font.setBold(bold);
-  painter.setFont(font);
-  painter.drawText(QPointF(x, baseLine), text);
-}
-
-/// Two lines at the most; what does not fit the second ends in dots.
-QStringList wrapped(const QRawFont& face, const QString& text, double width) {
-  const auto fits = [&](const QString& line) { return layOutLine(face, line, 0).width <= width; };
-  const QStringList words = text.split(QLatin1Char(' '));
-  QString first;
-  qsizetype word = 0;
-  for (; word < words.size(); ++word) {
-    const QString longer = word == 0 ? words[0] : first + QLatin1Char(' ') + words[word];
-    if (word > 0 && !fits(longer)) break;
-    first = longer;
-  }
-  if (word == words.size()) return {first};
-  QString second = words.mid(word).join(QLatin1Char(' '));
-  if (fits(second)) return {first, second};
-  // Halved towards the longest start that fits with its dots.
-  qsizetype kept = 0;
-  for (qsizetype step = second.size(); step > 0; step /= 2) {
-    while (kept + step <= second.size() && fits(second.left(kept + step) + QChar(0x2026))) kept += step;
-  }
-  return {first, second.left(kept) + QChar(0x2026)};
-}
+/// Lines of a wrapped text from the top of its place, in pixels of the face.
+constexpr double kFirstLine = .93;
+constexpr double kNextLine = 1.17;
+constexpr double kTightLine = 1.02;  ///< the least, where another line just fits
+constexpr double kBelow = .2;        ///< what reaches under the last base line
 
 }  // namespace
 
@@ -92,34 +29,34 @@ void letters(Art& art, const std::string& text, const QColor& colour, const Lett
 
 void letters(Art& art, const QRectF& rect, const forms::Font& font, const std::string& text, const QColor& colour, const Lettering& how) {
   if (text.empty()) return;
-  const double pixels = pixelsOf(art, font.points);
-  const QRawFont& face = art.fonts.face(font, pixels);
-  const QString whole = QString::fromStdString(text);
   const double f = art.factor;
   const double width = rect.width() * f;
-  const QStringList lines = how.wrap ? wrapped(face, whole, width) : QStringList{whole};
+  const double height = rect.height() * f;
+  double pixels = pixelsOf(art, font.points);
+  // A face too large for its place is set as large as it can be: half a line is none.
+  if (how.wrap) pixels = std::min(pixels, height / (kFirstLine + kBelow));
+  TextLines lines(art.fonts, font, pixels, how.spacing * f, QString::fromStdString(text));
+  // To the hundredth, so that one line that just fits is not lost to a rounding.
+  const double spare = height / pixels - kFirstLine - kBelow + .01;
+  if (how.wrap) lines.wrap(width, 1 + static_cast<int>(spare / kTightLine));
+  const double step = lines.count() > 1 ? std::min(kNextLine, spare / (lines.count() - 1)) : 0;
   QPainter& painter = art.painter;
   painter.save();
   painter.setWorldTransform(art.plain);
   painter.setPen(colour);
-  for (int i = 0; i < lines.size(); ++i) {
-    const Line line = layOutLine(face, lines[i], how.spacing * f);
+  for (int i = 0; i < lines.count(); ++i) {
     double x = rect.left() * f;
-    if (how.align == forms::Align::Center) x += (width - line.width) / 2;
-    if (how.align == forms::Align::Right) x += width - line.width;
+    if (how.align == forms::Align::Center) x += (width - lines.width(i)) / 2;
+    if (how.align == forms::Align::Right) x += width - lines.width(i);
     double baseLine = rect.top() * f + how.dy * f;
     if (how.wrap) {
-      baseLine += pixels * (.93 + 1.17 * i);
+      baseLine += pixels * (kFirstLine + step * i);
     } else if (how.bottom) {
       baseLine += (rect.height() - 1.6 * art.k) * f;
     } else {
-      baseLine += (rect.height() * f + pixels * capHeight(font)) / 2;
+      baseLine += (height + pixels * capHeight(font)) / 2;
     }
-    if (line.glyphs.glyphIndexes().contains(0) && font.family != "LcdD") {
-      systemLine(painter, lines[i], x, baseLine, pixels, font.bold);
-    } else {
-      painter.drawGlyphRun(QPointF(x, baseLine), line.glyphs);
-    }
+    lines.draw(painter, i, {x, baseLine});
   }
   painter.restore();
 }
@@ -135,8 +72,9 @@ void glowPiece(Art& art, const QRectF& rect, const forms::Font& font, const std:
   const auto quarters = static_cast<int>(std::lround(rect.left() * art.factor * 4));
   const int left = static_cast<int>(std::floor(quarters / 4.0));
   const double part = quarters / 4.0 - left;
-  const std::string key = font.family + (font.bold ? "b " : " ") + std::to_string(font.points) + ' ' + std::to_string(colour.rgb()) + ' ' +
-                          std::to_string(size.width()) + 'x' + std::to_string(size.height()) + '+' + std::to_string(quarters & 3) + ' ' +
+  const std::string key = font.family + (font.bold ? "b" : "") + (font.italic ? "i" : "") + (font.underline ? "u" : "") + ' ' +
+                          std::to_string(font.points) + ' ' + std::to_string(colour.rgb()) + ' ' + std::to_string(size.width()) + 'x' +
+                          std::to_string(size.height()) + '+' + std::to_string(quarters & 3) + ' ' +
                           std::to_string(static_cast<int>(how.align)) + (how.bottom ? "b" : "") + (how.wrap ? "w" : "") + text;
   const QImage* picture = art.glows.find(key);
   if (picture == nullptr) {
@@ -167,7 +105,7 @@ void glowPiece(Art& art, const QRectF& rect, const forms::Font& font, const std:
 void glow(Art& art, const QRectF& rect, const forms::Font& font, const std::string& text, const QColor& colour, const Lettering& how,
           double strength) {
   if (text.empty()) return;
-  if (text.find_first_not_of("0123456789:-%") != std::string::npos) {
+  if (how.wrap || text.find_first_not_of("0123456789:-%") != std::string::npos) {
     glowPiece(art, rect, font, text, colour, how, strength);
     return;
   }
@@ -191,7 +129,8 @@ void glow(Art& art, const QRectF& rect, const forms::Font& font, const std::stri
 void engraved(Art& art, const QRectF& rect, const forms::Font& font, const std::string& text, const QColor& colour, const Lettering& how) {
   Lettering below = how;
   below.dy += .7;
-  letters(art, rect, font, text, alpha(Qt::black, .7), below);
+  // Dark letters on a light ground catch the light on their lower edge.
+  letters(art, rect, font, text, brightness(colour) < .35 ? alpha(Qt::white, .35) : alpha(Qt::black, .7), below);
   letters(art, rect, font, text, colour, how);
 }
 

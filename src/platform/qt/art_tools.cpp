@@ -74,7 +74,7 @@ void blur(QImage& picture, double sigma) {
   for (int x = 0; x < picture.width(); ++x) pass(picture.bits() + qsizetype{x} * 4, picture.bytesPerLine(), picture.height());
 }
 
-bool ownPicture(Art& art) {
+bool ownPicture(Art& art, bool round) {
   const auto* image = dynamic_cast<const forms::Image*>(&art.control);
   if (image == nullptr || image->picture.get().empty()) return false;
   const std::string key = "file " + image->picture.get();
@@ -82,7 +82,17 @@ bool ownPicture(Art& art) {
   if (picture == nullptr) picture = &art.cache.keep(key, QImage(QString::fromStdString(image->picture)));
   if (picture->isNull()) return false;
   art.painter.setRenderHint(QPainter::SmoothPixmapTransform);
-  art.painter.drawImage(QRectF(0, 0, art.w, art.h), *picture);
+  const QRectF area(0, 0, art.w, art.h);
+  if (round) {
+    // As a brush, so that the rim is smooth; the corners of the file stay out of it.
+    QBrush brush(*picture);
+    brush.setTransform(QTransform::fromScale(art.w / picture->width(), art.h / picture->height()));
+    art.painter.setPen(Qt::NoPen);
+    art.painter.setBrush(brush);
+    art.painter.drawEllipse(area);
+  } else {
+    art.painter.drawImage(area, *picture);
+  }
   return true;
 }
 
@@ -149,12 +159,25 @@ void sign(QPainter& painter, const QPainterPath& path, QPointF centre, double k,
   }
 }
 
-void ejectSign(QPainter& painter, QPointF centre, double k) {
+QColor readable(const QColor& colour, const QColor& ground) {
+  constexpr double kLegible = 3;
+  const auto packed = [](const QColor& c) {
+    return static_cast<Colour>(c.red()) | static_cast<Colour>(c.green()) << 8U | static_cast<Colour>(c.blue()) << 16U;
+  };
+  for (double part = 0; part < 1; part += .1) {
+    const QColor shade = mix(colour, Qt::black, part);
+    if (contrast(packed(shade), packed(ground)) >= kLegible) return shade;
+  }
+  return brightness(ground) < .4 ? colour : QColor(Qt::black);
+}
+
+void ejectSign(QPainter& painter, QPointF centre, double k, const QColor& ground) {
   QPainterPath path;
   path.addPolygon(QPolygonF({{0, -4}, {5, 1.4}, {-5, 1.4}}));
   path.closeSubpath();
   path.addRect(-5, 2.8, 10, 1.7);
-  sign(painter, path, centre, k, {0, QColor(0xC8, 0xCD, 0xD2), alpha(Qt::black, .7), .7});
+  const QColor colour = readable(QColor(0xC8, 0xCD, 0xD2), ground);
+  sign(painter, path, centre, k, {0, colour, alpha(brightness(colour) < .35 ? Qt::white : Qt::black, .7), .7});
 }
 
 void symbol(QPainter& painter, Symbol which, QPointF centre, double k, const QColor& colour) {

@@ -42,8 +42,8 @@ void graphite(QPainter& painter, const QRectF& rect, double radius, bool pressed
 void soft(QPainter& painter, const QRectF& rect, double radius, const QColor& colour, double blur);
 /// Softens a picture, as much as `sigma` pixels.
 void blur(QImage& picture, double sigma);
-/// The user's picture over the control, when there is one that can be read.
-bool ownPicture(Art& art);
+/// The user's picture over the control, when there is one that can be read; a round key shows a round one.
+bool ownPicture(Art& art, bool round = false);
 /// A small lamp in its hole, lit or dark.
 void lamp(QPainter& painter, const QRectF& rect, const QColor& colour, bool lit, double radius);
 
@@ -52,7 +52,7 @@ struct Lettering {
   double spacing = 0;
   double dy = 0;        ///< down from its place
   bool bottom = false;  ///< on the bottom of the rectangle instead of its middle
-  bool wrap = false;    ///< up to two lines from the top
+  bool wrap = false;    ///< as many lines as the place has room for, from the top
 };
 /// `text` in the control's font, or `points` high, within the control's rectangle.
 void letters(Art& art, const std::string& text, const QColor& colour, const Lettering& how, double points = 0);
@@ -78,7 +78,9 @@ struct SignPen {
 };
 void sign(QPainter& painter, const QPainterPath& path, QPointF centre, double k, const SignPen& pen);
 /// Opens and shuts the tray.
-void ejectSign(QPainter& painter, QPointF centre, double k);
+void ejectSign(QPainter& painter, QPointF centre, double k, const QColor& ground);
+/// This colour, or as dark a shade of it as can be read on the ground.
+QColor readable(const QColor& colour, const QColor& ground);
 /// A symbol around (x, y), `k` times its design size, with its engraving.
 void symbol(QPainter& painter, Symbol symbol, QPointF centre, double k, const QColor& colour);
 

@@ -45,7 +45,8 @@ QConicalGradient spokes(QPointF centre) {
   return gradient;
 }
 
-void disc(QPainter& p, const TrayShape& shape) {
+/// The hollow that a disc lies in, and the disc.
+void disc(QPainter& p, const TrayShape& shape, bool there) {
   const auto ring = [&](double part, const QBrush& brush, const QPen& pen = Qt::NoPen) {
     p.setPen(pen);
     p.setBrush(brush);
@@ -60,6 +61,14 @@ void disc(QPainter& p, const TrayShape& shape) {
   p.translate(shape.disc);
   p.scale(shape.radius.width(), shape.radius.height());
   ring(1.06, QColor(8, 9, 10), QPen(alpha(QColor(0x5A, 0x60, 0x67), .55), .008));
+  if (!there) {
+    ring(1, blend({0, -1}, {0, 1}, {{0, QColor(0x0E, 0x10, 0x12)}, {1, QColor(0x22, 0x25, 0x29)}}));
+    ring(.97, Qt::NoBrush, QPen(alpha(Qt::white, .14), .01));
+    ring(.36, QColor(0x0C, 0x0D, 0x0F), QPen(alpha(Qt::white, .16), .01));
+    ring(.13, QColor(0x3A, 0x3F, 0x45), QPen(alpha(QColor(0xE8, 0xEC, 0xEF), .4), .01));
+    p.restore();
+    return;
+  }
   ring(1, spokes({0, 0}));
   ring(1, blend({0, -1}, {0, 1}, {{0, alpha(Qt::black, .45)}, {.45, alpha(Qt::black, .05)}, {1, alpha(Qt::white, .12)}}));
   for (const double part : {.97, .8, .62}) ring(part, Qt::NoBrush, QPen(alpha(Qt::white, .16), .008));
@@ -89,7 +98,8 @@ void paintTray(Art& art, bool half) {
   p.setBrush(blend({0, shape.backTop}, {0, shape.front.top()},
                    {{0, QColor(6, 7, 8)}, {.35, QColor(0x15, 0x18, 0x1B)}, {1, QColor(0x2C, 0x30, 0x35)}}));
   p.drawPath(bed);
-  disc(p, shape);
+  const auto* tray = dynamic_cast<const forms::Panel*>(&art.control);
+  disc(p, shape, tray == nullptr || !tray->empty);
   // Darkness of the recess over the tray's back.
   p.save();
   p.setClipPath(bed);
@@ -110,10 +120,11 @@ void paintTray(Art& art, bool half) {
   fill(p, cut,
        blend(cut.topLeft(), cut.bottomLeft(), {{0, QColor(5, 6, 7)}, {.6, QColor(0x17, 0x19, 0x1C)}, {1, QColor(0x2A, 0x2D, 0x31)}}), 1.5);
   fill(p, QRectF(cut.left() + 1, cut.bottom() + .2, cut.width() - 2, .6), alpha(Qt::white, .28));
-  ejectSign(p, {front.right() - 16, front.top() + 11}, 1);
+  ejectSign(p, {front.right() - 16, front.top() + 11}, 1, base);
   p.restore();
   const QRectF legend((front.left() + 14) * art.k - art.windowX, (front.top() + 5) * art.k - art.windowY, 160 * art.k, 12 * art.k);
-  engraved(art, legend, {"Small Fonts", 7.5, true}, "COMPACT DISC", QColor(0xB9, 0xBE, 0xC4), {forms::Align::Left, 2.2 * art.k});
+  engraved(art, legend, {"Small Fonts", 7.5, true}, "COMPACT DISC", readable(QColor(0xB9, 0xBE, 0xC4), base),
+           {forms::Align::Left, 2.2 * art.k});
 }
 
 }  // namespace orvanta

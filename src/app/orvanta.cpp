@@ -22,7 +22,7 @@ Orvanta::Orvanta(Ports& ports)
       sounds_(ports, state),
       mixer_(ports, form, state),
       volume_(ports, layout_, mixer_, sounds_, form, state),
-      colours_(ports.files, ports.screen, layout_, form, state),
+      colours_(ports, layout_, form, state),
       records_(ports.files, state.disc, state.settings),
       genres_(ports.files, ports.dialogs, state),
       html_(ports, editor, state),

@@ -47,7 +47,9 @@ class Orvanta : private PlaybackUpward, private LibraryUpward {
   void exitProgram() override { exit_.exitProgram(); }
   void closeDrawer() override { drawer_.closedrawer(); }
   void showNoDisc() override { colours_.disabledLook(); }
-  void restartForDisc() override { restart_.forDisc(); }
+  void restartForDisc() override {
+    restart_.forDisc([this] { drawer_.follow(); });
+  }
   void runSetup() override;
   void record() override;
   void runMixer() override { sounds_.runMixer(); }

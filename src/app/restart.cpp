@@ -13,7 +13,7 @@
 
 namespace orvanta {
 
-void Restart::forDisc() {
+void Restart::forDisc(const std::function<void()>& meanwhile) {
   const std::string& folder = state_.settings.appDir;
   const std::string handOver = joinPath(folder, kHandOverMarker);
   volume_.releaseMute();
@@ -26,6 +26,7 @@ void Restart::forDisc() {
   const Processes::Id started = ports_.processes.start(request);
   while (started != 0 && ports_.files.exists(handOver)) {
     if (!ports_.processes.running(started)) return;
+    if (meanwhile) meanwhile();
     ports_.clock.delaySeconds(0.02);
   }
   // No unload: the marker of the running player is the new one's by now.

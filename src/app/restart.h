@@ -1,6 +1,8 @@
 // The change to a new process: for another disc, and for the setup program's answers.
 #pragma once
 
+#include <functional>
+
 #include "faceplate/volume.h"
 #include "platform/ports/ports.h"
 #include "state/shared_state.h"
@@ -13,7 +15,8 @@ class Restart {
 
   /// Saves, starts a new process and ends this one once the new one has taken the hand-over file
   /// away. Comes back when the new one died before that, or cannot be started.
-  void forDisc();
+  /// `meanwhile` is called again and again while it waits.
+  void forDisc(const std::function<void()>& meanwhile = {});
 
  private:
   Ports& ports_;

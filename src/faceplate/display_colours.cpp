@@ -3,8 +3,11 @@
 
 #include <algorithm>
 
+#include "base/colour.h"
 #include "base/text.h"
 #include "faceplate/layout.h"
+#include "platform/forms/design.h"
+#include "platform/ports/disc_tray.h"
 #include "platform/ports/files.h"
 #include "platform/ports/screen.h"
 
@@ -19,9 +22,25 @@ constexpr Colour kDarkYellow = 0x004040;
 constexpr Colour kSpareCell = 0x2F2F2F;
 constexpr Colour kDarkCell = 0x4F4F4F;
 constexpr Colour kModelOnPicture = 0xCAC1AC;
+constexpr Colour kMetal = 0x332E2B;  ///< the window's own
 
 void fore(std::initializer_list<forms::Label*> labels, Colour colour) {
   for (auto* label : labels) label->foreColor = colour;
+}
+
+void ownFore(std::initializer_list<forms::Control*> controls) {
+  for (auto* control : controls) control->foreColor = control->form().designRow(*control)->fore;
+}
+
+void ownBack(std::initializer_list<forms::Control*> controls) {
+  for (auto* control : controls) control->backColor = control->form().designRow(*control)->back;
+}
+
+/// A legend has the colour of its design, and black on a ground that this one cannot be read on.
+void legend(forms::Control& label, Colour ground) {
+  constexpr double kLegible = 3;
+  const Colour own = label.form().designRow(label)->fore;
+  label.foreColor = contrast(own, ground) < kLegible ? colours::kBlack : own;
 }
 
 }  // namespace
@@ -167,15 +186,26 @@ void DisplayColours::loadorvanta1b() {
     paint({&form_.Label1, &form_.Label2, &form_.Label3, &form_.Label4, &form_.Label5}, colour[1]);
     paint({&form_.Panel3D2, &form_.Panel3D6, &form_.Panel3D7, &form_.Panel3D8}, colour[2]);
     paint({&form_.Panel3D3, &form_.SSPanel1}, colour[3]);
+  } else if (enough) {
+    form_.backColor = kMetal;
+    ownBack({&form_.Label1, &form_.Label2, &form_.Label3, &form_.Label4, &form_.Label5, &form_.Panel3D6, &form_.Panel3D7, &form_.Panel3D8,
+             &form_.Panel3D3, &form_.SSPanel1});
+    if (form_.Panel3D2.bevelInner != 1) ownBack({&form_.Panel3D2});
   }
   if (state_.settings.lcdCustom != 1 && colour[4] != state_.settings.lcdFore) form_.CDStatusBar.floodColor = colour[4];
   paintLevelBars(form_, state_.settings);
   if (colour[9] != 0) fore({&form_.Label7, &form_.Label9, &form_.Label11}, colour[9]);
   if (colour[10] != 0) fore({&form_.Label8, &form_.Label10}, colour[10]);
-  // A legend in the colour of its ground could not be read.
-  if (form_.Label1.foreColor.get() == form_.Label1.backColor.get()) {
-    fore({&form_.Label1, &form_.Label2, &form_.Label3, &form_.Label4, &form_.Label5, &form_.Label15}, colours::kBlack);
-  }
+  legends();
+}
+
+void DisplayColours::legends() {
+  const bool picture = !form_.Image8.picture.get().empty();
+  for (auto* label : {&form_.Label1, &form_.Label2, &form_.Label3, &form_.Label4, &form_.Label5, &form_.Label15, &form_.Label27})
+    legend(*label, form_.backColor);
+  if (!picture) legend(form_.Label41, form_.backColor);
+  for (auto& label : form_.Label78) legend(label, form_.SSPanel1.backColor);
+  for (auto& label : form_.Label77) legend(label, form_.Panel3D6.backColor);
 }
 
 void DisplayColours::customDisplay() {
@@ -204,6 +234,9 @@ void DisplayColours::plainDisplay() {
     panel->bevelInner = 2;
     panel->backColor = colours::kBlack;
   }
+  // The user's colours may have been here before.
+  ownFore({&form_.Label12, &form_.Label13, &form_.Label32, &form_.Label33, &form_.Line1, &form_.Line8, &form_.Line10, &form_.Line11,
+           &form_.Line12});
   fore({&form_.Label16, &form_.Label30}, kDarkYellow);
   fore({&form_.Label14, &form_.Label6, &form_.Label8, &form_.Label43, &form_.Label10, &form_.Label23}, kGreen);
   fore({&form_.Label9, &form_.Label7, &form_.Label11}, kCyan);
@@ -236,7 +269,7 @@ void DisplayColours::disabledLook() {
   fore({&form_.Label24, &form_.Label17, &form_.Label35, &form_.Label44, &form_.Label19, &form_.Label20, &form_.Label25, &form_.Label38,
         &form_.Label39, &form_.Label40},
        colours::kGrey);
-  for (size_t key = 1; key < 20; ++key) form_.Label34[key].foreColor = colours::kGrey;
+  for (auto& number : form_.Label34) number.foreColor = colours::kGrey;
   form_.Label35.enabled = false;
   form_.Image16[4].enabled = false;
   for (size_t key = 1; key <= 3; ++key) form_.Image10[key].enabled = false;
@@ -245,8 +278,8 @@ void DisplayColours::disabledLook() {
   form_.Label43.foreColor = state_.settings.lcdColor[kLcdDim];
   form_.Label10.caption = "00:00";
   form_.Label12.caption = "Please insert an Audio CD or Enh-CD into the drive...";
-  form_.Label13.caption = "";
-  form_.icntlb[Play].visible = true;
+  form_.Label13.caption = tray_.takesImages() ? "click the tray or drop a disc image" : "";
+  for (auto& mask : form_.icntlb) mask.visible = true;
 }
 
 }  // namespace orvanta

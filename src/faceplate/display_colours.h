@@ -1,11 +1,13 @@
 // Colours of the faceplate's display and grid.
 #pragma once
 
+#include "platform/ports/ports.h"
 #include "state/shared_state.h"
 #include "windows/cdform.h"
 
 namespace orvanta {
 
+class DiscTray;
 class Files;
 class Layout;
 class Screen;
@@ -15,8 +17,8 @@ void paintLevelBars(CDForm& form, const Settings& settings);
 
 class DisplayColours {
  public:
-  DisplayColours(Files& files, Screen& screen, Layout& layout, CDForm& form, SharedState& state)
-      : files_(files), screen_(screen), layout_(layout), form_(form), state_(state) {}
+  DisplayColours(Ports& ports, Layout& layout, CDForm& form, SharedState& state)
+      : files_(ports.files), screen_(ports.screen), tray_(ports.tray), layout_(layout), form_(form), state_(state) {}
 
   /// Fonts, all display colours and the background picture, at the faceplate's load and after a visit to
   /// the setup program.
@@ -36,10 +38,12 @@ class DisplayColours {
   void spareLamps();
   void titleFonts();
   void background();
+  void legends();
   void pictures();
 
   Files& files_;
   Screen& screen_;
+  DiscTray& tray_;
   Layout& layout_;
   CDForm& form_;
   SharedState& state_;

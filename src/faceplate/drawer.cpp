@@ -1,6 +1,8 @@
 // Opening the door. Panel3D7 at its open place is what says that it stands open.
 #include "faceplate/drawer.h"
 
+#include <algorithm>
+
 #include "base/text.h"
 #include "faceplate/interface_sounds.h"
 #include "platform/ports/clock.h"
@@ -14,7 +16,8 @@ namespace orvanta {
 
 namespace {
 
-constexpr double kFrame = 0.11;  ///< seconds between two frames
+constexpr int kFrame = 110;  ///< milliseconds between two frames
+constexpr int kFrames = 3;
 constexpr int kBevelWidth = 3;
 
 struct Spot {
@@ -54,19 +57,24 @@ Drawer::Drawer(Ports& ports, Engine& engine, InterfaceSounds& sounds, CDForm& fo
       sounds_(sounds),
       form_(form),
       state_(state),
-      upward_(upward) {}
+      upward_(upward),
+      timer_(ports.clock.makeTimer([this] { follow(); })) {}
+
+Drawer::~Drawer() = default;
 
 bool Drawer::isOpen() const { return form_.Panel3D7.top == kOpenMain.top; }
 
 bool Drawer::slides() const { return state_.settings.smallFaceplate == 0 && state_.settings.expandedDisplay == 0; }
 
 void Drawer::opendrawer() {
-  if (isOpen()) return;
+  if (motion_ == Motion::Opening || (isOpen() && motion_ == Motion::None)) return;
   if (form_.Panel3D6.visible) sounds_.play(Sound::OpenDrawer);
   for (const size_t key : {0U, 3U}) form_.scntlb[key].visible = false;
   for (auto& mask : form_.icntlb) mask.visible = false;
   for (const size_t key : {Play, Pause, Stop}) form_.icntlc[key].visible = false;
-  if (slides()) openFrames();
+  // A deck that found no disc has nothing lying in its tray.
+  for (auto* panel : {&form_.Panel3D8, &form_.Panel3D7, &form_.Panel3D9, &form_.Panel3D10}) panel->empty = state_.disc.noDiscState > 0;
+  start(Motion::Opening);
   maskKeys();
   greyLegends();
   form_.Image11.enabled = false;
@@ -80,24 +88,61 @@ void Drawer::opendrawer() {
   }
 }
 
-void Drawer::openFrames() {
-  clock_.delaySeconds(kFrame);
-  form_.Line7.visible = false;
-  place(form_.Panel3D6, kDoorFrame);
-  form_.Panel3D2.backColor = colours::kBlack;
-  bevels(form_.Panel3D2, 1);
-  form_.Panel3D2.refresh();
-  clock_.delaySeconds(kFrame);
-  for (size_t i = 0; i < 2; ++i) form_.Image77[i].visible = form_.Label77[i].visible = false;
-  form_.Panel3D6.visible = false;
-  place(form_.Panel3D8, kTrayFrame);
+void Drawer::start(Motion motion) {
+  motion_ = motion;
+  since_ = clock_.milliseconds();
+  shown_ = 0;
+  timer_->setInterval(kFrame);
+  follow();
+}
+
+void Drawer::follow() {
+  if (motion_ == Motion::None) return;
+  // Without the door in sight nothing slides; the layout that shows it finds it as it stands.
+  const auto due = slides() ? static_cast<int>((clock_.milliseconds() - since_) / kFrame) : kFrames;
+  while (shown_ < std::min(due, kFrames)) {
+    ++shown_;
+    if (motion_ == Motion::Opening) {
+      openFrame(shown_);
+    } else {
+      closeFrame(shown_);
+    }
+  }
+  if (shown_ < kFrames) return;
+  motion_ = Motion::None;
+  timer_->setInterval(0);
+}
+
+void Drawer::openFrame(int frame) {
+  if (frame == kFrames) {
+    standOpen();
+    return;
+  }
+  if (!slides()) return;
+  if (frame == 1) {
+    form_.Line7.visible = false;
+    place(form_.Panel3D6, kDoorFrame);
+    form_.Panel3D2.backColor = colours::kBlack;
+    bevels(form_.Panel3D2, 1);
+  } else {
+    for (size_t i = 0; i < 2; ++i) form_.Image77[i].visible = form_.Label77[i].visible = false;
+    form_.Panel3D6.visible = false;
+    place(form_.Panel3D8, kTrayFrame);
+  }
   form_.Panel3D2.refresh();
   form_.Label1.refresh();
-  clock_.delaySeconds(kFrame);
-  form_.Panel3D8.visible = false;
-  place(form_.Panel3D7, kOpenMain);
-  place(form_.Panel3D9, kOpenRight);
-  place(form_.Panel3D10, {form_.Panel3D10.left, kOpenTrayLowerTop});
+}
+
+void Drawer::standOpen() {
+  form_.Line7.visible = false;
+  for (size_t i = 0; i < 2; ++i) form_.Image77[i].visible = form_.Label77[i].visible = false;
+  form_.Panel3D2.backColor = colours::kBlack;
+  bevels(form_.Panel3D2, 1);
+  form_.Panel3D6.visible = form_.Panel3D8.visible = false;
+  form_.Panel3D7.move(kOpenMain.left, kOpenMain.top);
+  form_.Panel3D9.move(kOpenRight.left, kOpenRight.top);
+  form_.Panel3D10.top = kOpenTrayLowerTop;
+  for (auto* slice : {&form_.Panel3D7, &form_.Panel3D9, &form_.Panel3D10}) slice->visible = slides();
   form_.Panel3D1.refresh();
   form_.Panel3D2.refresh();
   form_.Label1.refresh();
@@ -106,22 +151,27 @@ void Drawer::openFrames() {
 void Drawer::closedrawer() {
   if (!slides()) return;
   screen_.setPointer(Pointer::Hourglass);
-  clock_.delaySeconds(kFrame);
-  for (auto* slice : {&form_.Panel3D7, &form_.Panel3D9, &form_.Panel3D10}) slice->visible = false;
-  form_.Panel3D7.top = kParkedMain;
-  form_.Panel3D9.top = kParkedRight;
-  form_.Panel3D10.top = kParkedLower;
-  place(form_.Panel3D8, kTrayFrame);
-  clock_.delaySeconds(kFrame);
-  form_.Panel3D8.move(kTrayClosed.left, kTrayClosed.top);
-  place(form_.Panel3D6, kDoorFrame);
-  clock_.delaySeconds(kFrame);
-  form_.Panel3D6.move(kDoorClosed.left, kDoorClosed.top);
-  for (size_t i = 0; i < 2; ++i) form_.Image77[i].visible = form_.Label77[i].visible = true;
-  form_.Line7.visible = true;
-  form_.Panel3D2.backColor = state_.settings.customColor[2] != 0 ? state_.settings.customColor[2] : 0x3D3733;
-  bevels(form_.Panel3D2, 2);
-  form_.Panel3D2.refresh();
+  start(Motion::Closing);
+}
+
+void Drawer::closeFrame(int frame) {
+  if (frame == 1) {
+    for (auto* slice : {&form_.Panel3D7, &form_.Panel3D9, &form_.Panel3D10}) slice->visible = false;
+    form_.Panel3D7.top = kParkedMain;
+    form_.Panel3D9.top = kParkedRight;
+    form_.Panel3D10.top = kParkedLower;
+    place(form_.Panel3D8, kTrayFrame);
+  } else if (frame == 2) {
+    form_.Panel3D8.move(kTrayClosed.left, kTrayClosed.top);
+    place(form_.Panel3D6, kDoorFrame);
+  } else {
+    form_.Panel3D6.move(kDoorClosed.left, kDoorClosed.top);
+    for (size_t i = 0; i < 2; ++i) form_.Image77[i].visible = form_.Label77[i].visible = true;
+    form_.Line7.visible = true;
+    form_.Panel3D2.backColor = state_.settings.customColor[2] != 0 ? state_.settings.customColor[2] : 0x3D3733;
+    bevels(form_.Panel3D2, 2);
+    form_.Panel3D2.refresh();
+  }
 }
 
 void Drawer::maskKeys() {
@@ -129,7 +179,7 @@ void Drawer::maskKeys() {
     form_.icntlc[key].visible = false;
     form_.icntlb[key].visible = true;
   }
-  for (size_t key = 1; key < 20; ++key) form_.Label34[key].foreColor = colours::kGrey;
+  for (auto& number : form_.Label34) number.foreColor = colours::kGrey;
   for (const size_t key : {0U, 3U}) {
     form_.scntlc[key].visible = false;
     if (state_.settings.smallFaceplate != kOn) form_.scntlb[key].visible = true;

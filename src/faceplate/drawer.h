@@ -1,6 +1,8 @@
 // The disc door: what stands open or shut, and the deck without a disc that goes with it.
 #pragma once
 
+#include <memory>
+
 #include "playback/engine.h"
 #include "state/shared_state.h"
 #include "windows/cdform.h"
@@ -12,6 +14,7 @@ class Files;
 class InterfaceSounds;
 class PlaybackUpward;
 class Screen;
+class Timer;
 
 /// Panel3D7 and Panel3D10 at these tops: the drawer stands open.
 constexpr int kOpenTrayTop = 600;
@@ -20,17 +23,26 @@ constexpr int kOpenTrayLowerTop = 1570;
 class Drawer {
  public:
   Drawer(Ports& ports, Engine& engine, InterfaceSounds& sounds, CDForm& form, SharedState& state, PlaybackUpward& upward);
+  ~Drawer();
 
-  /// Nothing when it stands open. With option 2 and a disc it ejects and ends the process.
+  /// Masks, marker and state at once; the door slides on by a timer. Nothing when it stands open or opens. With
+  /// option 2 and a disc it ejects and ends the process.
   void opendrawer();
 
   /// Leaves the hourglass: a new process follows. Nothing on the small or expanded faceplate.
   void closedrawer();
 
+  /// Shows the frames that are due by now, for one who waits without a timer.
+  void follow();
+
  private:
+  enum class Motion { None, Opening, Closing };
   bool isOpen() const;
   bool slides() const;
-  void openFrames();
+  void start(Motion motion);
+  void openFrame(int frame);
+  void closeFrame(int frame);
+  void standOpen();
   void maskKeys();
   void greyLegends();
 
@@ -43,6 +55,10 @@ class Drawer {
   SharedState& state_;
   PlaybackUpward& upward_;
   bool leaving_ = false;  ///< option 2 has been acted on
+  std::unique_ptr<Timer> timer_;
+  Motion motion_ = Motion::None;
+  int64_t since_ = 0;  ///< milliseconds of the clock at the motion's start
+  int shown_ = 0;      ///< frames of it
 };
 
 }  // namespace orvanta

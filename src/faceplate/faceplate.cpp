@@ -229,10 +229,12 @@ void Faceplate::released(const std::string& name, size_t index, const forms::Mou
     upward_.launchEnhancedDisc();
   } else if (name == "CDStatusBar") {
     on_.buttons.CDStatusBar_Click(mouse.x);
-  } else if (name == "Panel3D2") {
-    if (state_.disc.drawerOpen != kOn && state_.disc.noDiscState == 0) on_.engine.mmcontrol1_EjectClick();
-  } else if (name == "Panel3D7" || name == "Panel3D9" || name == "Panel3D10") {
-    askForDisc();
+  } else if (name == "Panel3D2" && !discWanted()) {
+    on_.engine.mmcontrol1_EjectClick();
+  } else if (name == "Panel3D2" || name == "Panel3D7" || name == "Panel3D9" || name == "Panel3D10" || name == "Label12" ||
+             name == "Label13") {
+    // The prompt stands for the tray, which the small and the expanded faceplate do not show.
+    if (discWanted()) askForDisc();
   } else if (name == "Image5" || name == "Image6") {
     upward_.exitProgram();
   }
@@ -264,13 +266,17 @@ void Faceplate::askForDisc() {
   if (chosen) tray_.offer(*chosen);
 }
 
+bool Faceplate::discWanted() const { return state_.disc.drawerOpen == kOn || state_.disc.noDiscState > 0; }
+
+bool Faceplate::takesFile(const std::string& path) const { return tray_.takesImages() && endsWithNoCase(path, ".cue"); }
+
 void Faceplate::fileDropped(const std::string& path) { tray_.offer(path); }
 
 bool Faceplate::keyDown(const forms::KeyPress& key) {
   // Held, the keys for the level go on; a toggle would flap.
   const bool level = key.code == forms::key::kF1 + 4 || key.code == forms::key::kF1 + 5;
   if (key.repeats && !level) return sliderKey(key);
-  if (key.code == 'J' && state_.disc.drawerOpen == kOn && !key.control && !key.alt) {
+  if (key.code == 'J' && discWanted() && !key.control && !key.alt) {
     askForDisc();
     return true;
   }

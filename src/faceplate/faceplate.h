@@ -46,6 +46,7 @@ class Faceplate : public forms::FormEvents {
   void doubleClick(forms::Control* control) override;
   void dragged() override;
   bool keyDown(const forms::KeyPress& key) override;
+  bool takesFile(const std::string& path) const override;
   void fileDropped(const std::string& path) override;
   void closeAsked() override;
 
@@ -59,6 +60,8 @@ class Faceplate : public forms::FormEvents {
   bool sliderKey(const forms::KeyPress& key);
   void playTrackOfCommandLine();
   void askForDisc();
+  /// The drawer is open, or nothing lies in it.
+  bool discWanted() const;
 
   CdDevice& device_;
   DiscTray& tray_;

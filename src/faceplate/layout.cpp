@@ -145,6 +145,10 @@ void Layout::fpsm1() {
   if (form_.width < kIsSmall) return;
   if (drawerOpen()) form_.Panel3D7.visible = form_.Panel3D9.visible = form_.Panel3D10.visible = false;
   placeDisplay(Display::Small);
+  // An entry that is out of sight would go on taking the keys.
+  form_.Text1.visible = false;
+  form_.Text1.caption = "";
+  form_.Image16[0].visible = form_.Label44.visible = true;
   if (state_.settings.lcdCustom != 1) form_.Line1.foreColor = form_.Line8.foreColor = colours::kBlack;
   showLargeParts(false);
   for (const size_t key : {0U, 3U}) form_.scntlb[key].visible = form_.scntlc[key].visible = false;

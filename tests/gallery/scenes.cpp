@@ -55,17 +55,12 @@ QImage stopped(Deck& deck) {
   return deck.picture();
 }
 
-/// The picture at the `pause`th pause of the drawer's opening; 0: open.
-std::function<QImage(Deck&)> drawerAt(int pause) {
-  return [pause](Deck& deck) {
-    QImage picture;
-    int pauses = 0;
-    deck.clock.onDelay = [&] {
-      if (++pauses == pause) picture = deck.picture();
-    };
+/// The picture of a frame of the drawer's opening; the third is the open tray.
+std::function<QImage(Deck&)> drawerAt(int frame) {
+  return [frame](Deck& deck) {
     deck.gate.enter([&] { deck.core.form.press(deck.core.form.Panel3D2); });
-    deck.clock.onDelay = nullptr;
-    return pause == 0 ? deck.picture() : picture;
+    deck.clock.advance(frame * 110 + 5);
+    return deck.picture();
   };
 }
 
@@ -134,9 +129,14 @@ const std::vector<Scene>& scenes() {
       {"sf0_large_playing", 12, {}, playing},
       {"sf0_small_playing", 12, small, playing},
       {"sf0_expanded_playing", 12, expanded, playing},
-      {"drawer_frame1", 15, {}, drawerAt(2)},
-      {"drawer_frame2", 15, {}, drawerAt(3)},
-      {"drawer_open", 15, {}, drawerAt(0)},
+      {"drawer_frame1", 15, {}, drawerAt(1)},
+      {"drawer_frame2", 15, {}, drawerAt(2)},
+      {"drawer_open", 15, {}, drawerAt(3)},
+      {"no_disc", 15, [](Deck& deck) { deck.player.insert({}, ""); },
+       [](Deck& deck) {
+         deck.clock.advance(5000);
+         return deck.picture();
+       }},
       {"muted",
        15,
        {},

@@ -198,6 +198,7 @@ TEST(Tray, AClickOnTheOpenTrayAsksForAnImage) {
   rig.startWith(discA());
   rig.press(rig.form.Panel3D2);
   EXPECT_EQ(rig.state.disc.drawerOpen, kOn);
+  rig.clock.advance(400);
   rig.press(rig.form.Panel3D7);
   EXPECT_EQ(rig.dialogs.tape, Tape{"open Put a Disc in"});
   rig.clock.advance(3000);

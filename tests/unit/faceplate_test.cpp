@@ -1,6 +1,8 @@
 // Hands on the faceplate: what a press changes, the whole form held against itself before and after.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <functional>
 #include <sstream>
 
 #include "tests/support/core_rig.h"
@@ -150,6 +152,184 @@ TEST(Hands, TabBeginsAtPlayAndMeetsLiveKeysAlone) {
   EXPECT_EQ(std::count(open.begin(), open.end(), "Panel3D7"), 1);
   for (const char* dead : {"Panel3D2", "icntla(2)", "Image17(2)", "Image10(2)"})
     EXPECT_EQ(std::count(open.begin(), open.end(), dead), 0) << dead;
+}
+
+/// What of door and tray shows, and where.
+std::string door(const CDForm& form) {
+  std::string text;
+  for (const auto* panel : {&form.Panel3D6, &form.Panel3D8, &form.Panel3D7, &form.Panel3D9, &form.Panel3D10}) {
+    if (!panel->visible || !panel->insideForm()) continue;
+    text += panel->name() + (panel->empty ? " empty " : " ") + std::to_string(panel->left) + "," + std::to_string(panel->top) + "; ";
+  }
+  const bool recess = form.Panel3D2.bevelInner == 1 && form.Panel3D2.bevelOuter == 1;
+  const bool plate = form.Image77[0].visible && form.Image77[1].visible && form.Label77[0].visible && form.Label77[1].visible;
+  return text + (recess ? "recess" : "shut") + (plate ? " plate" : "") + (form.Line7.visible ? " groove" : "");
+}
+
+constexpr const char* kShut = "shut plate groove";
+constexpr const char* kOpen = "Panel3D7 1200,600; Panel3D9 4690,840; Panel3D10 1200,1570; recess";
+constexpr const char* kAwayOpen = "recess";
+
+TEST(Door, SlidesByATimerWhileTheDeckGoesOn) {
+  Hands rig;
+  EXPECT_EQ(door(rig.form), kShut);
+  const int64_t before = rig.clock.milliseconds();
+  rig.key('J');
+  EXPECT_EQ(rig.clock.milliseconds(), before) << "nothing waits";
+  EXPECT_EQ(rig.state.disc.drawerOpen, kOn);
+  EXPECT_TRUE(rig.files.exists("/data/ejcd.tmp"));
+  EXPECT_EQ(rig.sounds.tape.back(), "/data/system/opendraw.wav");
+  const size_t sounds = rig.sounds.tape.size();
+  for (const auto& mask : rig.form.icntlb) EXPECT_TRUE(mask.visible || mask.index() == Previous || mask.index() == Record);
+  for (const char* frame : {kShut, "Panel3D6 1320,480; recess plate", "Panel3D8 1260,540; recess", kOpen}) {
+    EXPECT_EQ(door(rig.form), frame);
+    rig.clock.advance(110);
+  }
+  // Once more while it is open: it asks for a disc instead.
+  rig.key('J');
+  EXPECT_EQ(rig.dialogs.tape, Tape{"open Put a Disc in"});
+  EXPECT_EQ(door(rig.form), kOpen);
+  EXPECT_EQ(rig.sounds.tape.size(), sounds);
+}
+
+TEST(Door, IsFoundAsItStandsByEveryLayout) {
+  // From which layout it was opened, and which keys lead back to the normal one.
+  for (const bool expanded : {false, true}) {
+    for (const int when : {0, 150, 400}) {
+      Hands rig;
+      CDForm& form = rig.form;
+      forms::Control& away = expanded ? static_cast<forms::Control&>(form.Image20[0]) : form.Image11;
+      forms::Control& back = expanded ? static_cast<forms::Control&>(form.Image20[0]) : form.Image13;
+      // Opened before the other layout, in the midst of it, or there.
+      if (when > 0) {
+        rig.key('J');
+        rig.clock.advance(when);
+        if (!expanded) form.Image11.enabled = true;
+        rig.press(away);
+      } else {
+        rig.press(away);
+        rig.key('J');
+      }
+      rig.clock.advance(400);
+      EXPECT_EQ(door(form), kAwayOpen) << expanded << ' ' << when;
+      // The prompt stands for the tray that does not show.
+      rig.press(form.Label12);
+      EXPECT_EQ(rig.dialogs.tape, Tape{"open Put a Disc in"});
+      rig.press(back);
+      EXPECT_EQ(door(form), kOpen) << expanded << ' ' << when;
+      rig.press(form.Panel3D7);
+      EXPECT_EQ(rig.dialogs.tape.size(), 2U) << "not dead";
+    }
+  }
+}
+
+TEST(NoDisc, IsSeenAtOnceAndTellsTheWayIn) {
+  CoreRig rig;
+  rig.install();
+  rig.start();
+  CDForm& form = rig.form;
+  const auto seen = [&] {
+    EXPECT_EQ(form.Label12.caption.get(), "Please insert an Audio CD or Enh-CD into the drive...");
+    EXPECT_EQ(form.Label13.caption.get(), "click the tray or drop a disc image");
+    EXPECT_EQ(form.Label8.caption.get(), "0");
+    EXPECT_EQ(form.Label10.caption.get(), "00:00");
+    for (const auto& face : form.icntla) EXPECT_FALSE(face.available()) << face.fullName();
+    for (const auto& number : form.Image17) EXPECT_FALSE(number.available()) << number.fullName();
+    for (const size_t key : {1U, 2U, 3U}) EXPECT_FALSE(form.Image10[key].available()) << key;
+    for (const auto& key : form.Image16) EXPECT_FALSE(key.available()) << key.fullName();
+  };
+  seen();
+  rig.clock.advance(5000);
+  seen();
+  EXPECT_EQ(door(form), "Panel3D7 empty 1200,600; Panel3D9 empty 4690,840; Panel3D10 empty 1200,1570; recess");
+  for (forms::Control* way : {static_cast<forms::Control*>(&form.Panel3D7), static_cast<forms::Control*>(&form.Label13)}) {
+    rig.dialogs.tape.clear();
+    rig.press(*way);
+    EXPECT_EQ(rig.dialogs.tape, Tape{"open Put a Disc in"}) << way->fullName();
+  }
+  // A disc that was in shows in the tray.
+  Hands with;
+  with.key('J');
+  with.clock.advance(400);
+  EXPECT_EQ(door(with.form), kOpen);
+}
+
+TEST(Entry, OutOfSightGivesTheKeysBack) {
+  Hands rig([](Hands& fresh) { fresh.auxVolume.reading.volume = 0xFFFFFFFF; });
+  rig.player.insert(discA());
+  rig.form.Label44.foreColor = colours::kBlack;
+  rig.press(rig.form.Image16[Above20]);
+  ASSERT_TRUE(rig.form.Text1.visible);
+  EXPECT_EQ(rig.form.activeControl(), &rig.form.Text1);
+  rig.press(rig.form.Image11);
+  EXPECT_FALSE(rig.form.Text1.visible);
+  rig.key('D');
+  EXPECT_EQ(rig.state.transport.playingFlag, kOn);
+  rig.press(rig.form.Image13);
+  EXPECT_TRUE(rig.form.Image16[Above20].visible && rig.form.Label44.visible);
+}
+
+/// The setup program is opened and writes these settings.
+void setUp(CoreRig& rig, const std::function<void(Settings&)>& change) {
+  Settings changed = rig.state.settings;
+  change(changed);
+  rig.processes.onStart = [&] {
+    for (const auto file : {SettingsFile::Orvwin1, SettingsFile::Orvwin3, SettingsFile::Orvwin4, SettingsFile::Orvwin7})
+      writeSettings(file, rig.files, "/data", changed);
+  };
+  rig.state.process.setupWanted = kOn;
+  rig.clock.advance(1200);
+  rig.processes.onStart = nullptr;
+}
+
+TEST(Colours, SwitchedOffInTheSetupLeaveNothingBehind) {
+  const auto wear = [](Settings& settings) {
+    settings.lcdCustom = 1;
+    settings.lcdFore = 0x000000;
+    settings.lcdBack = 0x29CF95;
+    settings.customColor = {1, 0xE0E0E0, 0xD0D0D0, 0xC0C0C0, 0x60D818, 0, 0, 0, 0, 0, 0};
+  };
+  Hands rig([&](Hands& fresh) { wear(fresh.settings); });
+  Hands plain;
+  const Settings own = plain.state.settings;
+  const auto takeOff = [&](Settings& settings) {
+    settings.lcdCustom = own.lcdCustom;
+    settings.lcdFore = own.lcdFore;
+    settings.lcdBack = own.lcdBack;
+    settings.customColor = own.customColor;
+  };
+  EXPECT_NE(rig.look(), plain.look());
+  setUp(rig, takeOff);
+  setUp(plain, takeOff);
+  EXPECT_EQ(changes(plain.look(), rig.look()), Tape{});
+  setUp(plain, wear);
+  setUp(rig, wear);
+  EXPECT_EQ(changes(plain.look(), rig.look()), Tape{});
+  EXPECT_EQ(rig.form.Label12.foreColor, Colour{0});
+}
+
+TEST(Colours, LegendsCanBeReadOnAnyGround) {
+  for (const Colour ground : {0x332E2BU, 0x000000U, 0xFFFFFFU, 0xE0E0E0U, 0x808080U, 0x0000FFU, 0x00FFFFU, 0xFF0000U, 0xE6E1DCU}) {
+    Hands rig([&](Hands& fresh) { fresh.settings.customColor = {1, ground, ground, ground, 0x60D818, 0, 0, 0, 0, 0, 0}; });
+    const CDForm& form = rig.form;
+    for (const forms::Control* legend :
+         std::initializer_list<const forms::Control*>{&form.Label1, &form.Label2, &form.Label3, &form.Label15, &form.Label41, &form.Label27,
+                                                      &form.Label78[0], &form.Label78[5], &form.Label77[0], &form.Label77[1]}) {
+      EXPECT_GE(contrast(legend->foreColor, ground), 3) << legend->fullName() << " on " << ground;
+    }
+  }
+  EXPECT_NEAR(contrast(colours::kBlack, colours::kWhite), 21, .1);
+  EXPECT_EQ(contrast(0x123456, 0x123456), 1);
+}
+
+TEST(Mixer, IsPreparedWhenTheSetupTurnsToIt) {
+  Hands rig;
+  EXPECT_EQ(rig.mixer.tape, Tape{});
+  setUp(rig, [](Settings& settings) { settings.soundMode = 4; });
+  EXPECT_EQ(std::count(rig.mixer.tape.begin(), rig.mixer.tape.end(), "{RIGHT 32}"), 1);
+  EXPECT_EQ(rig.form.PctL.caption.get(), "50");
+  setUp(rig, [](Settings& settings) { settings.soundMode = 4; });
+  EXPECT_EQ(std::count(rig.mixer.tape.begin(), rig.mixer.tape.end(), "{RIGHT 32}"), 1) << "once";
 }
 
 }  // namespace

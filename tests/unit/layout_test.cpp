@@ -131,6 +131,7 @@ TEST(Layout, TheOpenDrawerGoesWithTheDisplay) {
   CoreRig rig;
   rig.startWith(discA());
   rig.key('J');
+  rig.clock.advance(400);
   ASSERT_TRUE(rig.form.Panel3D7.visible);
   EXPECT_EQ(rig.sounds.tape.back(), "/data/system/opendraw.wav");
   rig.press(rig.form.Image20[0]);

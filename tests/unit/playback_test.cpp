@@ -204,6 +204,7 @@ TEST(Eject, ClearsTheDeckAndOpensTheTray) {
   EXPECT_EQ(deck.state.disc.trackCount, 0);
   EXPECT_EQ(deck.track() + deck.time(), "000:00");
   EXPECT_EQ(deck.form.SSPanel3.backColor, colours::kYellow);
+  deck.clock.advance(400);
   EXPECT_EQ(deck.form.Panel3D7.top, 600);
   EXPECT_TRUE(deck.files.exists("/data/ejcd.tmp"));
   EXPECT_FALSE(deck.files.exists("/data/audiocd.tmp"));

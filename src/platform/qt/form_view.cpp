@@ -40,6 +40,24 @@ bool takeCopy(QDropEvent& event) {
 
 }  // namespace
 
+// ---- Rim
+
+Rim::Rim(QWidget& window, double factor) : QWidget(&window), factor_(factor) {
+  setAttribute(Qt::WA_TransparentForMouseEvents);
+  setAttribute(Qt::WA_NoSystemBackground);
+  hide();
+}
+
+void Rim::paintEvent(QPaintEvent* /*event*/) {
+  constexpr int kDepth = 6;  // design pixels, fading inwards
+  QPainter painter(this);
+  for (int ring = 0; ring < kDepth; ++ring) {
+    painter.setPen(QPen(QColor(0xFF, 0xC2, 0x47, 235 - 200 * ring / kDepth), factor_));
+    const double in = (ring + .5) * factor_;
+    painter.drawRect(QRectF(rect()).adjusted(in, in, -in, -in));
+  }
+}
+
 // ---- FormWindow
 
 FormWindow::FormWindow(forms::Form& form, CoreGate& gate, Fonts& fonts, const Scale& scale)
@@ -54,6 +72,7 @@ FormWindow::FormWindow(forms::Form& form, CoreGate& gate, Fonts& fonts, const Sc
   QObject::connect(&dragEnd_, &QTimer::timeout, this, [this] { dragMayHaveEnded(); });
   useAccessibleControls();
   build();
+  rim_ = new Rim(*this, scale_.factor);
   placeWindow();
 }
 
@@ -242,11 +261,22 @@ void FormWindow::keyReleaseEvent(QKeyEvent* event) {
 
 bool FormWindow::focusNextPrevChild(bool /*next*/) { return false; }
 
-void FormWindow::dragEnterEvent(QDragEnterEvent* event) { dragMoveEvent(event); }
+void FormWindow::dragEnterEvent(QDragEnterEvent* event) {
+  dragMoveEvent(event);
+  if (!event->isAccepted()) return;
+  bool taken = false;
+  gate_.enter([&] { taken = form_.takesFile(event->mimeData()->urls().front().toLocalFile().toStdString()); });
+  rim_->setGeometry(rect());
+  rim_->raise();
+  rim_->setVisible(taken);
+}
+
+void FormWindow::dragLeaveEvent(QDragLeaveEvent* /*event*/) { rim_->hide(); }
 
 void FormWindow::dragMoveEvent(QDragMoveEvent* event) { takeCopy(*event); }
 
 void FormWindow::dropEvent(QDropEvent* event) {
+  rim_->hide();
   if (!takeCopy(*event)) return;
   const std::string path = event->mimeData()->urls().front().toLocalFile().toStdString();
   gate_.enter([&] { form_.fileDropped(path); });

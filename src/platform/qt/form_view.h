@@ -45,6 +45,18 @@ class ControlWidget : public QWidget {
   forms::Control& control_;
 };
 
+/// A rim of light around the whole window.
+class Rim : public QWidget {
+ public:
+  Rim(QWidget& window, double factor);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  double factor_;
+};
+
 class FormWindow : public QWidget, public forms::FormView {
  public:
   FormWindow(forms::Form& form, CoreGate& gate, Fonts& fonts, const Scale& scale);
@@ -86,6 +98,7 @@ class FormWindow : public QWidget, public forms::FormView {
   bool focusNextPrevChild(bool next) override;
   void dragEnterEvent(QDragEnterEvent* event) override;
   void dragMoveEvent(QDragMoveEvent* event) override;
+  void dragLeaveEvent(QDragLeaveEvent* event) override;
   void dropEvent(QDropEvent* event) override;
 
  private:
@@ -104,6 +117,7 @@ class FormWindow : public QWidget, public forms::FormView {
   ArtCache glows_{ArtCache::kGlows};
   Scale scale_;
   std::map<const forms::Control*, ControlWidget*> widgets_;
+  Rim* rim_ = nullptr;  ///< shown while a file that would be used hovers over the window
   std::map<const forms::Control*, std::vector<ControlWidget*>> followers_;  ///< whose partner a control is
   ControlWidget* focused_ = nullptr;
   int wheel_ = 0;  ///< of a notch, in Qt's eighths of a degree

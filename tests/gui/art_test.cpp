@@ -1,0 +1,164 @@
+// What the drawings owe the eye: whole letters, captions that can be read, a round key that stays round.
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QDropEvent>
+#include <QMimeData>
+#include <QTemporaryDir>
+#include <QUrl>
+#include <algorithm>
+
+#include "platform/qt/art_tools.h"
+#include "platform/qt/text_lines.h"
+#include "tests/gui/deck.h"
+
+namespace orvanta::test {
+namespace {
+
+TEST(TextLines, BreakAtBlanksAndKeepWithinTheirPlace) {
+  Fonts fonts;
+  const forms::Font font{"Roboto Condensed", 8.25};
+  constexpr double kPixels = 11;
+  const char* const texts[] = {
+      "",
+      "A",
+      "Short",
+      "The Winterlight Quartet - Harbour Lights and a good deal more than fits into any two lines of it",
+      "Donaudampfschifffahrtsgesellschaftskapitänsmützenabzeichen",
+      " leading",
+      "two  blanks",
+      "\xE6\x97\xA5\xE6\x9C\xAC\xE8\xAA\x9E\xE3\x81\xAE\xE9\x95\xB7\xE3\x81\x84\xE9\xA1\x8C\xE5\x90\x8D\xE3\x81\xA8 Latin",
+      "\xF0\x9F\x8E\xB5\xF0\x9F\x8E\xB5\xF0\x9F\x8E\xB5\xF0\x9F\x8E\xB5\xF0\x9F\x8E\xB5\xF0\x9F\x8E\xB5\xF0\x9F\x8E\xB5"};
+  for (const char* text : texts) {
+    for (const double width : {40.0, 153.0, 360.0}) {
+      for (const int most : {1, 2, 3}) {
+        TextLines lines(fonts, font, kPixels, 0, QString::fromUtf8(text));
+        const double whole = lines.width(0);
+        lines.wrap(width, most);
+        EXPECT_LE(lines.count(), most) << text;
+        for (int i = 0; i < lines.count(); ++i) EXPECT_LE(lines.width(i), width) << text << ' ' << i;
+        EXPECT_EQ(lines.count() == 1, whole <= width || most == 1) << text << ' ' << width;
+      }
+    }
+  }
+}
+
+/// Rows of a label that have ink on them, from its top, at that size of its font.
+std::vector<bool> inkRows(Deck& deck, const forms::Label& label) {
+  const QImage picture = deck.window->widgetOf(label)->grab().toImage();
+  const int bleed = deck.window->widgetOf(label)->bleed();
+  std::vector<bool> rows;
+  for (int y = 0; y < picture.height(); ++y) {
+    bool ink = false;
+    for (int x = 0; x < picture.width(); ++x) ink = ink || qGreen(picture.pixel(x, y)) > 200;
+    rows.push_back(ink);
+  }
+  EXPECT_GT(bleed, 0);
+  return rows;
+}
+
+TEST(Titles, ShowWholeLettersAtEverySizeOfFont) {
+  for (const double factor : {1.0, 1.5, 2.0}) {
+    for (const int twips : {15, 12}) {
+      Deck deck(factor, twips);
+      CDForm& form = deck.core.form;
+      for (const double points : {7.0, 8.25, 10.0, 12.0, 16.0, 24.0, 40.0}) {
+        for (forms::Label* label : {&form.Label12, &form.Label13}) {
+          label->foreColor = 0xFFFFFF;
+          label->font = forms::Font{"Roboto Condensed", points, false, false, false};
+          label->caption = "Hgjpqy Egjpqy Agjpqy Ngjpqy Wgjpqy Zgjpqy Xgjpqy";
+          const auto rows = inkRows(deck, *label);
+          // Below the tails of the last line there is room: they were not cut off at the label's edge.
+          const int bleed = deck.window->widgetOf(*label)->bleed();
+          const int inside = static_cast<int>(rows.size()) - bleed;
+          EXPECT_TRUE(std::any_of(rows.begin(), rows.end(), [](bool ink) { return ink; })) << points;
+          EXPECT_FALSE(std::any_of(rows.begin() + inside + 1, rows.end(), [](bool ink) { return ink; }))
+              << label->name() << ' ' << points << " at " << factor << ' ' << twips;
+        }
+      }
+    }
+  }
+}
+
+TEST(Titles, AreUnderlinedSlantedAndBoldAsSet) {
+  Deck deck;
+  CDForm& form = deck.core.form;
+  form.Label12.caption = "Nnnnnn";
+  form.Label12.foreColor = 0xFFFFFF;
+  const auto look = [&](bool bold, bool italic, bool underline) {
+    form.Label12.font = forms::Font{"Roboto Condensed", 10, bold, italic, underline};
+    return deck.window->widgetOf(form.Label12)->grab().toImage();
+  };
+  const QImage plain = look(false, false, false);
+  EXPECT_NE(look(true, false, false), plain);
+  const QImage underlined = look(false, false, true);
+  // One row that is lit from the first letter to the last.
+  const auto longest = [](const QImage& picture) {
+    int best = 0;
+    for (int y = 0; y < picture.height(); ++y) {
+      int run = 0;
+      for (int x = 0; x < picture.width(); ++x) {
+        run = qGreen(picture.pixel(x, y)) > 150 ? run + 1 : 0;
+        best = std::max(best, run);
+      }
+    }
+    return best;
+  };
+  EXPECT_LT(longest(plain), 12);
+  EXPECT_GT(longest(underlined), 30);
+  form.Label12.caption = "\xE6\x97\xA5\xE6\x9C\xAC nnn";
+  EXPECT_GT(longest(look(false, false, true)), 20) << "in the system's face too";
+}
+
+TEST(Captions, CanBeReadOnTheirKeys) {
+  const QColor aluminium(0x9B, 0xA1, 0xA8);
+  const auto packed = [](const QColor& c) { return static_cast<Colour>(c.red() | c.green() << 8 | c.blue() << 16); };
+  for (const Colour colour : {0x00FF00U, 0x00FFFFU, 0xFFFFFFU, 0x004040U, 0x000000U, 0x0000FFU}) {
+    EXPECT_GE(contrast(packed(readable(qColour(colour), aluminium)), packed(aluminium)), 3) << colour;
+  }
+  EXPECT_EQ(readable(qColour(0x004000), aluminium), qColour(0x004000)) << "dark enough as it is";
+  EXPECT_EQ(readable(QColor(0xC8, 0xCD, 0xD2), QColor(0x33, 0x37, 0x3D)), QColor(0xC8, 0xCD, 0xD2)) << "light on dark";
+}
+
+TEST(Skins, ARoundKeyStaysRound) {
+  const QTemporaryDir folder;
+  const QString path = folder.filePath(QStringLiteral("apower1.bmp"));
+  QImage square(120, 120, QImage::Format_RGB32);
+  square.fill(Qt::magenta);
+  ASSERT_TRUE(square.save(path));
+  Deck deck;
+  const QRect key = deck.inWindow(deck.core.form.Image5);
+  const QColor corner = deck.picture().pixelColor(key.topLeft());
+  deck.core.form.Image5.picture = path.toStdString();
+  const QImage skinned = deck.picture();
+  EXPECT_EQ(skinned.pixelColor(key.center()), QColor(Qt::magenta));
+  EXPECT_LT(std::abs(skinned.pixelColor(key.topLeft()).red() - corner.red()), 40) << "the metal shows at the corners";
+}
+
+TEST(Drops, LightTheDeckUpForWhatItTakes) {
+  Deck deck;
+  const QImage dark = deck.picture();
+  const auto hover = [&](const char* path) {
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(QString::fromUtf8(path))});
+    QDragEnterEvent enter({100, 100}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(deck.window, &enter);
+    EXPECT_TRUE(enter.isAccepted()) << "what is not taken is told when it is dropped";
+  };
+  const auto leave = [&] {
+    QDragLeaveEvent event;
+    QApplication::sendEvent(deck.window, &event);
+  };
+  hover("/music/Disc.CUE");
+  const QImage lit = deck.picture();
+  for (const QPoint& rim : {QPoint(300, 0), QPoint(0, 100), QPoint(lit.width() - 1, 100), QPoint(300, lit.height() - 1)})
+    EXPECT_GT(lit.pixelColor(rim).red(), 180);
+  EXPECT_EQ(lit.copy(20, 20, 500, 180), dark.copy(20, 20, 500, 180));
+  leave();
+  EXPECT_EQ(deck.picture(), dark);
+  hover("/music/disc.m3u");
+  EXPECT_EQ(deck.picture(), dark);
+}
+
+}  // namespace
+}  // namespace orvanta::test

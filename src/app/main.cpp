@@ -24,10 +24,11 @@
 #include "platform/linux/sound_choice.h"
 #include "platform/linux/stream_volume.h"
 #include "platform/linux/wave_player.h"
+#include "platform/qt/fonts.h"
 #include "platform/qt/form_view.h"
+#include "platform/qt/late_printer.h"
 #include "platform/qt/qt_clock.h"
 #include "platform/qt/qt_dialogs.h"
-#include "platform/qt/qt_printer.h"
 #include "platform/qt/qt_screen.h"
 
 namespace orvanta {
@@ -90,6 +91,7 @@ int run(int argc, char** argv) {
   if (real && !options.disc.empty()) player->offer(options.disc);
 
   prepareQt();
+  Fonts::warmUp();
   QApplication application(argc, argv);
   QApplication::setApplicationName(QStringLiteral("Orvanta LX"));
   QApplication::setQuitOnLastWindowClosed(false);
@@ -102,7 +104,7 @@ int run(int argc, char** argv) {
   QtDialogs dialogs(gate, screen);
   QtDesktop desktop(gate, scale);
   processes.setYield([&clock] { clock.yield(); });
-  QtPrinter printer(gate);
+  LatePrinter printer(gate);
   MciDevice device(*player, clock);
   DriveTray tray(*player, real ? "" : path);
   const std::string level = data.empty() ? "" : joinPath(data, "level.dat");

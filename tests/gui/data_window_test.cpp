@@ -4,6 +4,7 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QComboBox>
+#include <QDialog>
 #include <QDir>
 #include <QFile>
 #include <QLineEdit>
@@ -11,9 +12,11 @@
 #include <QProcess>
 #include <QRegularExpression>
 #include <QTest>
+#include <QTimer>
 #include <QTreeWidget>
 
 #include "platform/qt/data_window.h"
+#include "platform/qt/late_printer.h"
 #include "platform/qt/qt_printer.h"
 #include "platform/qt/row_list.h"
 #include "tests/gui/deck.h"
@@ -130,6 +133,20 @@ struct PdfPrinter : QtPrinter {
   bool ask() override { return begin(path_); }
   QString path_;
 };
+
+TEST(DataWindow, PrintingIsLoadedWhenAskedFor) {
+  CoreGate gate;
+  LatePrinter printer(gate);
+  QString title;
+  QTimer::singleShot(0, [&] {
+    if (auto* box = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
+      title = box->metaObject()->className();
+      box->reject();
+    }
+  });
+  EXPECT_FALSE(printer.ask());
+  EXPECT_EQ(title, "QPrintDialog") << "and not a box that the library is missing";
+}
 
 TEST(DataWindow, PrintsIntoAPdf) {
   Windows rig;

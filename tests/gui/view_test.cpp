@@ -5,6 +5,7 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QDropEvent>
+#include <QFocusEvent>
 #include <QImage>
 #include <QKeyEvent>
 #include <QMimeData>
@@ -292,6 +293,44 @@ TEST(View, LightStandsEvenlyAroundItsDigits) {
     EXPECT_GT(left, 0);
     EXPECT_NEAR(left, right, .25 * left) << static_cast<int>(align);
   }
+}
+
+/// Paints of a widget and all that lie in it.
+struct Paints : QObject {
+  explicit Paints(QWidget& window) {
+    window.installEventFilter(this);
+    for (QWidget* child : window.findChildren<QWidget*>()) child->installEventFilter(this);
+  }
+  bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+    count += event->type() == QEvent::Paint ? 1 : 0;
+    return false;
+  }
+  int count = 0;
+};
+
+TEST(View, FocusAndIdleTicksPaintNothing) {
+  Deck deck;
+  QTest::qWait(50);
+  Paints paints(*deck.window);
+  QFocusEvent lost(QEvent::FocusOut);
+  QCoreApplication::sendEvent(deck.window, &lost);
+  QFocusEvent got(QEvent::FocusIn);
+  QCoreApplication::sendEvent(deck.window, &got);
+  QTest::qWait(50);
+  EXPECT_EQ(paints.count, 0) << "the window's focus shows nowhere";
+  deck.clock.advance(10000);
+  QTest::qWait(50);
+  EXPECT_EQ(paints.count, 0) << "stopped, nothing changes";
+  deck.gate.enter([&] { deck.core.form.press(deck.core.form.icntla[Play]); });
+  deck.clock.advance(3000);
+  deck.gate.enter([&] { deck.core.form.press(deck.core.form.icntla[Pause]); });
+  deck.clock.advance(3000);
+  QTest::qWait(50);
+  EXPECT_GT(paints.count, 0);
+  paints.count = 0;
+  deck.clock.advance(10000);
+  QTest::qWait(50);
+  EXPECT_EQ(paints.count, 0) << "nor paused";
 }
 
 TEST(View, AFormParkedPastTheScreenIsNotMapped) {

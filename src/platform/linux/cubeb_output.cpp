@@ -2,10 +2,12 @@
 #include "platform/linux/cubeb_output.h"
 
 #include <cubeb/cubeb.h>
+#include <dlfcn.h>
 
 #include <algorithm>
 #include <atomic>
 #include <cstring>
+#include <type_traits>
 
 #include "platform/linux/clocked_output.h"
 #include "platform/linux/toc.h"
@@ -14,7 +16,37 @@ namespace orvanta {
 
 namespace {
 
-constexpr uint32_t kLatencyPairs = kSampleRate / 10;
+/// What lies at the sound server. It asks for more four times in this; at 0.1 s that was most of what playing cost.
+constexpr uint32_t kLatencyPairs = kSampleRate / 5;
+
+/// The library's calls. It is loaded with the first sound: a dozen others come with it, which a start has no use for.
+struct Cubeb {
+  decltype(&cubeb_init) init = nullptr;
+  decltype(&cubeb_destroy) destroy = nullptr;
+  decltype(&cubeb_stream_init) open = nullptr;
+  decltype(&cubeb_stream_destroy) close = nullptr;
+  decltype(&cubeb_stream_start) start = nullptr;
+  decltype(&cubeb_stream_stop) stop = nullptr;
+  decltype(&cubeb_stream_get_position) position = nullptr;
+  bool loaded = false;
+
+  Cubeb() {
+    void* library = dlopen("libcubeb.so.0", RTLD_NOW | RTLD_LOCAL);
+    if (library == nullptr) return;
+    const auto find = [&](auto& call, const char* name) {
+      call = reinterpret_cast<std::remove_reference_t<decltype(call)>>(dlsym(library, name));
+      return call != nullptr;
+    };
+    loaded = find(init, "cubeb_init") && find(destroy, "cubeb_destroy") && find(open, "cubeb_stream_init") &&
+             find(close, "cubeb_stream_destroy") && find(start, "cubeb_stream_start") && find(stop, "cubeb_stream_stop") &&
+             find(position, "cubeb_stream_get_position");
+  }
+};
+
+const Cubeb& library() {
+  static const Cubeb loaded;
+  return loaded;
+}
 
 class CubebOutput : public SoundOutput {
  public:
@@ -25,8 +57,8 @@ class CubebOutput : public SoundOutput {
     params.channels = 2;
     params.layout = CUBEB_LAYOUT_STEREO;
     params.prefs = CUBEB_STREAM_PREF_NONE;
-    if (cubeb_stream_init(context, &stream_, "Orvanta LX", nullptr, nullptr, nullptr, &params, kLatencyPairs, &CubebOutput::data,
-                          &CubebOutput::state, this) != CUBEB_OK) {
+    if (library().open(context, &stream_, "Orvanta LX", nullptr, nullptr, nullptr, &params, kLatencyPairs, &CubebOutput::data,
+                       &CubebOutput::state, this) != CUBEB_OK) {
       stream_ = nullptr;
     }
   }
@@ -34,19 +66,19 @@ class CubebOutput : public SoundOutput {
   CubebOutput& operator=(const CubebOutput&) = delete;
   ~CubebOutput() override {
     if (stream_ == nullptr) return;
-    cubeb_stream_stop(stream_);
-    cubeb_stream_destroy(stream_);
+    library().stop(stream_);
+    library().close(stream_);
   }
 
   bool made() const { return stream_ != nullptr; }
-  bool start() { return stream_ != nullptr && cubeb_stream_start(stream_) == CUBEB_OK; }
-  void pause() override { cubeb_stream_stop(stream_); }
-  void resume() override { cubeb_stream_start(stream_); }
+  bool start() { return stream_ != nullptr && library().start(stream_) == CUBEB_OK; }
+  void pause() override { library().stop(stream_); }
+  void resume() override { library().start(stream_); }
   bool failed() const override { return failed_; }
 
   uint64_t heard() const override {
     uint64_t position = 0;
-    if (drained_ || cubeb_stream_get_position(stream_, &position) != CUBEB_OK) return given_;
+    if (drained_ || library().position(stream_, &position) != CUBEB_OK) return given_;
     const uint64_t silence = silence_;
     return std::min<uint64_t>(position > silence ? position - silence : 0, given_);
   }
@@ -88,7 +120,7 @@ class CubebOutput : public SoundOutput {
 struct CubebOutputs::Context {
   cubeb* handle = nullptr;
   ~Context() {
-    if (handle != nullptr) cubeb_destroy(handle);
+    if (handle != nullptr) library().destroy(handle);
   }
 };
 
@@ -97,7 +129,7 @@ CubebOutputs::~CubebOutputs() = default;
 
 void CubebOutputs::connect() {
   context_ = std::make_unique<Context>();
-  if (cubeb_init(&context_->handle, "Orvanta LX", nullptr) != CUBEB_OK) context_->handle = nullptr;
+  if (!library().loaded || library().init(&context_->handle, "Orvanta LX", nullptr) != CUBEB_OK) context_->handle = nullptr;
 }
 
 std::unique_ptr<SoundOutput> CubebOutputs::make(SampleFeed& feed, bool afterFailure) {

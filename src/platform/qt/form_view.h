@@ -100,6 +100,9 @@ class FormWindow : public QWidget, public forms::FormView {
   void dragMoveEvent(QDragMoveEvent* event) override;
   void dragLeaveEvent(QDragLeaveEvent* event) override;
   void dropEvent(QDropEvent* event) override;
+  // Qt's would paint the whole window anew; the mark of focus follows focusMoved().
+  void focusInEvent(QFocusEvent* /*event*/) override {}
+  void focusOutEvent(QFocusEvent* /*event*/) override {}
 
  private:
   void build();

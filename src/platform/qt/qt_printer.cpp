@@ -80,3 +80,6 @@ void QtPrinter::endDocument() {
 }
 
 }  // namespace orvanta
+
+/// What LatePrinter looks for.
+extern "C" orvanta::Printer* orvantaPrinter(orvanta::CoreGate& gate) { return new orvanta::QtPrinter(gate); }

@@ -9,7 +9,8 @@
 namespace orvanta {
 
 TextLines::TextLines(Fonts& fonts, const forms::Font& font, double pixels, double spacing, const QString& text)
-    : face_(fonts.face(font, pixels)),
+    : fonts_(fonts),
+      face_(fonts.face(font, pixels)),
       system_(QStringLiteral("sans-serif")),
       underlined_(font.underline),
       pixels_(pixels),
@@ -23,7 +24,10 @@ TextLines::TextLines(Fonts& fonts, const forms::Font& font, double pixels, doubl
   system_.setItalic(font.italic);
 }
 
-QGlyphRun TextLines::shaped(const QString& text, double& width) const {
+/// The last line stays: it is asked for its width before it is drawn, and an engraved text is drawn twice.
+const GlyphLine& TextLines::shaped(const QString& text) const {
+  auto& last = fonts_.last;
+  if (last.text == text && last.spacing == spacing_ && last.face == face_) return last.line;
   QTextLayout layout(text);
   layout.setRawFont(face_);
   layout.beginLayout();
@@ -39,19 +43,18 @@ QGlyphRun TextLines::shaped(const QString& text, double& width) const {
       places.append({runPlaces[i].x() + static_cast<double>(indexes.size() - 1) * spacing_, 0});
     }
   }
-  width = layout.lineAt(0).naturalTextWidth() + static_cast<double>(std::max<qsizetype>(indexes.size() - 1, 0)) * spacing_;
+  const double width = layout.lineAt(0).naturalTextWidth() + static_cast<double>(std::max<qsizetype>(indexes.size() - 1, 0)) * spacing_;
   QGlyphRun glyphs;
   glyphs.setRawFont(face_);
   glyphs.setGlyphIndexes(indexes);
   glyphs.setPositions(places);
-  return glyphs;
+  last = {face_, text, spacing_, {glyphs, width}};
+  return last.line;
 }
 
 double TextLines::widthOf(const QString& text) const {
   if (!own_) return QFontMetricsF(system_).horizontalAdvance(text);
-  double width = 0;
-  shaped(text, width);
-  return width;
+  return shaped(text).width;
 }
 
 /// The longest start of a text that fits with `end` behind it, halved towards; one letter at the least.
@@ -81,17 +84,15 @@ void TextLines::wrap(double width, int most) {
 
 void TextLines::draw(QPainter& painter, int line, QPointF place) const {
   const QString& text = lines_[line];
-  double width = 0;
   if (own_) {
-    painter.drawGlyphRun(place, shaped(text, width));
+    painter.drawGlyphRun(place, shaped(text).glyphs);
   } else {
     painter.setFont(system_);
     painter.drawText(place, text);
-    width = widthOf(text);
   }
   if (!underlined_ || text.isEmpty()) return;
   const double thick = std::max(1.0, pixels_ / 14);
-  painter.fillRect(QRectF(place.x(), place.y() + pixels_ * .1, width, thick), painter.pen().color());
+  painter.fillRect(QRectF(place.x(), place.y() + pixels_ * .1, widthOf(text), thick), painter.pen().color());
 }
 
 }  // namespace orvanta

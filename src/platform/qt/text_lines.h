@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QFont>
-#include <QGlyphRun>
 #include <QRawFont>
 #include <QStringList>
 
@@ -29,8 +28,9 @@ class TextLines {
  private:
   double widthOf(const QString& text) const;
   qsizetype fitting(const QString& text, double width, const QString& end) const;
-  QGlyphRun shaped(const QString& text, double& width) const;
+  const GlyphLine& shaped(const QString& text) const;
 
+  Fonts& fonts_;
   QRawFont face_;
   QFont system_;
   bool own_ = true;  ///< the label's face has all the letters

@@ -47,6 +47,11 @@ bool Control::available() const {
 
 bool Control::on() const { return with(Role::Light) != nullptr && with(Role::Light)->visible; }
 
+void TextBox::selectAll() {
+  allSelected = false;
+  allSelected = true;
+}
+
 void Combo::setItems(std::vector<std::string> items) {
   items_ = std::move(items);
   propertyChanged(Change::Rows);

@@ -153,7 +153,9 @@ class TextBox : public Simple<Kind::TextBox> {
  public:
   using Simple::Simple;
   bool multiLine = false;
-  Property<bool> allSelected{*this, Change::Selection};  ///< set by program; the user's next edit ends it
+  /// By program, told to the view each time: a text set since the last one has ended it there.
+  void selectAll();
+  Property<bool> allSelected{*this, Change::Selection};  ///< the user's next edit ends it
 };
 
 /// A text with a list of proposals.
@@ -174,7 +176,8 @@ class Combo : public Simple<Kind::Combo> {
 class ListBox : public Simple<Kind::List> {
  public:
   using Simple::Simple;
-  bool multiSelect = false;
+  Property<bool> multiSelect{*this, Change::Look, false};
+  Property<int> markedRow{*this, Change::Look, -1};  ///< stands out from the others, as the track that plays; -1 for none
 
   int count() const { return static_cast<int>(rows_.size()); }
   const std::string& row(int index) const;

@@ -104,7 +104,10 @@ void applyGrid(Form& form, std::span<const GridRow> rows) {
     control->caption = row.caption;
     control->toolTip = row.toolTip;
     control->font = Font{};
-    if (auto* list = dynamic_cast<ListBox*>(control)) list->clear();
+    if (auto* list = dynamic_cast<ListBox*>(control)) {
+      list->clear();
+      list->markedRow = -1;
+    }
     if (auto* combo = dynamic_cast<Combo*>(control)) combo->clear();
     if (auto* box = dynamic_cast<TextBox*>(control)) box->allSelected = false;
   }

@@ -24,8 +24,7 @@ void name(QWidget& widget, const forms::Control& control) {
   if (!control.says.empty()) widget.setAccessibleName(toQt(control.says));
   widget.setAccessibleDescription(toQt(testNames() ? control.fullName() : control.toolTip.get()));
   widget.setObjectName(toQt(control.fullName()));
-  // Escaped: a tip is plain text, never taken for HTML.
-  widget.setToolTip(toQt(control.toolTip).toHtmlEscaped());
+  widget.setToolTip(plainTip(control.toolTip));
 }
 
 }  // namespace
@@ -101,7 +100,7 @@ QWidget* DataWindow::makeText(forms::TextBox& box, QWidget* parent) {
     auto* line = new QLineEdit(toQt(box.caption), parent);
     watch(line, box);
     if (has(box, "narrow")) line->setFixedWidth(static_cast<int>(60 * scale_.factor));
-    QObject::connect(line, &QLineEdit::textEdited, this, [this, &box](const QString& text) { userTyped(box, text); });
+    QObject::connect(line, &QLineEdit::textChanged, this, [this, &box](const QString& text) { userTyped(box, text); });
     return line;
   }
   auto* notes = new QPlainTextEdit(toQt(box.caption), parent);
@@ -116,6 +115,8 @@ QWidget* DataWindow::makeCombo(forms::Combo& combo, QWidget* parent) {
   auto* view = new QComboBox(parent);
   view->setEditable(true);
   view->setInsertPolicy(QComboBox::NoInsert);
+  // What is typed is what is meant, not an item that starts like it.
+  view->setCompleter(nullptr);
   view->setMinimumContentsLength(6);
   view->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   watch(view, combo);

@@ -12,6 +12,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QTimer>
+#include <algorithm>
 
 #include "platform/qt/data_style.h"
 #include "platform/qt/keys.h"
@@ -24,20 +25,42 @@ using forms::Change;
 
 namespace {
 
+constexpr int kTitleBar = 32;  ///< pixels that the window manager adds above, as a rule
+
 std::string fromQt(const QString& text) { return text.toStdString(); }
+
+QRect freeAreaAt(const QPoint& place) {
+  QScreen* screen = QGuiApplication::screenAt(place);
+  return (screen != nullptr ? screen : QGuiApplication::primaryScreen())->availableGeometry();
+}
+
+/// The deck's scale, or the largest at which the window fits the screen.
+Scale fitted(Scale scale, const forms::Form& form) {
+  const QRect free = freeAreaAt({scale.pixels(form.left), scale.pixels(form.top)});
+  const auto factor = [&](int pixels, int twips) { return static_cast<double>(pixels) * scale.twipsPerPixel / twips; };
+  scale.factor = std::min({scale.factor, factor(free.width(), form.width), factor(free.height() - kTitleBar, form.height)});
+  return scale;
+}
 
 }  // namespace
 
-DataWindow::DataWindow(forms::Form& form, CoreGate& gate, const Scale& scale) : form_(&form), gate_(gate), scale_(scale) {
+DataWindow::DataWindow(forms::Form& form, CoreGate& gate, const Scale& scale)
+    : form_(&form), gate_(gate), deckScale_(scale), scale_(fitted(scale, form)) {
   setAttribute(Qt::WA_QuitOnClose, false);
   setObjectName(toQt(form.name()));
   setWindowTitle(toQt(form.caption));
-  dress(*this, scale.factor);
+  dress(*this, scale_.factor);
   build();
-  resize(scale.pixels(form.width), scale.pixels(form.height));
+  resize(scale_.pixels(form.width), scale_.pixels(form.height));
 }
 
-void DataWindow::detach() { form_ = nullptr; }
+void DataWindow::detach() {
+  form_ = nullptr;
+  hide();
+  if (entered_ == 0) deleteLater();
+}
+
+QRect DataWindow::freeArea() const { return freeAreaAt({deckScale_.pixels(form_->left), deckScale_.pixels(form_->top)}); }
 
 QWidget* DataWindow::widgetOf(const forms::Control& control) const {
   const auto found = widgets_.find(&control);
@@ -55,7 +78,10 @@ void DataWindow::follow(forms::Control& control, Change change) {
     case Change::Geometry: showFrames(); break;
     case Change::Enabled: widget->setEnabled(control.enabled); break;
     case Change::Look:
-      if (auto* list = dynamic_cast<forms::ListBox*>(&control)) dressRows(*static_cast<QTreeWidget*>(widget), *list, scale_.factor);
+      if (auto* list = dynamic_cast<forms::ListBox*>(&control)) {
+        dressRows(*static_cast<QTreeWidget*>(widget), *list, scale_.factor);
+        markRow(*static_cast<QTreeWidget*>(widget), list->markedRow);
+      }
       break;
     case Change::Rows:
     case Change::Selection: break;
@@ -123,6 +149,7 @@ void DataWindow::showRows(forms::ListBox& list, QTreeWidget& view) {
   rows.reserve(static_cast<size_t>(list.count()));
   for (int row = 0; row < list.count(); ++row) rows.push_back(list.row(row));
   fillRows(view, rows);
+  markRow(view, list.markedRow);
 }
 
 void DataWindow::showSelection(forms::ListBox& list, QTreeWidget& view) {
@@ -150,18 +177,24 @@ void DataWindow::followFocus(forms::Control* control) {
   telling_ = true;
   // As by Tab: what stands in a field is selected, so that typing replaces it.
   widget->setFocus(Qt::TabFocusReason);
+  if (auto* line = dynamic_cast<QLineEdit*>(widget)) line->selectAll();
+  if (auto* combo = dynamic_cast<QComboBox*>(widget); combo != nullptr && combo->lineEdit() != nullptr) combo->lineEdit()->selectAll();
   telling_ = false;
 }
 
 // ---- the window
 
 bool DataWindow::onScreen() const {
-  return form_ != nullptr && scale_.pixels(form_->left) < QGuiApplication::primaryScreen()->geometry().right();
+  return form_ != nullptr && deckScale_.pixels(form_->left) < QGuiApplication::primaryScreen()->geometry().right();
 }
 
 void DataWindow::place() {
-  resize(scale_.pixels(form_->width), scale_.pixels(form_->height));
-  move(scale_.pixels(form_->left), scale_.pixels(form_->top));
+  const QRect free = freeArea();
+  const QSize size = QSize(scale_.pixels(form_->width), scale_.pixels(form_->height)).boundedTo(free.size() - QSize(0, kTitleBar));
+  resize(size);
+  const auto within = [](int at, int first, int last) { return std::max(first, std::min(at, last)); };
+  move(within(deckScale_.pixels(form_->left), free.left(), free.right() + 1 - size.width()),
+       within(deckScale_.pixels(form_->top), free.top(), free.bottom() + 1 - kTitleBar - size.height()));
 }
 
 void DataWindow::showWanted(bool wanted) {
@@ -173,6 +206,15 @@ void DataWindow::showWanted(bool wanted) {
 void DataWindow::closeEvent(QCloseEvent* event) {
   event->ignore();
   enter([&] { form_->closeAsked(); });
+}
+
+/// A press beside the controls, on the window's own ground.
+void DataWindow::mousePressEvent(QMouseEvent* event) {
+  if (event->button() == Qt::RightButton) enter([&] { form_->mouseDown(nullptr, {forms::MouseButton::Right}); });
+}
+
+void DataWindow::mouseReleaseEvent(QMouseEvent* event) {
+  if (event->button() == Qt::RightButton) enter([&] { form_->mouseUp({forms::MouseButton::Right}); });
 }
 
 void DataWindow::changeEvent(QEvent* event) {
@@ -241,8 +283,6 @@ bool DataWindow::eventFilter(QObject* watched, QEvent* event) {
 DataView::~DataView() {
   if (window_ == nullptr) return;
   window_->detach();
-  window_->hide();
-  window_->deleteLater();
 }
 
 void DataView::raise() {

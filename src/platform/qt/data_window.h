@@ -34,6 +34,8 @@ class DataWindow : public QWidget {
   bool eventFilter(QObject* watched, QEvent* event) override;
   void changeEvent(QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
 
  private:
   void build();
@@ -54,23 +56,29 @@ class DataWindow : public QWidget {
   void userTyped(forms::Control& control, const QString& text);
   void userSelected(forms::ListBox& list);
   bool mouse(forms::Control& control, QEvent* event);
-  /// Calls the core. The form may be gone when it comes back.
+  /// Calls the core. The form may be gone when it comes back; the window goes when the last such call has come back.
   template <class Work>
   void enter(const Work& work) {
-    if (form_ != nullptr && !telling_) gate_.enter(work);
+    if (form_ == nullptr || telling_) return;
+    ++entered_;
+    gate_.enter(work);
+    if (--entered_ == 0 && form_ == nullptr) deleteLater();
   }
+  QRect freeArea() const;
   /// The control's table has this hint for us.
   static bool has(const forms::Control& control, std::string_view hint) { return control.art.find(hint) != std::string::npos; }
   bool onScreen() const;
 
   forms::Form* form_;
   CoreGate& gate_;
-  Scale scale_;
+  Scale deckScale_;  ///< of places
+  Scale scale_;      ///< of sizes: as the deck's, as far as the window fits the screen
   std::map<const forms::Control*, QWidget*> widgets_;
   std::map<const QObject*, forms::Control*> controls_;  ///< of a widget and of its inner parts
   std::map<forms::ListBox*, bool> waiting_;             ///< lists whose rows are to be shown anew
   bool telling_ = false;                                ///< we change a widget: it is no user's doing
   bool wanted_ = false;
+  int entered_ = 0;
 };
 
 /// The form's side. It may go in the midst of one of the window's events, so the window outlives it for a moment.

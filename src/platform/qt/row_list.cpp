@@ -75,6 +75,20 @@ void fillRows(QTreeWidget& view, const std::vector<std::string>& rows) {
   }
 }
 
+void markRow(QTreeWidget& view, int row) {
+  const QColor amber(0xFF, 0xC8, 0x50);
+  for (int i = 0; i < view.topLevelItemCount(); ++i) {
+    QTreeWidgetItem& item = *view.topLevelItem(i);
+    for (int column = 0; column < kColumns; ++column) {
+      item.setData(column, Qt::ForegroundRole, i == row ? QVariant(QBrush(amber)) : QVariant());
+      QFont font = view.font();
+      font.setBold(true);
+      item.setData(column, Qt::FontRole, i == row ? QVariant(font) : QVariant());
+    }
+    item.setData(0, Qt::AccessibleDescriptionRole, i == row ? QVariant(QStringLiteral("plays")) : QVariant());
+  }
+}
+
 void dressRows(QTreeWidget& view, const forms::ListBox& list, double factor) {
   view.setSelectionMode(list.multiSelect ? QAbstractItemView::ExtendedSelection : QAbstractItemView::SingleSelection);
   const forms::Font& font = list.font;

@@ -25,6 +25,9 @@ class RowList : public QTreeWidget {
 
 void fillRows(QTreeWidget& view, const std::vector<std::string>& rows);
 
+/// One row stands out; -1 for none.
+void markRow(QTreeWidget& view, int row);
+
 /// Selection mode, font and colours of the control's.
 void dressRows(QTreeWidget& view, const forms::ListBox& list, double factor);
 

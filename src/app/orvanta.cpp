@@ -23,12 +23,11 @@ Orvanta::Orvanta(Ports& ports)
       mixer_(ports, form, state),
       volume_(ports, layout_, mixer_, sounds_, form, state),
       colours_(ports, layout_, form, state),
-      records_(ports.files, state.disc, state.settings),
       genres_(ports.files, ports.dialogs, state),
-      html_(ports, editor, state),
-      print_(ports, editor, state),
-      cdData_(ports, records_, genres_, html_, print_, editor, form, state, *this),
-      playlist_(ports, records_, engine_, modes_, display_, playlistForm, form, state),
+      html_(ports, editor, state.settings),
+      print_(ports, editor),
+      cdData_(ports, genres_, html_, print_, display_, editor, form, state, *this),
+      playlist_(ports, engine_, modes_, display_, playlistForm, form, state),
       info_(ports, engine_, modes_, infoForm, form, state, *this),
       drawer_(ports, engine_, sounds_, form, state, *this),
       exit_(ports, volume_, sounds_, form, state),
@@ -47,15 +46,16 @@ void Orvanta::showFaceplate() {
 }
 
 bool Orvanta::readCdRecord(const std::string& /*cdFilePath*/) {
-  records_.readCdRecord();
+  discFiles().readTexts(state.disc);
   // A record that knows fewer tracks than the drive takes the drive's count.
-  if (leadingNumber(state.disc.discInfo[2]) < state.disc.trackCount) state.disc.discInfo[2] = std::to_string(state.disc.trackCount);
+  if (leadingNumber(state.disc.discInfo[kTrackCount]) < state.disc.trackCount)
+    state.disc.discInfo[kTrackCount] = std::to_string(state.disc.trackCount);
   return true;
 }
 
-/// The editor takes the faceplate's place, and the track list's window goes.
+/// The track list's window makes room for the editor.
 void Orvanta::showCdData() {
-  if (!discIn()) return;
+  if (!discIn() && !cdData_.openForPerson()) return;
   info_.close();
   cdData_.openFromFaceplate();
 }
@@ -70,7 +70,21 @@ void Orvanta::showTrackList() {
 
 void Orvanta::closeDiscWindows() {
   info_.close();
-  editor.unload();
+  if (!cdData_.openForPerson()) editor.unload();
+}
+
+void Orvanta::exitProgram() {
+  if (cdData_.mayBeLost()) exit_.exitProgram();
+}
+
+void Orvanta::exitWhenFree() {
+  exitWanted_ = true;
+  everyTick();
+}
+
+void Orvanta::everyTick() {
+  cdData_.markPlaying();
+  if (exitWanted_ && !restartWaits()) exit_.exitProgram();
 }
 
 /// Without sliders the keys for the level open the mixer.
@@ -91,7 +105,7 @@ void Orvanta::volumeKey(bool up) {
 }
 
 void Orvanta::record() {
-  if (record_.ready()) record_.run();
+  if (record_.ready() && cdData_.mayBeLost()) record_.run();
 }
 
 void Orvanta::runSetup() {

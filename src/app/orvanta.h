@@ -13,14 +13,15 @@
 #include "faceplate/volume.h"
 #include "library/cd_data.h"
 #include "library/cd_info.h"
-#include "library/cd_records.h"
 #include "library/genres.h"
 #include "library/html_export.h"
 #include "library/playlist.h"
 #include "library/print_record.h"
 #include "library/upward.h"
+#include "platform/ports/dialogs.h"
 #include "platform/ports/ports.h"
 #include "playback/upward.h"
+#include "records/disc_files.h"
 
 namespace orvanta {
 
@@ -36,6 +37,9 @@ class Orvanta : private PlaybackUpward, private LibraryUpward {
   /// What fills and saves the disc's texts by program.
   CdData& cdData() { return cdData_; }
 
+  /// The session ends: what was typed is kept for the next one.
+  void keepDrafts() { cdData_.keepDraft(); }
+
   CDForm form;
   acdtabs editor;
   cdplist playlistForm;
@@ -44,7 +48,10 @@ class Orvanta : private PlaybackUpward, private LibraryUpward {
 
  private:
   void openDrawer() override { drawer_.opendrawer(); }
-  void exitProgram() override { exit_.exitProgram(); }
+  void exitProgram() override;
+  void exitWhenFree() override;
+  bool restartWaits() const override { return cdData_.openForPerson() || playlistForm.loaded() || ports_.dialogs.open(); }
+  void everyTick() override;
   void closeDrawer() override { drawer_.closedrawer(); }
   void showNoDisc() override { colours_.disabledLook(); }
   void restartForDisc() override {
@@ -57,8 +64,8 @@ class Orvanta : private PlaybackUpward, private LibraryUpward {
   void volumeKey(bool up) override;
   bool readCdRecord(const std::string& cdFilePath) override;
   void readUserCaptions() override { genres_.readUserCaptions(); }
-  int16_t readTimeCorrection() override { return records_.readTimeCorrection(); }
-  std::optional<std::vector<int>> readProgram() override { return records_.readProgram(); }
+  int16_t readTimeCorrection() override { return discFiles().timeCorrection(); }
+  std::optional<std::vector<int>> readProgram() override { return discFiles().program(); }
 
   void showCdData() override;
   void showPlaylist() override;
@@ -67,6 +74,7 @@ class Orvanta : private PlaybackUpward, private LibraryUpward {
   void closeDiscWindows() override;
   void hideFaceplate() override { form.hide(); }
 
+  DiscFiles discFiles() { return {ports_.files, state.disc.cdFilePath}; }
   bool discIn() const { return state.disc.noDiscState == 0 && state.disc.drawerOpen == kOff && state.disc.trackCount > 0; }
 
   // Windows and programs that are still to come aboard; their keys do nothing yet.
@@ -80,6 +88,7 @@ class Orvanta : private PlaybackUpward, private LibraryUpward {
   void automaticLookup() override {}
 
   Ports& ports_;
+  bool exitWanted_ = false;
   StartUp startUp_{ports_, state};
   Display display_{form, state};
   KeyLooks looks_;
@@ -95,7 +104,6 @@ class Orvanta : private PlaybackUpward, private LibraryUpward {
   MixerDriver mixer_;
   Volume volume_;
   DisplayColours colours_;
-  CdRecords records_;
   Genres genres_;
   HtmlExport html_;
   RecordPrint print_;

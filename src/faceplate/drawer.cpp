@@ -83,8 +83,9 @@ void Drawer::opendrawer() {
   if (state_.settings.appOptions[2] == 1 && state_.disc.discLoaded == kOn && !leaving_) {
     // Eject opens the drawer, and the open drawer ejects: once round is enough.
     leaving_ = true;
-    engine_.mmcontrol1_EjectClick();
-    upward_.exitProgram();
+    // While a window of the user's holds the exit, the eject that opened the drawer goes its way.
+    if (!upward_.restartWaits()) engine_.mmcontrol1_EjectClick();
+    upward_.exitWhenFree();
   }
 }
 

@@ -1,18 +1,21 @@
-// Opening, filling and closing the CD Data window, and its keys.
+// Opening, filling and closing the CD Data window.
 #include "library/cd_data.h"
+
+#include <algorithm>
+#include <utility>
 
 #include "base/text.h"
 #include "base/times.h"
 #include "library/cd_data_fields.h"
-#include "library/html_export.h"
 #include "library/list_text.h"
-#include "library/print_record.h"
+#include "library/placing.h"
 #include "library/upward.h"
-#include "platform/ports/dialogs.h"
+#include "platform/ports/cd_device.h"
 #include "platform/ports/files.h"
 #include "platform/ports/ports.h"
-#include "platform/ports/processes.h"
 #include "platform/ports/screen.h"
+#include "records/disc_files.h"
+#include "records/sheet.h"
 
 namespace orvanta {
 
@@ -20,9 +23,7 @@ namespace {
 
 constexpr int kOutOfSight = 100;  ///< twips past the screen's right edge
 constexpr int16_t kUnseen = 3;    ///< cddbMode of a save without a person
-constexpr int kMostToSubmit = 100;
 constexpr size_t kFileName = 11;  ///< of a disc's file, with its suffix
-constexpr int kClearedRows = 50;
 
 std::vector<std::string> ratings() {
   std::vector<std::string> all;
@@ -41,13 +42,13 @@ std::string enteredText(const std::optional<FileTime>& time) {
 
 }  // namespace
 
-CdData::CdData(Ports& ports, CdRecords& records, Genres& genres, HtmlExport& html, RecordPrint& print, acdtabs& form, CDForm& faceplate,
+CdData::CdData(Ports& ports, Genres& genres, HtmlExport& html, RecordPrint& print, Display& display, acdtabs& form, const CDForm& faceplate,
                SharedState& state, LibraryUpward& upward)
     : ports_(ports),
-      records_(records),
       genres_(genres),
       html_(html),
       print_(print),
+      display_(display),
       form_(form),
       faceplate_(faceplate),
       state_(state),
@@ -56,49 +57,64 @@ CdData::CdData(Ports& ports, CdRecords& records, Genres& genres, HtmlExport& htm
 }
 
 void CdData::openFromFaceplate() {
+  if (openForPerson()) {
+    form_.show(ports_.desktop);
+    return;
+  }
   if (state_.disc.discKey.empty()) return;
   state_.library.cddbMode = 0;
-  state_.settings.editorFromFaceplate = kOn;
+  state_.library.editorFromFaceplate = kOn;
   ports_.screen.setPointer(Pointer::Hourglass);
-  state_.disc.discInfo[2] = std::to_string(state_.disc.trackCount);
+  state_.disc.discInfo[kTrackCount] = std::to_string(state_.disc.trackCount);
   form_.show(ports_.desktop);
+  offerDraft();
 }
 
 void CdData::openUnseen() {
   if (state_.disc.discKey.empty()) return;
   state_.library.cddbMode = kUnseen;
-  state_.settings.editorFromFaceplate = kOff;
+  state_.library.editorFromFaceplate = kOff;
   form_.load(ports_.desktop);
 }
 
 // ---- load
 
 void CdData::load() {
-  const bool byPerson = state_.settings.editorFromFaceplate == kOn;
-  if (byPerson) {
-    upward_.hideFaceplate();
-  } else {
-    form_.Command11.visible = form_.Command12.visible = false;
-  }
-  savedTitles_ = state_.disc.trackTitles;
+  byPerson_ = state_.library.editorFromFaceplate == kOn && state_.library.cddbMode != kUnseen;
+  tookPlace_ = byPerson_ && state_.settings.editorFromFaceplate == kOn;
+  fresh_ = true;
+  changed_ = false;
+  if (tookPlace_) upward_.hideFaceplate();
+  if (!byPerson_) form_.Command11.visible = form_.Command12.visible = false;
+  disc_ = state_.disc;
   state_.library.trackLyrics.fill("");
-  const std::string path(trim(state_.disc.cdFilePath));
+  const std::string path(trim(disc_.cdFilePath));
   form_.caption = "CD Data [" + path.substr(path.size() < kFileName ? 0 : path.size() - kFileName) + "]";
   form_.Label23.caption = enteredText(ports_.files.modified(path));
-  if (trim(state_.disc.extraInfo[kMediaType]).empty()) state_.disc.extraInfo[kMediaType] = "Audio CD";
+  if (trim(disc_.extraInfo[kMediaType]).empty()) disc_.extraInfo[kMediaType] = "Audio CD";
   place();
-  form_.Text5.caption = std::to_string(state_.disc.timeCorrection);
+  form_.Text5.caption = std::to_string(disc_.timeCorrection);
   currentTab_ = MusicInfo;
   form_.SSFrame1.top = kTabTop;
   form_.SSFrame4.top = form_.Frame3D1.top = kTabAway;
-  records_.readCdRecord();
+  DiscFiles(ports_.files, disc_.cdFilePath).readTexts(disc_);
+  // OK makes the texts that came with the disc the user's own.
+  if (!ports_.files.exists(disc_.cdFilePath) && fillFromSheet(disc_, ports_.device.texts())) state_.library.dataDirty = kOn;
   form_.Label13.caption = totalTime();
   fillProposals();
   fillFields();
-  fillTrackList(form_.List1, state_.disc);
-  fillLyricsList(form_.List2, state_.disc, state_.library);
+  titles_.reset();
+  lyrics_.reset();
+  fillTrackList(form_.List1, disc_);
+  fillLyricsList(form_.List2, disc_, state_.library);
   genres_.readUserCaptions();
   showUserCaptions();
+  markPlaying();
+}
+
+void CdData::beginFill() {
+  titles_.reset();
+  lyrics_.reset();
 }
 
 void CdData::place() {
@@ -106,14 +122,23 @@ void CdData::place() {
     form_.left = ports_.screen.widthTwips() + kOutOfSight;
     return;
   }
-  form_.left = std::max(0, (ports_.screen.widthTwips() - form_.width) / 2);
-  form_.top = std::max(0, (ports_.screen.heightTwips() - form_.height) / 2);
+  const forms::Place screen{0, 0, ports_.screen.widthTwips(), ports_.screen.heightTwips()};
+  forms::Place window = placeOf(form_);
+  if (tookPlace_) {
+    window.left = (screen.width - window.width) / 2;
+    window.top = (screen.height - window.height) / 2;
+    window = ontoScreen(window, screen);
+  } else {
+    window = besideDeck(window, placeOf(faceplate_), screen, {Side::Below, Side::Above, Side::Right, Side::Left});
+  }
+  form_.left = window.left;
+  form_.top = window.top;
 }
 
 /// A device that gives no length: the sum of the tracks, and three seconds for what lies between.
 std::string CdData::totalTime() const {
   constexpr int kBetween = 3;
-  const DiscState& disc = state_.disc;
+  const DiscState& disc = disc_;
   if (leadingNumber(disc.discLengthText) >= 1 || disc.trackLengths[2].empty()) return disc.discLengthText;
   int sum = kBetween;
   for (int track = 1; track <= listedTracks(disc); ++track) sum += secondsOf(disc.trackLengths[static_cast<size_t>(track)]);
@@ -133,17 +158,17 @@ void CdData::fillProposals() {
 }
 
 void CdData::fillFields() {
-  const DiscState& disc = state_.disc;
+  const DiscState& disc = disc_;
   const bool counted = disc.trackCount >= 1 && disc.trackCount <= 99;
   form_.Label12.caption = std::to_string(disc.trackCount);
   form_.Label10.visible = form_.Label12.visible = counted;
   form_.Text4.caption = disc.discTitle;
   form_.Text2.caption = disc.discArtist;
   form_.Text3.caption = disc.linerNotes;
-  form_.Text7.caption = disc.discInfo[3];
-  form_.Text6.caption = disc.discInfo[4];
-  form_.cat.caption = disc.discInfo[5];
-  for (const ExtraField& field : extraFields(form_)) field.control.caption = extraField(disc, field.index);
+  form_.Text7.caption = disc.discInfo[kComposer];
+  form_.Text6.caption = disc.discInfo[kLabel];
+  form_.cat.caption = disc.discInfo[kGenre];
+  for (const FieldControl& field : extraFields(form_)) field.control.caption = extraField(disc, field.index);
   if (disc.enhancedCd > 0) {
     form_.mediatype.choose(disc.enhancedCd);
   } else {
@@ -158,12 +183,25 @@ void CdData::showUserCaptions() {
   form_.Label51.caption = captions[1].empty() ? "User Defined 2:" : captions[1];
 }
 
+/// What a first sight resets is reset once: a person who comes back from the deck finds all as it was.
 void CdData::activate() {
-  currentRow_ = -1;
+  if (!std::exchange(fresh_, false)) return;
   listMouseDown_ = false;
   ports_.screen.setPointer(Pointer::Normal);
   updateSubmitKey();
   if (form_.activeControl() == nullptr) form_.setFocus(form_.Text2);
+}
+
+void CdData::markPlaying() {
+  if (!form_.loaded()) return;
+  const int16_t track = state_.transport.curTrack;
+  form_.List1.markedRow = onDeck() && state_.transport.playingFlag == kOn && track >= 1 ? track - 1 : -1;
+}
+
+/// Its disc is the one that the deck shows.
+bool CdData::onDeck() const {
+  const DiscState& disc = state_.disc;
+  return disc.discKey == disc_.discKey && disc.noDiscState == 0 && disc.drawerOpen == kOff && disc.trackCount > 0;
 }
 
 /// It wants artist, title, and a first row with something in it.
@@ -176,116 +214,13 @@ void CdData::updateSubmitKey() {
 }
 
 void CdData::unload() {
-  if (state_.settings.editorFromFaceplate == kOn) upward_.showFaceplate();
+  if (tookPlace_) upward_.showFaceplate();
 }
 
 void CdData::close() {
+  if (ports_.files.exists(draftPath())) ports_.files.remove(draftPath());
   form_.unload();
   ports_.screen.setPointer(Pointer::Normal);
-}
-
-// ---- keys
-
-void CdData::mouseDown(forms::Control* control, const forms::Mouse& /*mouse*/) {
-  if (control == &form_.List1 || control == &form_.List2) listMouseDown_ = true;
-}
-
-void CdData::mouseUp(forms::Control* control, const forms::Mouse& mouse) {
-  if (control == nullptr || mouse.button != forms::MouseButton::Left) return;
-  if (control->name() == "CommandT") {
-    showTab(static_cast<int16_t>(control->index()));
-  } else {
-    pressed(control->name());
-  }
-}
-
-void CdData::pressed(const std::string& name) {
-  if (name == "Command1") {
-    Command1_Click();
-  } else if (name == "Command2") {
-    cancel();
-  } else if (name == "Command3") {
-    upward_.showHelp(kHelpTopic);
-  } else if (name == "Command4") {
-    print_.run();
-  } else if (name == "Command5") {
-    clear();
-  } else if (name == "Command6") {
-    ports_.processes.start({{joinPath(state_.process.windowsDir, "orvlib"), "LX"}, state_.settings.appDir, WindowStyle::Normal});
-  } else if (name == "Command7") {
-    html_.run();
-  } else if (name == "Command11") {
-    state_.disc.trackLengths[101] = trim(form_.Label13.caption.get());
-    upward_.openCddb();
-  } else if (name == "Command12") {
-    submit();
-  } else if (name == "Command13") {
-    genres_.askUserCaptions();
-    showUserCaptions();
-  } else if (name == "Command14") {
-    upward_.lookForLyrics();
-    ports_.screen.setPointer(Pointer::Normal);
-  } else if (name == "addGenreKey") {
-    addGenre();
-  }
-}
-
-void CdData::addGenre() {
-  const auto genre = genres_.addGenre();
-  if (!genre) return;
-  currentRow_ = -1;
-  state_.library.askOnCancel = state_.library.dataDirty = kOn;
-  genres_.fillGenres(form_.cat);
-  form_.cat.caption = *genre;
-}
-
-/// The titles are put back first, so that what stays open after a No still has what was typed in its rows.
-void CdData::cancel() {
-  for (size_t track = 1; track <= 50; ++track) state_.disc.trackTitles[track] = savedTitles_[track];
-  if (state_.library.askOnCancel == kOn || currentRow_ > 0) {
-    form_.enabled = false;
-    const bool lose = ports_.dialogs.askYesNo("Orvanta", "Lose Changes?");
-    form_.enabled = true;
-    if (!lose) return;
-  }
-  state_.library.askOnCancel = kOff;
-  close();
-}
-
-void CdData::clear() {
-  form_.Command12.enabled = false;
-  for (forms::TextBox* box :
-       {&form_.Text1, &form_.Text2, &form_.Text3, &form_.Text4, &form_.Text6, &form_.Text7, &form_.Text8, &form_.Text10, &form_.Text11,
-        &form_.Text13, &form_.Text15, &form_.Text16, &form_.Text18, &form_.upcnum, &form_.cdcost}) {
-    box->caption = "";
-  }
-  for (forms::Combo* combo :
-       {&form_.cat, &form_.mediatype, &form_.stloc, &form_.recdtype, &form_.mrat, &form_.rrat, &form_.mcrat, &form_.pcrat, &form_.crat}) {
-    combo->caption = "";
-  }
-  for (int row = 0; row < kClearedRows; ++row) {
-    state_.disc.trackTitles[static_cast<size_t>(row) + 1].clear();
-    form_.List1.set(row, "");
-    form_.List2.set(row, "");
-  }
-  for (auto& field : state_.disc.extraInfo) field.clear();
-  state_.library.trackLyrics.fill("");
-  state_.library.dataDirty = state_.library.askOnCancel = kOn;
-}
-
-/// Lyrics go along from their rows' fourth character on; from row 10 on that is the TAB, which receivers know.
-void CdData::submit() {
-  if (state_.disc.trackCount > kMostToSubmit) {
-    ports_.dialogs.message(BoxStyle::Critical, "Orvanta", "Unable To Submit - Track Limit Exceeded For CDDB Submission From Orvanta");
-    return;
-  }
-  for (forms::TextBox* box : {&form_.Text2, &form_.Text4}) box->caption = withoutControls(box->caption.get());
-  ports_.screen.setPointer(Pointer::Hourglass);
-  for (int row = 0; row < form_.List2.count() && row < 50; ++row) {
-    const std::string& text = form_.List2.row(row);
-    if (!text.empty()) state_.disc.extraInfo[static_cast<size_t>(row) + 13] = trim(text.size() > 3 ? text.substr(3) : "");
-  }
-  upward_.submitToCddb();
 }
 
 }  // namespace orvanta

@@ -1,12 +1,15 @@
-// Behaviour of acdtabs, the CD Data window.
+// Behaviour of acdtabs, the CD Data window. What it was opened for stays its disc until OK or Cancel, whatever is in the
+// drive meanwhile: it works on a copy of the disc's state.
 #pragma once
 
-#include <array>
 #include <string>
 
-#include "library/cd_records.h"
 #include "library/genres.h"
+#include "library/row_entry.h"
 #include "platform/forms/form.h"
+#include "playback/display.h"
+#include "records/draft.h"
+#include "records/file_set.h"
 #include "state/shared_state.h"
 #include "windows/acdtabs.h"
 #include "windows/cdform.h"
@@ -20,17 +23,31 @@ struct Ports;
 
 class CdData : public forms::FormEvents {
  public:
-  CdData(Ports& ports, CdRecords& records, Genres& genres, HtmlExport& html, RecordPrint& print, acdtabs& form, CDForm& faceplate,
+  CdData(Ports& ports, Genres& genres, HtmlExport& html, RecordPrint& print, Display& display, acdtabs& form, const CDForm& faceplate,
          SharedState& state, LibraryUpward& upward);
 
   /// By a person, from the faceplate; nothing without a disc.
   void openFromFaceplate();
   /// Unseen, to be filled and saved by program: LibraryState::cddbMode is 3.
   void openUnseen();
-  /// OK: saves what was changed and closes.
-  void Command1_Click();
+  /// OK: saves what was changed and closes. A person's window stays open when something could not be saved: false.
+  bool Command1_Click();
+
+  /// It stands, and a person opened it.
+  bool openForPerson() const { return form_.loaded() && byPerson_; }
+  /// Before an exit by the user: asks where something was typed. True when nothing, or nothing of worth, would be lost.
+  bool mayBeLost();
+  /// At an end that cannot wait: what was typed is kept beside the disc's files, and offered when the window opens next.
+  void keepDraft();
+  /// The track that plays stands out.
+  void markPlaying();
+
+  /// The disc of the window: its key, path, lengths and frames, and the texts of its load.
+  DiscState& disc() { return disc_; }
 
   // Of what fills the window by program.
+  /// First of all: no row is under edit.
+  void beginFill();
   /// Takes the text of Text1 into the row under edit; the next row follows.
   void textin();
   /// The same with the lyrics in Text8.
@@ -71,38 +88,57 @@ class CdData : public forms::FormEvents {
   bool enter(forms::Control& control);
   bool enterInRow(forms::Control& control);
   void editRow(forms::ListBox& list);
-  void nextRow(forms::ListBox& list, forms::TextBox& box, int taken);
+  void nextRow(RowEntry& entry, int taken);
   void focusOn(forms::Control& control);
   void chosen(forms::ListBox& list);
   void enterCorrection();
+  RowEntry& entryOf(const forms::Control& control) { return &control == &form_.List2 || &control == &form_.Text8 ? lyrics_ : titles_; }
+  void takeEntry(RowEntry& entry);
+  bool entryWaits() const { return titles_.typedAnything() || lyrics_.typedAnything(); }
 
   // Keys.
   void pressed(const std::string& name);
+  void ok();
   void cancel();
   void clear();
   void addGenre();
+  void askCaptions();
   void submit();
   void close();
+  bool askLoseChanges();
 
   // Saving.
   int16_t correction() const;
+  Unwritten save();
   void saveFields();
   void saveTracks();
   void updateFaceplate();
+  bool onDeck() const;
+
+  // A draft of an earlier session.
+  std::string draftPath() const;
+  void offerDraft();
+  void takeUp(const Draft& draft);
+  bool takeUpRow(const std::string& name, const std::string& text);
 
   Ports& ports_;
-  CdRecords& records_;
   Genres& genres_;
   HtmlExport& html_;
   RecordPrint& print_;
+  Display& display_;
   acdtabs& form_;
-  CDForm& faceplate_;
+  const CDForm& faceplate_;
   SharedState& state_;
   LibraryUpward& upward_;
+  DiscState disc_;
   int16_t currentTab_ = MusicInfo;
-  int currentRow_ = -1;         ///< zero-based, under edit in List1 or List2
+  RowEntry titles_{form_.List1, form_.Text1};
+  RowEntry lyrics_{form_.List2, form_.Text8};
+  bool byPerson_ = false;
+  bool tookPlace_ = false;      ///< the faceplate is hidden for it
+  bool fresh_ = false;          ///< loaded, and not yet activated
+  bool changed_ = false;        ///< by a person since the load
   bool listMouseDown_ = false;  ///< the next focus of an input box leaves its text unselected
-  std::array<std::string, 101> savedTitles_;
 };
 
 }  // namespace orvanta

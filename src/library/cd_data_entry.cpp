@@ -37,7 +37,11 @@ bool oneOf(std::span<const std::string_view> names, const std::string& name) {
 }  // namespace
 
 void CdData::edited(forms::Control& control) {
-  if (oneOf(kInputs, control.name())) return;
+  changed_ = true;
+  if (oneOf(kInputs, control.name())) {
+    entryOf(control).typed();
+    return;
+  }
   state_.library.dataDirty = kOn;
   if (oneOf(kAsking, control.name())) state_.library.askOnCancel = kOn;
 }
@@ -46,7 +50,7 @@ void CdData::gotFocus(forms::Control& control) {
   auto* box = dynamic_cast<forms::TextBox*>(&control);
   if (box == nullptr || !oneOf(kInputs, control.name())) return;
   // A press in the list has just put a title there: the mouse sets the cursor.
-  if (!listMouseDown_) box->allSelected = true;
+  if (!listMouseDown_) box->selectAll();
   listMouseDown_ = false;
 }
 
@@ -103,7 +107,14 @@ void CdData::showTab(int16_t tab) {
   form_.CommandT[static_cast<size_t>(tab)].visible = false;
   frames[tab]->top = kTabTop;
   currentTab_ = tab;
-  if (tab == MusicInfo) currentRow_ = -1;
+  if (tab != MusicInfo) return;
+  // No row is under edit from here on; what was typed for one goes there first.
+  for (RowEntry* entry : {&titles_, &lyrics_}) {
+    takeEntry(*entry);
+    if (entry->typedAnything()) continue;
+    entry->list().setListIndex(-1);
+    entry->reset();
+  }
 }
 
 // ---- rows
@@ -112,15 +123,13 @@ void CdData::click(forms::Control& control) {
   if (auto* list = dynamic_cast<forms::ListBox*>(&control)) chosen(*list);
 }
 
-/// Its text goes to the input, to be seen; it is not under edit yet.
+/// The row comes under edit, and its text to the input. What was typed for another one is taken for that.
 void CdData::chosen(forms::ListBox& list) {
   const int row = list.listIndex();
   if (row < 0) return;
-  if (&list == &form_.List1) {
-    form_.Text1.caption = rowTitle(list.row(row));
-  } else {
-    form_.Text8.caption = state_.library.trackLyrics[static_cast<size_t>(row) + 1];
-  }
+  RowEntry& entry = entryOf(list);
+  if (row != entry.row()) takeEntry(entry);
+  entry.edit(row, &list == &form_.List1 ? rowTitle(list.row(row)) : state_.library.trackLyrics[static_cast<size_t>(row) + 1]);
 }
 
 void CdData::doubleClick(forms::Control* control) {
@@ -128,49 +137,59 @@ void CdData::doubleClick(forms::Control* control) {
 }
 
 void CdData::editRow(forms::ListBox& list) {
-  const int row = list.listIndex();
-  if (list.row(row).empty()) return;
+  if (list.row(list.listIndex()).empty()) return;
   chosen(list);
-  forms::TextBox& box = &list == &form_.List1 ? form_.Text1 : form_.Text8;
+  forms::TextBox& box = entryOf(list).box();
   listMouseDown_ = false;
   form_.setFocus(box);
-  box.allSelected = true;
-  currentRow_ = row;
+  box.selectAll();
+}
+
+/// What a person typed goes to its row; neither row nor focus moves. A title that nobody touched is not cut.
+void CdData::takeEntry(RowEntry& entry) {
+  if (!entry.waits()) return;
+  const int row = entry.row();
+  const std::string text(trim(entry.box().caption.get()));
+  entry.taken();
+  state_.library.dataDirty = kOn;
+  if (&entry == &titles_) {
+    form_.List1.set(row, trackRow(disc_, row + 1, std::string(firstCharacters(withoutControls(text), kLongestTitle))));
+    return;
+  }
+  state_.library.trackLyrics[static_cast<size_t>(row) + 1] = withoutControls(withCrLf(text), true);
+  form_.List2.set(row, lyricsRow(row + 1, withCrLf(text)));
 }
 
 /// On to the next row, and after the last one to OK: a whole disc is typed with text and ENTER.
-void CdData::nextRow(forms::ListBox& list, forms::TextBox& box, int taken) {
-  box.caption = "";
-  list.setListIndex(taken + 1 < list.count() ? taken + 1 : taken);
-  ++currentRow_;
-  if (currentRow_ >= list.count() || currentRow_ >= state_.disc.trackCount) {
-    currentRow_ = -1;
+void CdData::nextRow(RowEntry& entry, int taken) {
+  forms::ListBox& list = entry.list();
+  if (taken + 1 >= list.count() || taken + 1 >= disc_.trackCount) {
     list.setListIndex(0);
-    box.caption = "";
+    entry.reset();
     focusOn(form_.Command1);
     return;
   }
-  form_.setFocus(box);
-  box.allSelected = true;
+  list.setListIndex(taken + 1);
+  form_.setFocus(entry.box());
+  entry.box().selectAll();
 }
 
 void CdData::textin() {
-  const int row = currentRow_;
+  const int row = titles_.row();
   if (row < 0 || row >= form_.List1.count()) return;
-  const std::string text = withoutControls(trim(form_.Text1.caption.get()));
+  if (titles_.box().caption.get() != rowTitle(form_.List1.row(row))) titles_.typed();
+  takeEntry(titles_);
   state_.library.dataDirty = kOn;
-  form_.List1.set(row, trackRow(state_.disc, row + 1, std::string(firstCharacters(text, kLongestTitle))));
-  nextRow(form_.List1, form_.Text1, row);
+  nextRow(titles_, row);
 }
 
 void CdData::textin2() {
-  const int row = currentRow_;
+  const int row = lyrics_.row();
   if (row < 0 || row >= form_.List2.count()) return;
-  const std::string text(trim(form_.Text8.caption.get()));
+  if (lyrics_.box().caption.get() != state_.library.trackLyrics[static_cast<size_t>(row) + 1]) lyrics_.typed();
+  takeEntry(lyrics_);
   state_.library.dataDirty = kOn;
-  state_.library.trackLyrics[static_cast<size_t>(row) + 1] = withoutControls(withCrLf(text), true);
-  form_.List2.set(row, lyricsRow(row + 1, withCrLf(text)));
-  nextRow(form_.List2, form_.Text8, row);
+  nextRow(lyrics_, row);
 }
 
 void CdData::enterCorrection() {

@@ -5,6 +5,8 @@
 #include "library/list_text.h"
 #include "platform/ports/ports.h"
 #include "platform/ports/screen.h"
+#include "records/disc_files.h"
+#include "state/not_written.h"
 
 namespace orvanta {
 
@@ -22,23 +24,33 @@ int16_t CdData::correction() const {
   return number < kLeastCorrection || number > kMostCorrection ? int16_t{0} : static_cast<int16_t>(number);
 }
 
-void CdData::Command1_Click() {
+bool CdData::Command1_Click() {
   ports_.screen.setPointer(Pointer::Hourglass);
-  if (state_.library.dataDirty == kOn) {
-    state_.disc.timeCorrection = correction();
-    records_.writeTimeCorrection();
-    saveFields();
-    saveTracks();
-    records_.writeCdRecord();
+  const Unwritten failed = state_.library.dataDirty == kOn ? save() : Unwritten{};
+  if (failed.any()) {
+    ports_.screen.setPointer(Pointer::Normal);
+    tellNotWritten(ports_.dialogs, failed.path, failed.reason);
+    if (byPerson_) return false;
   }
-  updateFaceplate();
+  // The deck takes the texts up even when they could not be kept.
+  static_cast<DiscTexts&>(state_.disc) = disc_;
+  state_.disc.timeCorrection = disc_.timeCorrection;
+  if (onDeck()) updateFaceplate();
   state_.library.askOnCancel = kOff;
   close();
+  return !failed.any();
+}
+
+Unwritten CdData::save() {
+  disc_.timeCorrection = correction();
+  saveFields();
+  saveTracks();
+  return DiscFiles(ports_.files, disc_.cdFilePath).writeTexts(disc_, disc_.trackCount, disc_.timeCorrection);
 }
 
 void CdData::saveFields() {
-  DiscState& disc = state_.disc;
-  for (const ExtraField& field : extraFields(form_)) disc.extraInfo[field.index] = field.control.caption;
+  DiscState& disc = disc_;
+  for (const FieldControl& field : extraFields(form_)) disc.extraInfo[field.index] = field.control.caption;
   disc.extraInfo[kMediaType] = disc.enhancedCd == 1 ? "Enhanced Audio CD" : form_.mediatype.caption.get();
   for (int track = 1; track <= listedTracks(disc); ++track) setLyrics(disc, track, state_.library.trackLyrics[static_cast<size_t>(track)]);
   disc.discTitle = form_.Text4.caption;
@@ -47,30 +59,28 @@ void CdData::saveFields() {
 }
 
 void CdData::saveTracks() {
-  DiscState& disc = state_.disc;
+  DiscState& disc = disc_;
   for (int row = 0; row < form_.List1.count(); ++row) {
     if (!form_.List1.row(row).empty()) disc.trackTitles[static_cast<size_t>(row) + 1] = rowTitle(form_.List1.row(row));
   }
   if (!trim(form_.Label13.caption.get()).empty()) savetimes();
-  if (disc.trackCount >= 1 && disc.trackCount <= kMostWritten) disc.discInfo[2] = std::to_string(disc.trackCount);
-  disc.discInfo[3] = form_.Text7.caption;
-  disc.discInfo[4] = form_.Text6.caption;
-  disc.discInfo[5] = form_.cat.caption.get().empty() ? "General" : form_.cat.caption.get();
+  if (disc.trackCount >= 1 && disc.trackCount <= kMostWritten) disc.discInfo[kTrackCount] = std::to_string(disc.trackCount);
+  disc.discInfo[kComposer] = form_.Text7.caption;
+  disc.discInfo[kLabel] = form_.Text6.caption;
+  disc.discInfo[kGenre] = form_.cat.caption.get().empty() ? "General" : form_.cat.caption.get();
 }
 
 void CdData::savetimes() {
-  DiscState& disc = state_.disc;
+  DiscState& disc = disc_;
   std::string times = std::string(trim(form_.Label13.caption.get())) + ",";
   for (int track = 1; track <= listedTracks(disc); ++track) times += std::string(trim(disc.trackLengths[static_cast<size_t>(track)])) + ",";
-  disc.discInfo[1] = times;
+  disc.discInfo[kTimeList] = times;
 }
 
+/// The new texts show at once: the disc's, and that of the track on display.
 void CdData::updateFaceplate() {
-  const std::string artist = state_.disc.discArtist;
-  const std::string title = state_.disc.discTitle;
-  const bool both = !trim(artist).empty() && !trim(title).empty();
-  faceplate_.Label12.caption = trim(artist).empty() && trim(title).empty() ? std::string() : artist + (both ? " - " : "") + title;
-  faceplate_.Label13.caption = "";
+  display_.showHeader();
+  if (state_.disc.discStarted == kOn && display_.number() >= 1) display_.track(display_.number());
 }
 
 }  // namespace orvanta

@@ -1,11 +1,10 @@
 // The list of everything; a click on one of its tracks plays it.
 #include "library/cd_info.h"
 
-#include <algorithm>
-
 #include "base/text.h"
 #include "library/list_looks.h"
 #include "library/list_text.h"
+#include "library/placing.h"
 #include "library/upward.h"
 #include "platform/ports/ports.h"
 #include "platform/ports/screen.h"
@@ -48,8 +47,11 @@ void CdInfo::place() {
   form_.top = bottom + kGap;
   form_.height = height - bottom;
   if (form_.top + kLeastHeight < height) return;
-  form_.top = height / 2;
   form_.height = kLowHeight;
+  const forms::Place window =
+      besideDeck(placeOf(form_), placeOf(faceplate_), {0, 0, width, height}, {Side::Above, Side::Right, Side::Left, Side::Below});
+  form_.left = window.left;
+  form_.top = window.top;
 }
 
 void CdInfo::mouseUp(forms::Control* /*control*/, const forms::Mouse& mouse) {

@@ -5,9 +5,9 @@
 #include <algorithm>
 
 #include "base/text.h"
-#include "library/cd_records.h"
 #include "platform/ports/dialogs.h"
 #include "platform/ports/files.h"
+#include "records/escape.h"
 #include "state/not_written.h"
 #include "state/record_file.h"
 

@@ -11,6 +11,7 @@
 #include "platform/ports/dialogs.h"
 #include "platform/ports/files.h"
 #include "platform/ports/ports.h"
+#include "state/not_written.h"
 
 namespace orvanta {
 
@@ -50,24 +51,24 @@ std::string endRow() { return std::string("</tr>") + kEnd; }
 
 }  // namespace
 
-HtmlExport::HtmlExport(Ports& ports, acdtabs& form, SharedState& state)
-    : files_(ports.files), dialogs_(ports.dialogs), form_(form), state_(state) {}
+HtmlExport::HtmlExport(Ports& ports, acdtabs& form, const Settings& settings)
+    : files_(ports.files), dialogs_(ports.dialogs), form_(form), settings_(settings) {}
 
-void HtmlExport::run() {
+void HtmlExport::run(const DiscState& disc) {
   std::string name = form_.Text2.caption.get() + " - " + form_.Text4.caption.get() + ".htm";
   std::replace(name.begin(), name.end(), '/', '-');
   const auto path =
-      dialogs_.askSaveFile({"Save Orvanta CD Data As...", joinPath(state_.settings.appDir, "datacd"), name, "HTML File (*.htm)|*.htm"});
+      dialogs_.askSaveFile({"Save Orvanta CD Data As...", joinPath(settings_.appDir, "datacd"), name, "HTML File (*.htm)|*.htm"});
   if (!path || path->empty()) return;
-  files_.writeNamed(*path, encoded(page()));
+  if (!files_.writeNamed(*path, encoded(page(disc)))) tellNotWritten(dialogs_, files_, *path);
 }
 
-std::string HtmlExport::page() const {
+std::string HtmlExport::page(const DiscState& disc) const {
   std::string text = std::string("<HTML><HEAD><TITLE>Orvanta CD Data Page</TITLE></HEAD>") + kEnd;
   text += std::string(R"(<body background=""><center><h2>)") + kEnd;
   text += std::string(" Orvanta CD Data</h2>") + kEnd;
   text += "<p><b>" + form_.Text2.caption.get() + " - " + form_.Text4.caption.get() + "</p>" + kEnd;
-  text += facts() + tracks() + lyrics();
+  text += facts(disc) + tracks(disc) + lyrics();
   text += std::string("</TABLE><hr>") + kEnd;
   text += "<a href=\"" + std::string(kHome) + "\">Orvanta Home Page</a><br>" + kEnd;
   text += "<a href=\"" + std::string(kMirror) + "\">Orvanta Mirror Site</a><br>" + kEnd;
@@ -75,9 +76,9 @@ std::string HtmlExport::page() const {
   return text + "</html>";
 }
 
-std::string HtmlExport::facts() const {
+std::string HtmlExport::facts(const DiscState& disc) const {
   std::string text = openTable();
-  for (const RecordRow& row : recordRows(form_, state_.disc)) {
+  for (const RecordRow& row : recordRows(form_, disc)) {
     if (!row.always && trim(row.value).empty()) continue;
     const bool link = row.caption == "ARTIST WEB SITE:";
     text += cell("44%", row.caption);
@@ -87,8 +88,7 @@ std::string HtmlExport::facts() const {
   return text + closeTable();
 }
 
-std::string HtmlExport::tracks() const {
-  const DiscState& disc = state_.disc;
+std::string HtmlExport::tracks(const DiscState& disc) const {
   std::string text = openTable();
   text += cell("10%", "TRACK:") + cell("50%", "DESCRIPTION:") + cell("40%", "TIME:") + endRow();
   for (int track = 1; track <= listedTracks(disc); ++track) {

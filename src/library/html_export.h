@@ -14,22 +14,22 @@ struct Ports;
 
 class HtmlExport {
  public:
-  HtmlExport(Ports& ports, acdtabs& form, SharedState& state);
+  HtmlExport(Ports& ports, acdtabs& form, const Settings& settings);
 
-  /// Asks where to, and writes. A cancel, or a file that cannot be written, is silent.
-  void run();
+  /// Asks where to, and writes the page of the window's disc. A cancel is silent.
+  void run(const DiscState& disc);
   /// The page as it stands. Texts go out as they were typed: nothing is escaped.
-  std::string page() const;
+  std::string page(const DiscState& disc) const;
 
  private:
-  std::string facts() const;
-  std::string tracks() const;
+  std::string facts(const DiscState& disc) const;
+  std::string tracks(const DiscState& disc) const;
   std::string lyrics() const;
 
   Files& files_;
   Dialogs& dialogs_;
   acdtabs& form_;
-  SharedState& state_;
+  const Settings& settings_;
 };
 
 }  // namespace orvanta

@@ -4,7 +4,7 @@
 #include <algorithm>
 
 #include "base/text.h"
-#include "library/cd_records.h"
+#include "records/escape.h"
 
 namespace orvanta {
 
@@ -12,7 +12,6 @@ namespace {
 
 constexpr int kMostTracks = 100;
 constexpr int kLowTracks = 50;  ///< whose lyrics lie among the extended fields
-constexpr size_t kLyrics = 12;  ///< track n's are field n + 12
 constexpr size_t kWrap = 74;
 constexpr size_t kNotesLine = 73;  ///< longest line of notes that keeps its breaks
 
@@ -44,17 +43,6 @@ void addNotes(forms::ListBox& list, DiscState& disc) {
   addWrapped(list, disc.linerNotes);
 }
 
-/// Each character that is not plain ASCII as a blank.
-std::string plain(std::string_view text) {
-  std::string clean;
-  for (const char c : text) {
-    const auto byte = static_cast<unsigned char>(c);
-    if ((byte & 0xC0U) == 0x80) continue;
-    clean += byte >= 32 && byte <= 126 ? c : ' ';
-  }
-  return clean;
-}
-
 void addLyrics(forms::ListBox& list, const DiscState& disc) {
   bool headed = false;
   for (int track = 1; track <= listedTracks(disc); ++track) {
@@ -72,7 +60,7 @@ void addLyrics(forms::ListBox& list, const DiscState& disc) {
     }
     list.add("");
     list.add("TRACK " + std::to_string(track) + ":  [" + disc.trackTitles[static_cast<size_t>(track)] + "]");
-    addWrapped(list, plain(text));
+    addWrapped(list, withoutControls(text));
   }
 }
 
@@ -89,18 +77,18 @@ int listedTracks(const DiscState& disc) { return std::min<int>(disc.trackCount, 
 
 std::string lyricsOf(const DiscState& disc, int track) {
   const auto index = static_cast<size_t>(track);
-  return unescapeField(track <= kLowTracks ? disc.extraInfo[index + kLyrics] : disc.lyricsHigh[index - kLowTracks]);
+  return unescapeField(track <= kLowTracks ? disc.extraInfo[kFirstLyrics + index - 1] : disc.lyricsHigh[index - kLowTracks]);
 }
 
 void setLyrics(DiscState& disc, int track, const std::string& text) {
   const auto index = static_cast<size_t>(track);
-  (track <= kLowTracks ? disc.extraInfo[index + kLyrics] : disc.lyricsHigh[index - kLowTracks]) = text;
+  (track <= kLowTracks ? disc.extraInfo[kFirstLyrics + index - 1] : disc.lyricsHigh[index - kLowTracks]) = text;
 }
 
 std::string extraField(const DiscState& disc, size_t index) { return unescapeField(disc.extraInfo[index]); }
 
 std::string trackRow(const DiscState& disc, int track, const std::string& title) {
-  return std::to_string(track) + ":\t" + title + "\t" + disc.trackLengths[static_cast<size_t>(track)];
+  return std::to_string(track) + ":\t" + withoutControls(title) + "\t" + disc.trackLengths[static_cast<size_t>(track)];
 }
 
 std::string lyricsRow(int track, const std::string& lyrics) { return std::to_string(track) + ":\t" + withoutControls(lyrics); }
@@ -134,25 +122,38 @@ void fillCdInfoList(forms::ListBox& list, DiscState& disc, const LibraryState& l
   addNotes(list, disc);
   list.add("");
   list.add("TOTAL DISC TIME:  " + disc.discLengthText);
-  addIfSet(list, "GENRE:", disc.discInfo[5]);
-  addIfSet(list, "LABEL:", disc.discInfo[4]);
-  addIfSet(list, "CATALOG #:", extraField(disc, 66));
+  addIfSet(list, "GENRE:", disc.discInfo[kGenre]);
+  addIfSet(list, "LABEL:", disc.discInfo[kLabel]);
+  addIfSet(list, "CATALOG #:", extraField(disc, kCatalogNumber));
   list.add("");
-  const std::string media(trim(extraField(disc, 1)));
+  const std::string media(trim(extraField(disc, kMediaType)));
   list.add("MEDIA TYPE:  " + (disc.enhancedCd > 0 ? "Enhanced Audio CD" : media.empty() ? "Audio CD" : media));
   static constexpr std::pair<const char*, size_t> kFields[] = {
-      {"YEAR RELEASED:", 2},    {"UPC #:", 73},       {"ARTIST WEB SITE:", 3},   {"ARTIST INFO:", 63},     {"STORAGE LOCATION:", 4},
-      {"ALBUM CREDITS:", 75},   {"ALBUM INFO:", 64},  {"RECORDING INFO:", 5},    {"RECORDING VENUE:", 6},  {"MUSIC RATING:", 7},
-      {"RECORDING RATING:", 8}, {"MEDIA RATING:", 9}, {"PACKAGING RATING:", 10}, {"CONTENTS RATING:", 11}, {"RECORDING CODE:", 67}};
+      {"YEAR RELEASED:", kYear},
+      {"UPC #:", kUpcNumber},
+      {"ARTIST WEB SITE:", kArtistSite},
+      {"ARTIST INFO:", kArtistInfo},
+      {"STORAGE LOCATION:", kStorage},
+      {"ALBUM CREDITS:", kAlbumCredits},
+      {"ALBUM INFO:", kAlbumInfo},
+      {"RECORDING INFO:", kRecordingInfo},
+      {"RECORDING VENUE:", kRecordingVenue},
+      {"MUSIC RATING:", kMusicRating},
+      {"RECORDING RATING:", kRecordingRating},
+      {"MEDIA RATING:", kMediaRating},
+      {"PACKAGING RATING:", kPackageRating},
+      {"CONTENTS RATING:", kContentsRating},
+      {"RECORDING CODE:", kRecordingCode},
+  };
   for (const auto& [caption, index] : kFields) addIfSet(list, caption, extraField(disc, index));
   const auto caption = [&](size_t which, const char* usual) {
     return library.userCaptions[which].empty() ? std::string(usual) : library.userCaptions[which];
   };
-  addOwnField(list, caption(0, "USER DEFINED 1:"), extraField(disc, 12));
-  addOwnField(list, caption(1, "USER DEFINED 2:"), extraField(disc, 74));
-  addIfSet(list, "COMPOSER:", disc.discInfo[3]);
-  addIfSet(list, "COST:", extraField(disc, 0));
-  addIfSet(list, "CD CHANGER ID:", extraField(disc, 65));
+  addOwnField(list, caption(0, "USER DEFINED 1:"), extraField(disc, kUserDefined1));
+  addOwnField(list, caption(1, "USER DEFINED 2:"), extraField(disc, kUserDefined2));
+  addIfSet(list, "COMPOSER:", disc.discInfo[kComposer]);
+  addIfSet(list, "COST:", extraField(disc, kCost));
+  addIfSet(list, "CD CHANGER ID:", extraField(disc, kChangerId));
   list.add("Orvanta Catalog #:  " + disc.discKey);
   addLyrics(list, disc);
 }

@@ -6,9 +6,11 @@
 #include "base/text.h"
 #include "library/list_looks.h"
 #include "library/list_text.h"
+#include "library/placing.h"
 #include "platform/ports/dialogs.h"
 #include "platform/ports/ports.h"
 #include "platform/ports/screen.h"
+#include "state/not_written.h"
 
 namespace orvanta {
 
@@ -20,16 +22,8 @@ constexpr size_t kProgramEntries = 100;
 
 }  // namespace
 
-Playlist::Playlist(Ports& ports, CdRecords& records, Engine& engine, Modes& modes, Display& display, cdplist& form, CDForm& faceplate,
-                   SharedState& state)
-    : ports_(ports),
-      records_(records),
-      engine_(engine),
-      modes_(modes),
-      display_(display),
-      form_(form),
-      faceplate_(faceplate),
-      state_(state) {
+Playlist::Playlist(Ports& ports, Engine& engine, Modes& modes, Display& display, cdplist& form, CDForm& faceplate, SharedState& state)
+    : ports_(ports), engine_(engine), modes_(modes), display_(display), form_(form), faceplate_(faceplate), state_(state) {
   form.setEvents(this);
 }
 
@@ -38,13 +32,15 @@ void Playlist::open() {
   form_.show(ports_.desktop);
 }
 
+DiscFiles Playlist::discFiles() const { return {ports_.files, state_.disc.cdFilePath}; }
+
 // ---- load
 
 void Playlist::load() {
   place();
   form_.List1.multiSelect = form_.List2.multiSelect = true;
   for (auto* list : {&form_.List1, &form_.List2}) dressList(*list, state_.settings);
-  form_.Command2.enabled = records_.programExists();
+  form_.Command2.enabled = discFiles().programExists();
   form_.Command10.enabled = state_.program.pgmStored == kOn;
   previewRow_ = kNoRow;
   previewing_ = kOff;
@@ -53,18 +49,10 @@ void Playlist::load() {
 
 /// Over the faceplate's middle, above it where there is room, else below it.
 void Playlist::place() {
-  const int width = ports_.screen.widthTwips();
-  const int height = ports_.screen.heightTwips();
-  const int left = faceplate_.left + (faceplate_.width - form_.width) / 2;
-  form_.left = std::max(0, std::min(left, width - form_.width));
-  if (faceplate_.top >= form_.height) {
-    form_.top = faceplate_.top - form_.height;
-  } else if (faceplate_.top + faceplate_.height + form_.height <= height) {
-    form_.top = faceplate_.top + faceplate_.height;
-  } else {
-    form_.left = (width - form_.width) / 2;
-    form_.top = std::max(0, (height - form_.height) / 2);
-  }
+  const forms::Place screen{0, 0, ports_.screen.widthTwips(), ports_.screen.heightTwips()};
+  const forms::Place window = besideDeck(placeOf(form_), placeOf(faceplate_), screen, {Side::Above, Side::Below, Side::Right, Side::Left});
+  form_.left = window.left;
+  form_.top = window.top;
 }
 
 void Playlist::fill() {
@@ -186,16 +174,19 @@ void Playlist::clearList() {
 
 void Playlist::save() {
   if (form_.List3.count() == 0) return;
-  records_.writeProgram(numbers());
+  if (const Unwritten failed = discFiles().writeProgram(numbers()); failed.any()) {
+    tellNotWritten(ports_.dialogs, failed.path, failed.reason);
+    return;
+  }
   state_.program.pgmStored = kOn;
   form_.Command10.enabled = true;
-  faceplate_.Label30.foreColor = state_.settings.lcdColor[kLcdLabelOn];
+  display_.program(true);
   play();
 }
 
 void Playlist::recall() {
   clearList();
-  const auto stored = records_.readProgram();
+  const auto stored = discFiles().program();
   if (!stored) return;
   for (size_t entry = 0; entry < stored->size() && entry < kProgramEntries; ++entry) {
     if ((*stored)[entry] > 0) append((*stored)[entry]);
@@ -204,12 +195,15 @@ void Playlist::recall() {
 
 void Playlist::deleteProgram() {
   if (state_.program.pgmStored != kOn) return;
-  if (!ports_.dialogs.askYesNo("Orvanta", "Are you sure you wish to delete this playlist?")) return;
+  if (!ports_.dialogs.askYesNo(BoxStyle::Critical, "Orvanta", "Are you sure you wish to delete this playlist?")) return;
+  if (const Unwritten failed = discFiles().deleteProgram(); failed.any()) {
+    tellNotWritten(ports_.dialogs, failed.path, failed.reason);
+    return;
+  }
   engine_.clrpgm();
   state_.program.pgmStored = kOff;
   form_.Command10.enabled = false;
-  faceplate_.Label30.foreColor = state_.settings.lcdColor[kLcdLabelOff];
-  records_.deleteProgram();
+  display_.program(false);
 }
 
 void Playlist::play() {
@@ -221,7 +215,8 @@ void Playlist::play() {
   state_.program.pgmList.fill(0);
   for (size_t i = 0; i < tracks.size() && i < kProgramEntries; ++i) state_.program.pgmList[i + 1] = static_cast<int16_t>(tracks[i]);
   form_.unload();
-  engine_.playKey();
+  // The disc may have gone meanwhile: the program waits for it then.
+  if (state_.disc.trackCount > 0 && state_.disc.drawerOpen == kOff) engine_.playKey();
 }
 
 void Playlist::prvcdt() {

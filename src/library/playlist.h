@@ -3,9 +3,9 @@
 
 #include <vector>
 
-#include "library/cd_records.h"
 #include "platform/forms/form.h"
 #include "playback/buttons.h"
+#include "records/disc_files.h"
 #include "state/shared_state.h"
 #include "windows/cdform.h"
 #include "windows/cdplist.h"
@@ -16,8 +16,7 @@ struct Ports;
 
 class Playlist : public forms::FormEvents {
  public:
-  Playlist(Ports& ports, CdRecords& records, Engine& engine, Modes& modes, Display& display, cdplist& form, CDForm& faceplate,
-           SharedState& state);
+  Playlist(Ports& ports, Engine& engine, Modes& modes, Display& display, cdplist& form, CDForm& faceplate, SharedState& state);
 
   /// Nothing without tracks.
   void open();
@@ -48,9 +47,9 @@ class Playlist : public forms::FormEvents {
   std::vector<int> numbers() const;
   std::string titleOf(int track) const { return form_.List1.row(track - 1); }
   void append(int track);
+  DiscFiles discFiles() const;
 
   Ports& ports_;
-  CdRecords& records_;
   Engine& engine_;
   Modes& modes_;
   Display& display_;

@@ -22,14 +22,14 @@ constexpr size_t kSlice = 100;
 
 }  // namespace
 
-RecordPrint::RecordPrint(Ports& ports, const acdtabs& form, SharedState& state) : printer_(ports.printer), form_(form), state_(state) {}
+RecordPrint::RecordPrint(Ports& ports, const acdtabs& form) : printer_(ports.printer), form_(form) {}
 
-void RecordPrint::run() {
+void RecordPrint::run(const DiscState& disc) {
   if (!printer_.ask()) return;
-  head();
-  facts();
+  head(disc);
+  facts(disc);
   notes();
-  tracks();
+  tracks(disc);
   lyrics();
   printer_.endDocument();
 }
@@ -46,19 +46,19 @@ void RecordPrint::pair(int first, const std::string& caption, int second, const 
 
 void RecordPrint::spacer() { line(1, "   "); }
 
-void RecordPrint::head() {
+void RecordPrint::head(const DiscState& disc) {
   printer_.newLine();
   printer_.setFont(kFont, kPoints, true);
   printer_.newLine();
-  line(45, "Orvanta Music Library [" + state_.disc.discKey + ".CD]");
+  line(45, "Orvanta Music Library [" + disc.discKey + ".CD]");
   printer_.newLine();
   printer_.setFont(kFont, kPoints, false);
   printer_.moveTo(kHeadEnd);
   spacer();
 }
 
-void RecordPrint::facts() {
-  for (const RecordRow& row : recordRows(form_, state_.disc)) {
+void RecordPrint::facts(const DiscState& disc) {
+  for (const RecordRow& row : recordRows(form_, disc)) {
     if (row.printed) pair(kCaption, row.paperCaption.empty() ? row.caption : row.paperCaption, kValue, row.value);
   }
 }
@@ -72,8 +72,7 @@ void RecordPrint::notes() {
   pair(kCaption, "TOTAL TIME:", kTitleColumn, form_.Label13.caption);
 }
 
-void RecordPrint::tracks() {
-  const DiscState& disc = state_.disc;
+void RecordPrint::tracks(const DiscState& disc) {
   spacer();
   printer_.print(kCaption, "TRACK");
   pair(kTitleColumn, "DESCRIPTION", 91, "TIME");

@@ -11,23 +11,22 @@ struct Ports;
 
 class RecordPrint {
  public:
-  RecordPrint(Ports& ports, const acdtabs& form, SharedState& state);
-  /// Asks for a printer and prints; a cancel is silent.
-  void run();
+  RecordPrint(Ports& ports, const acdtabs& form);
+  /// Asks for a printer and prints the window's disc; a cancel is silent.
+  void run(const DiscState& disc);
 
  private:
   void line(int column, const std::string& text);
   void pair(int first, const std::string& caption, int second, const std::string& value);
   void spacer();
-  void head();
-  void facts();
+  void head(const DiscState& disc);
+  void facts(const DiscState& disc);
   void notes();
-  void tracks();
+  void tracks(const DiscState& disc);
   void lyrics();
 
   Printer& printer_;
   const acdtabs& form_;
-  SharedState& state_;
 };
 
 }  // namespace orvanta

@@ -7,6 +7,7 @@
 #include "base/text.h"
 #include "base/times.h"
 #include "playback/tracks.h"
+#include "playback/upward.h"
 
 namespace orvanta {
 
@@ -89,6 +90,7 @@ void PlaybackClock::updateTrackTime(int16_t track, std::string_view timeText) {
 void PlaybackClock::timer2_timer() {
   DiscState& disc = state_.disc;
   TransportState& transport = state_.transport;
+  upward_.everyTick();
   answerOffer();
   if (disc.noDiscState > 0 || disc.drawerOpen == kOn) return;
   if (transport.scanCount != 0) scanStep();

@@ -62,6 +62,7 @@ void PlaybackClock::autoStart() {
 
 void PlaybackClock::timer3_timer() {
   DiscState& disc = state_.disc;
+  upward_.everyTick();
   if (state_.process.setupWanted == kOn) {
     // Cleared first: the timer must not find it again while the setup program is open.
     state_.process.setupWanted = kOff;
@@ -85,7 +86,7 @@ void PlaybackClock::drawerIsOpen() {
     restartFailed_ = false;
     return;
   }
-  if (restartFailed_) return;
+  if (restartFailed_ || upward_.restartWaits()) return;
   screen_.setPointer(Pointer::Hourglass);
   const bool shownOpen = form_.Panel3D7.visible;
   if (shownOpen) upward_.closeDrawer();

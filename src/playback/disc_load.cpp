@@ -10,6 +10,7 @@
 #include "platform/ports/files.h"
 #include "platform/ports/screen.h"
 #include "playback/upward.h"
+#include "records/sheet.h"
 
 namespace orvanta {
 
@@ -84,9 +85,11 @@ void DiscLoad::readTexts() {
   display_.showHeader();
 }
 
+/// The user has written nothing about this disc: it may tell of itself.
 void DiscLoad::clearTexts() {
-  display_.clearTexts();
   state_.disc.trackTitles.fill("");
+  fillFromSheet(state_.disc, device_.texts());
+  display_.showHeader();
 }
 
 /// For a driver that gives no length: the tracks' sum, 3 seconds allowed for what their

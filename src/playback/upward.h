@@ -35,9 +35,15 @@ class PlaybackUpward {
   virtual void launchEnhancedDisc() = 0;
   /// Hands the disc to the recorder.
   virtual void record() = 0;
-  /// The power button: saves, stops and ends the process.
+  /// The power button: saves, stops and ends the process. Comes back when the user would rather keep what was typed.
   virtual void exitProgram() = 0;
-  /// The disc's texts were cleared: windows that show them close.
+  /// The same without a question, as soon as no window or box of the user's stands.
+  virtual void exitWhenFree() = 0;
+  /// A window or a box of the user's stands: another process cannot take over yet.
+  virtual bool restartWaits() const = 0;
+  /// From each timer of the clock, also where nothing plays.
+  virtual void everyTick() = 0;
+  /// The disc's texts were cleared: windows that show them close, but for one in which a person writes.
   virtual void closeDiscWindows() = 0;
   /// The disc is known and no lookup ran yet: time for an automatic one, where it is wanted.
   virtual void automaticLookup() = 0;

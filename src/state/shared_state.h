@@ -7,6 +7,7 @@
 #include <string>
 
 #include "base/colour.h"
+#include "state/disc_texts.h"
 #include "state/settings.h"
 
 namespace orvanta {
@@ -19,32 +20,25 @@ constexpr int16_t kOff = 0;
 constexpr int16_t kOn = 1;
 
 /// The disc in the drive and its texts. Tables are by track number, from 1.
-struct DiscState {
+struct DiscState : DiscTexts {
   int16_t trackCount = 0;                     ///< 0 with no disc or the drawer open
   int16_t lampCount = 0;                      ///< trackCount, at most 20: there are twenty lamps and number keys
   std::array<std::string, 102> trackLengths;  ///< "m:ss"; filled on the first tick after the load
   std::array<int32_t, 101> trackFrames{};     ///< [0]: start of the disc in frames; [t]: frames part of t's length
   std::array<bool, 101> dataTrack{};          ///< cannot be played; known from the load on
-  std::array<std::string, 101> trackTitles;
-  std::string discArtist;
-  std::string discTitle;
-  int32_t discSum = 0;         ///< what the key is made of
-  std::string discKey;         ///< eight digits, the name of the disc's files
-  std::string cdFilePath;      ///< of the ".CD" file
-  std::string discLengthText;  ///< "mm:ss" or "h:mm:ss"
-  int16_t discMinutes = 0;     ///< minutes of the disc's length, as the device reports them
-  int16_t noDiscState = 0;     ///< 0 a disc at start; 2 no usable disc at start
-  int16_t drawerOpen = kOff;   ///< the faceplate shows the open drawer
-  int16_t discLoaded = kOff;   ///< a disc with tracks was loaded, or eject was pressed
-  int16_t discStarted = kOff;  ///< a track was selected or played; titles show only then
-  int16_t timeCorrection = 0;  ///< seconds, -3 to 5, kept per disc
+  int32_t discSum = 0;                        ///< what the key is made of
+  std::string discKey;                        ///< eight digits, the name of the disc's files
+  std::string cdFilePath;                     ///< of the ".CD" file
+  std::string discLengthText;                 ///< "mm:ss" or "h:mm:ss"
+  int16_t discMinutes = 0;                    ///< minutes of the disc's length, as the device reports them
+  int16_t noDiscState = 0;                    ///< 0 a disc at start; 2 no usable disc at start
+  int16_t drawerOpen = kOff;                  ///< the faceplate shows the open drawer
+  int16_t discLoaded = kOff;                  ///< a disc with tracks was loaded, or eject was pressed
+  int16_t discStarted = kOff;                 ///< a track was selected or played; titles show only then
+  int16_t timeCorrection = 0;                 ///< seconds, -3 to 5, kept per disc
   int16_t trackTableDone = kOff;
   int16_t enhancedCd = kOff;
-  std::string linerNotes;                  ///< may hold line breaks
-  std::array<std::string, 6> discInfo;     ///< [1] time list, [2] track count, [3] composer, [4] label, [5] genre
-  std::array<std::string, 76> extraInfo;   ///< the extended fields; [13]..[62] are the lyrics of tracks 1 to 50
-  std::array<std::string, 51> lyricsHigh;  ///< [1]..[50]: lyrics of tracks 51 to 100
-  int16_t clearDiscRequest = kOff;         ///< the clock clears the disc's texts
+  int16_t clearDiscRequest = kOff;  ///< the clock clears the disc's texts
 };
 
 struct TransportState {
@@ -109,6 +103,7 @@ struct VolumeState {
 struct LibraryState {
   int16_t dataDirty = kOff;                  ///< something was changed; never cleared, so every later OK saves
   int16_t askOnCancel = kOff;                ///< a main field was changed
+  int16_t editorFromFaceplate = kOff;        ///< CD Data was opened by a person
   int16_t cddbMode = 0;                      ///< 3: the editor saves unseen; 9: no submission
   std::array<std::string, 101> trackLyrics;  ///< [1]..[100]: the editor's working copy, with line breaks
   std::array<std::string, 2> userCaptions;   ///< of the two user defined fields; "" for the usual ones

@@ -7,16 +7,23 @@
 #include <QDialog>
 #include <QDir>
 #include <QFile>
+#include <QInputMethodEvent>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QPlainTextEdit>
+#include <QPointer>
 #include <QProcess>
+#include <QPushButton>
 #include <QRegularExpression>
+#include <QScreen>
 #include <QTest>
+#include <QTextDocumentFragment>
 #include <QTimer>
 #include <QTreeWidget>
 
 #include "platform/qt/data_window.h"
 #include "platform/qt/late_printer.h"
+#include "platform/qt/qt_dialogs.h"
 #include "platform/qt/qt_printer.h"
 #include "platform/qt/row_list.h"
 #include "tests/gui/deck.h"
@@ -25,7 +32,7 @@ namespace orvanta::test {
 namespace {
 
 struct Windows : Deck {
-  Windows() { clock.advance(2000); }
+  explicit Windows(double factor = 1, const std::function<void(Deck&)>& prepare = {}) : Deck(factor, 15, prepare) { clock.advance(2000); }
   ~Windows() { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); }
   void press(forms::Control& control) {
     gate.enter([&] { control.form().press(control); });
@@ -44,7 +51,7 @@ TEST(DataWindow, TypingReachesTheDisc) {
   Windows rig;
   rig.press(rig.core.form.Image10[1]);
   ASSERT_TRUE(rig.editor.loaded());
-  EXPECT_FALSE(rig.window->isVisible()) << "the editor takes the faceplate's place";
+  EXPECT_TRUE(rig.window->isVisible()) << "the deck stays beside it";
   auto& artist = rig.widget<QLineEdit>(rig.editor.Text2);
   QTest::keyClicks(&artist, "Artist");
   QTest::keyClick(&artist, Qt::Key_Return);
@@ -78,6 +85,127 @@ TEST(DataWindow, TypingReachesTheDisc) {
   EXPECT_EQ(rig.core.state.disc.linerNotes.substr(0, 10), "eins\r\nzwei");
 }
 
+TEST(DataWindow, TakesWhatIsTypedAsItIs) {
+  Windows rig(1, [](Deck& deck) {
+    deck.files.files["/DATA/DATACD/19443766.CD"] = "\"Old title\"\r\n\"Old artist\"\r\n\"\"\r\n\"one\"\r\n\"two\"\r\n\"three\"\r\n";
+  });
+  rig.press(rig.core.form.Image10[1]);
+  auto& artist = rig.widget<QLineEdit>(rig.editor.Text2);
+  auto& genre = rig.widget<QComboBox>(rig.editor.cat);
+  auto& medium = rig.widget<QComboBox>(rig.editor.mediatype);
+  auto& title = rig.widget<QLineEdit>(rig.editor.Text4);
+  artist.selectAll();
+  QTest::keyClicks(&artist, "AC/DC (live) & 'more' {x}%");
+  EXPECT_EQ(rig.editor.Text2.caption.get(), "AC/DC (live) & 'more' {x}%");
+  QTest::keyClick(&artist, Qt::Key_Return);
+  QTest::keyClick(genre.lineEdit(), Qt::Key_Return);
+  QTest::keyClicks(&title, "New title");
+  EXPECT_EQ(rig.editor.Text4.caption.get(), "New title") << "the next field's text is selected";
+  // No item that starts alike puts itself in the place of what was typed.
+  medium.lineEdit()->selectAll();
+  QTest::keyClicks(medium.lineEdit(), "CD");
+  QTest::keyClick(medium.lineEdit(), Qt::Key_Return);
+  EXPECT_EQ(rig.editor.mediatype.caption.get(), "CD");
+  // Rows: each one's old title is replaced, not added to.
+  auto& rows = rig.widget<QTreeWidget>(rig.editor.List1);
+  rows.setCurrentItem(rows.topLevelItem(0));
+  rows.topLevelItem(0)->setSelected(true);
+  QTest::keyClick(&rows, Qt::Key_Return);
+  auto& row = rig.widget<QLineEdit>(rig.editor.Text1);
+  for (const char* text : {"eins", "zwei"}) {
+    QTest::keyClicks(&row, text);
+    QTest::keyClick(&row, Qt::Key_Return);
+  }
+  EXPECT_EQ(rig.editor.List1.row(1), "2:\tzwei\t4:58");
+  // From an input method, and from a screen reader.
+  QInputMethodEvent committed;
+  committed.setCommitString(QString::fromUtf8("\xE6\x97\xA5"));
+  QCoreApplication::sendEvent(&row, &committed);
+  EXPECT_EQ(rig.editor.Text1.caption.get(), "\xE6\x97\xA5");
+  QAccessible::queryAccessibleInterface(&title)->setText(QAccessible::Value, QStringLiteral("spoken"));
+  EXPECT_EQ(rig.editor.Text4.caption.get(), "spoken");
+  EXPECT_EQ(QTextDocumentFragment::fromHtml(row.toolTip()).toPlainText(),
+            QStringLiteral("Press the \"ENTER\" key after typing the description..."));
+}
+
+/// Its window may go while a box stands over it, and in the midst of one of its own events.
+TEST(DataWindow, GoesWhileABoxStandsOverIt) {
+  for (const bool byKey : {true, false}) {
+    Windows rig;
+    QtDialogs boxes(rig.gate, rig.screen);
+    Ports ports{rig.device, rig.tray,      rig.clock, boxes,      rig.files,   rig.processes, rig.screen,
+                rig.system, rig.auxVolume, rig.mixer, rig.sounds, rig.printer, rig.qtDesktop};
+    Orvanta core(ports);
+    rig.gate.enter([&] {
+      core.startUp({});
+      core.showFaceplate();
+    });
+    rig.clock.advance(2100);
+    rig.gate.enter([&] { core.form.press(core.form.Image10[1]); });
+    ASSERT_TRUE(core.editor.loaded());
+    QPointer<DataWindow> view(&Windows::of(core.editor));
+    auto* artist = dynamic_cast<QLineEdit*>(view->widgetOf(core.editor.Text2));
+    QTest::keyClicks(artist, "typed");
+    bool stood = false;
+    QTimer::singleShot(0, [&] {
+      stood = boxes.open();
+      rig.gate.enter([&] { core.editor.unload(); });
+      QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+      auto* box = dynamic_cast<QMessageBox*>(QApplication::activeModalWidget());
+      ASSERT_NE(box, nullptr) << "the box does not go with its window";
+      EXPECT_EQ(box->icon(), QMessageBox::Warning);
+      box->button(QMessageBox::No)->click();
+    });
+    if (byKey) {
+      QTest::keyClick(artist, Qt::Key_Escape);
+    } else {
+      QTest::mouseClick(view->widgetOf(core.editor.Command2), Qt::LeftButton);
+    }
+    EXPECT_TRUE(stood);
+    EXPECT_FALSE(boxes.open());
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(view.isNull());
+  }
+}
+
+TEST(DataWindow, FitsTheScreenAtAnyScale) {
+  for (const double factor : {1.0, 2.0, 4.0}) {
+    Windows rig(factor);
+    rig.press(rig.core.form.Image10[1]);
+    const QRect free = QGuiApplication::primaryScreen()->availableGeometry();
+    const DataWindow& window = Windows::of(rig.editor);
+    EXPECT_TRUE(free.contains(window.frameGeometry())) << factor << ": " << window.width() << "x" << window.height();
+    const QWidget* ok = window.widgetOf(rig.editor.Command1);
+    EXPECT_TRUE(free.contains(QRect(ok->mapToGlobal(QPoint()), ok->size()))) << factor;
+  }
+}
+
+TEST(DataWindow, TheTrackThatPlaysStandsOut) {
+  Windows rig;
+  rig.press(rig.core.form.Image10[1]);
+  auto& rows = rig.widget<QTreeWidget>(rig.editor.List1);
+  const auto marked = [&] {
+    std::string all;
+    for (int row = 0; row < rows.topLevelItemCount(); ++row) all += rows.topLevelItem(row)->font(1).bold() ? "x" : ".";
+    return all;
+  };
+  EXPECT_EQ(marked(), "...");
+  rig.press(rig.core.form.Image17[1]);
+  rig.clock.advance(1500);
+  EXPECT_EQ(marked(), ".x.");
+  rig.gate.enter([&] { rig.editor.List1.set(1, "2:\tnew\t4:58"); });
+  rig.widget<QTreeWidget>(rig.editor.List1);
+  EXPECT_EQ(marked(), ".x.") << "also after a change of its title";
+}
+
+TEST(DataWindow, ARightClickBesideItsRowsClosesCdInfo) {
+  Windows rig;
+  rig.press(rig.core.form.Image16[4]);
+  ASSERT_TRUE(rig.core.infoForm.loaded());
+  QTest::mouseClick(&Windows::of(rig.core.infoForm), Qt::RightButton, {}, QPoint(2, 2));
+  EXPECT_FALSE(rig.core.infoForm.loaded());
+}
+
 TEST(DataWindow, OpensUnseenAndClosesOnRequest) {
   Windows rig;
   rig.core.state.library.cddbMode = 3;
@@ -85,7 +213,9 @@ TEST(DataWindow, OpensUnseenAndClosesOnRequest) {
   EXPECT_FALSE(Windows::of(rig.editor).isVisible());
   rig.core.state.library.cddbMode = 0;
   rig.gate.enter([&] { rig.editor.unload(); });
+  rig.core.state.settings.editorFromFaceplate = kOn;
   rig.press(rig.core.form.Image10[1]);
+  EXPECT_FALSE(rig.window->isVisible()) << "where the user wants it in the deck's place";
   Windows::of(rig.editor).close();
   EXPECT_FALSE(rig.editor.loaded()) << "closing is Cancel";
   EXPECT_TRUE(rig.window->isVisible());
@@ -111,6 +241,7 @@ TEST(DataWindow, ListsSelectInTheirOwnWays) {
   rig.press(rig.core.form.Image10[2]);
   ASSERT_TRUE(rig.playlist.loaded());
   auto& tracks = rig.widget<QTreeWidget>(rig.playlist.List1);
+  EXPECT_EQ(tracks.selectionMode(), QAbstractItemView::ExtendedSelection);
   tracks.topLevelItem(0)->setSelected(true);
   tracks.topLevelItem(2)->setSelected(true);
   QTest::mouseClick(Windows::of(rig.playlist).widgetOf(rig.playlist.Command5), Qt::LeftButton);
@@ -160,7 +291,7 @@ TEST(DataWindow, PrintsIntoAPdf) {
   PdfPrinter printer(rig.gate, path);
   Ports ports{rig.device, rig.tray,      rig.clock, rig.dialogs, rig.files, rig.processes, rig.screen,
               rig.system, rig.auxVolume, rig.mixer, rig.sounds,  printer,   rig.qtDesktop};
-  RecordPrint(ports, rig.editor, rig.core.state).run();
+  RecordPrint(ports, rig.editor).run(rig.core.state.disc);
   QProcess text;
   text.start(QStringLiteral("pdftotext"), {QStringLiteral("-layout"), path, QStringLiteral("-")});
   if (!text.waitForStarted()) GTEST_SKIP() << "no pdftotext";

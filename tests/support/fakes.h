@@ -34,13 +34,14 @@ class FakeFiles : public Files {
   }
   bool write(const std::string& path, std::string_view bytes) override {
     tape.push_back("write " + path);
-    const bool good = !full && ++writes_ != failAt;
-    if (good) files[upper(path)] = bytes;
-    return good;
+    if (fails()) return false;
+    files[upper(path)] = bytes;
+    return true;
   }
   bool writeNamed(const std::string& path, std::string_view bytes) override { return write(path, bytes); }
   bool remove(const std::string& path) override {
     tape.push_back("remove " + path);
+    if (keeps) return false;
     files.erase(upper(path));
     return true;
   }
@@ -63,44 +64,63 @@ class FakeFiles : public Files {
   Tape tape;
   std::set<std::string> unreadable;  ///< paths in upper case
   bool full = false;                 ///< a full disk, or a read-only folder
+  bool keeps = false;                ///< nothing can be removed
   int failAt = 0;                    ///< the write of this number fails; 0 none
+  bool failForGood = false;          ///< and all after it
   int writes() const { return writes_; }
 
  private:
+  bool fails() {
+    ++writes_;
+    return full || writes_ == failAt || (failForGood && failAt > 0 && writes_ > failAt);
+  }
   int writes_ = 0;
 };
 
 class FakeDialogs : public Dialogs {
  public:
-  void message(BoxStyle /*style*/, const std::string& title, const std::string& text) override { tape.push_back(title + ": " + text); }
-  bool askYesNo(const std::string& title, const std::string& text) override {
-    tape.push_back(title + "? " + text);
+  void message(BoxStyle box, const std::string& title, const std::string& text) override { stand(box, title + ": " + text); }
+  bool askYesNo(BoxStyle box, const std::string& title, const std::string& text) override {
+    stand(box, title + "? " + text);
     return yes;
   }
   std::optional<std::string> askText(const std::string& title, const std::string& prompt, const std::string& /*proposed*/) override {
-    tape.push_back(title + "? " + prompt);
+    stand(BoxStyle::Question, title + "? " + prompt);
     return next();
   }
   std::optional<std::string> askOpenFile(const FileQuestion& question) override {
-    tape.push_back("open " + question.title);
+    stand(BoxStyle::Question, "open " + question.title);
     return next();
   }
   std::optional<std::string> askSaveFile(const FileQuestion& question) override {
-    tape.push_back("save " + question.title);
+    stand(BoxStyle::Question, "save " + question.title);
+    name = question.name;
     return next();
   }
+  bool open() const override { return open_; }
 
   Tape tape;
   bool yes = false;
   std::deque<std::optional<std::string>> answers;  ///< none left: cancelled
+  BoxStyle style = BoxStyle::Information;          ///< of the last box
+  std::string name;                                ///< last proposed file name
+  std::function<void()> whileOpen;                 ///< what happens behind the next box
 
  private:
+  void stand(BoxStyle box, std::string line) {
+    tape.push_back(std::move(line));
+    style = box;
+    open_ = true;
+    if (const auto work = std::exchange(whileOpen, nullptr)) work();
+    open_ = false;
+  }
   std::optional<std::string> next() {
     if (answers.empty()) return std::nullopt;
     const auto answer = answers.front();
     answers.pop_front();
     return answer;
   }
+  bool open_ = false;
 };
 
 class FakeProcesses : public Processes {

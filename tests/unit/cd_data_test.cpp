@@ -6,51 +6,11 @@
 
 #include "base/code_page.h"
 #include "library/list_text.h"
-#include "tests/support/core_rig.h"
+#include "tests/support/editor.h"
 #include "tests/support/places.h"
 
 namespace orvanta::test {
 namespace {
-
-struct Editor : CoreRig {
-  explicit Editor(const Toc& toc = discA()) {
-    startWith(toc);
-    clock.advance(2000);
-    open();
-  }
-  void open() { key('L'); }
-  acdtabs& window = orvanta.editor;
-  /// Keys reach the window on top.
-  void enterKey() { windowKey(forms::key::kEnter); }
-  void windowKey(int code, bool shift = false) {
-    gate.enter([&] {
-      window.keyDown({code, shift});
-      window.keyUp({code, shift});
-    });
-  }
-  void type(const std::string& text) {
-    ASSERT_NE(window.activeControl(), nullptr);
-    gate.enter([&] { window.userText(*window.activeControl(), text); });
-  }
-  void line(const std::string& text) {
-    type(text);
-    enterKey();
-  }
-  void tabTo(const forms::Control& control) {
-    for (int i = 0; i < 80 && window.activeControl() != &control; ++i) windowKey(forms::key::kTab);
-    ASSERT_EQ(window.activeControl(), &control) << control.fullName();
-  }
-  void choose(forms::ListBox& list, int row) {
-    gate.enter([&] { window.userRow(list, row, {row}); });
-  }
-  void click(forms::Control& control) {
-    gate.enter([&] { window.press(control); });
-  }
-  std::string file(const std::string& suffix) const {
-    const auto found = files.files.find(upper(state.disc.cdFilePath + suffix));
-    return found == files.files.end() ? "(none)" : found->second;
-  }
-};
 
 std::string quoted(std::initializer_list<const char*> fields) {
   std::string lines;
@@ -78,7 +38,8 @@ TEST(CdData, ADiscTypedByKeysAlone) {
   rig.line("Composer");
   rig.line("14.99");
   EXPECT_EQ(rig.window.activeControl(), &rig.window.Text8);
-  rig.line("lost");  // no row was chosen
+  rig.line("nowhere yet");
+  EXPECT_EQ(rig.window.Text8.caption.get(), "nowhere yet") << "no row was chosen";
   rig.tabTo(rig.window.List2);
   rig.choose(rig.window.List2, 1);
   rig.enterKey();
@@ -144,6 +105,7 @@ TEST(CdData, CancelAsksOnlyForTheMainFields) {
     EXPECT_EQ(rig.dialogs.tape.size(), c.asks ? 1U : 0U) << c.field;
     if (!c.asks) continue;
     EXPECT_EQ(rig.dialogs.tape[0], "Orvanta? Lose Changes?");
+    EXPECT_EQ(rig.dialogs.style, BoxStyle::Warning);
     EXPECT_TRUE(rig.window.enabled);
     rig.dialogs.yes = true;
     rig.click(rig.window.Command2);
@@ -154,7 +116,7 @@ TEST(CdData, CancelAsksOnlyForTheMainFields) {
 
 TEST(CdData, OkWithoutAChangeSavesNothing) {
   Editor rig;
-  rig.state.disc.discArtist = "Known";
+  rig.orvanta.cdData().disc().discArtist = "Known";
   rig.form.Label12.caption = "";
   rig.click(rig.window.Command1);
   EXPECT_EQ(rig.form.Label12.caption.get(), "Known");
@@ -204,7 +166,7 @@ TEST(CdData, ManyTracks) {
   rig.gate.enter([&] { rig.window.show(rig.desktop); });
   EXPECT_FALSE(rig.window.Label10.visible || rig.window.Label12.visible);
   rig.gate.enter([&] { rig.window.userText(rig.window.Text10, "y"); });
-  rig.state.disc.discInfo[2] = "former";
+  rig.orvanta.cdData().disc().discInfo[2] = "former";
   rig.click(rig.window.Command1);
   EXPECT_EQ(rig.state.disc.discInfo[2], "former") << "a count of three digits never goes into the record";
 }
@@ -317,29 +279,39 @@ TEST(CdData, ThePageOfABareDiscAndOfAFullOne) {
 
 TEST(CdData, ThePrintInItsColumns) {
   Editor rig;
-  rig.gate.enter([&] { rig.window.userText(rig.window.Text2, "Artist"); });
-  rig.gate.enter([&] { rig.window.userText(rig.window.Text3, std::string(200, 'n')); });
+  for (forms::Control* control : rig.window.controls()) {
+    const bool text = control->kind() == forms::Kind::TextBox || control->kind() == forms::Kind::Combo;
+    if (text) rig.gate.enter([&] { rig.window.userText(*control, "v" + control->name()); });
+  }
+  rig.gate.enter([&] { rig.window.userText(rig.window.Text3, std::string(200, 'n') + "\nend"); });
+  rig.window.List1.set(0, "1:\tFirst\t4:06");
+  // A whole number of slices ends in an empty line.
   rig.window.List2.set(0, "1:\t" + std::string(100, 'w'));
+  rig.window.List2.set(2, "3:\tshort");
   rig.click(rig.window.Command4);
-  const Tape& tape = rig.printer.tape;
-  const auto has = [&](std::initializer_list<const char*> lines) {
-    return std::search(tape.begin(), tape.end(), lines.begin(), lines.end()) != tape.end();
-  };
-  EXPECT_TRUE(
-      has({"/", "font MS Sans Serif bold", "/", "45: Orvanta Music Library [19443766.CD]", "/", "/", "font MS Sans Serif", "at 1100"}));
-  EXPECT_TRUE(has({"5: ARTIST:", "47: Artist", "/", "5: TITLE:", "47: ", "/", "5: GENRE:"}));
-  EXPECT_TRUE(has({"5: LABEL / CATALOG #:"}));
-  EXPECT_FALSE(has({"5: RECORDING CODE:"}));
-  EXPECT_TRUE(has({"5: LINER NOTES: ", "/", ("5: " + std::string(74, 'n')).c_str()}));
-  EXPECT_TRUE(has({"5: # of TRACKS:", "23: 3", "/", "5: TOTAL TIME:", "23: 13:29"}));
-  EXPECT_TRUE(has({"7: 2", "23: ", "93: 4:58"}));
-  EXPECT_TRUE(has({"7: 1", ("23: " + std::string(100, 'w')).c_str(), "/", "23: ", "/"}))
-      << "a whole number of slices ends in an empty line";
-  EXPECT_EQ(tape.back(), "end");
+  std::string tape;
+  for (const std::string& act : rig.printer.tape) tape += act + "\n";
+  EXPECT_EQ(tape, kept("print_full.txt", tape));
   rig.printer.tape.clear();
   rig.printer.accepted = false;
   rig.click(rig.window.Command4);
   EXPECT_TRUE(rig.printer.tape.empty());
+}
+
+TEST(CdData, CaptionsOfTheUserAreRead) {
+  const auto captions = [](const std::string& bytes) {
+    Editor rig(discA(), [&](CoreRig& start) {
+      if (!bytes.empty()) start.files.files["/DATA/USERDEF.DAT"] = bytes;
+    });
+    EXPECT_EQ(rig.state.library.userCaptions[0].empty() ? "User Defined 1:" : rig.state.library.userCaptions[0],
+              rig.window.Label37.caption.get())
+        << "the deck knows them too";
+    return rig.window.Label37.caption.get() + "|" + rig.window.Label51.caption.get();
+  };
+  EXPECT_EQ(captions(""), "User Defined 1:|User Defined 2:");
+  EXPECT_EQ(captions("\"Mood:\"\r\n\"Key~ `mine`:\"\r\n"), "Mood:|Key, \"mine\":");
+  EXPECT_EQ(captions("\"\"\r\n\"Second:\"\r\n"), "User Defined 1:|Second:") << "an empty one stays as it is";
+  EXPECT_EQ(captions("\"First:\""), "First:|User Defined 2:");
 }
 
 }  // namespace

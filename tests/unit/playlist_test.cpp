@@ -170,7 +170,7 @@ TEST(CdInfo, ShowsEverythingAndPlaysATrack) {
                                               "",
                                               "TRACK 2:  [Second]",
                                               std::string(74, 'b'),
-                                              "caf"}));
+                                              "caf\xC3\xA9"}));
   EXPECT_EQ(window.caption.get(), "CD Info  [Artist - Title]");
   disc.linerNotes = std::string(80, 'n') + "\r\nend";
   EXPECT_EQ(rows()[5], std::string(74, 'n')) << "a line that is too long: all are wrapped";
@@ -179,6 +179,11 @@ TEST(CdInfo, ShowsEverythingAndPlaysATrack) {
   EXPECT_EQ(rig.state.transport.curTrack, 2);
   rig.gate.enter([&] { window.userRow(window.List1, 3, {3}); });
   EXPECT_EQ(rig.state.transport.curTrack, 2) << "below the tracks nothing plays";
+  rig.state.transport.playMode = Pgm;
+  const auto played = rig.state.transport.curTrack;
+  rig.gate.enter([&] { window.userRow(window.List1, 0, {0}); });
+  EXPECT_EQ(rig.state.transport.curTrack, played) << "a program keeps its own order";
+  rig.state.transport.playMode = Cont;
   rig.gate.enter([&] {
     window.mouseDown(&window.List1, {forms::MouseButton::Right});
     window.mouseUp({forms::MouseButton::Right});

@@ -6,7 +6,7 @@
 
 namespace orvanta {
 
-enum class BoxStyle { Information, Warning, Critical };
+enum class BoxStyle { Information, Question, Warning, Critical };
 
 struct FileQuestion {
   std::string title;
@@ -20,11 +20,13 @@ class Dialogs {
   virtual ~Dialogs() = default;
   /// Plain text; returns when the user has closed it.
   virtual void message(BoxStyle style, const std::string& title, const std::string& text) = 0;
-  virtual bool askYesNo(const std::string& title, const std::string& text) = 0;
+  virtual bool askYesNo(BoxStyle style, const std::string& title, const std::string& text) = 0;
   /// nullopt when cancelled, as for the file questions.
   virtual std::optional<std::string> askText(const std::string& title, const std::string& prompt, const std::string& proposed) = 0;
   virtual std::optional<std::string> askOpenFile(const FileQuestion& question) = 0;
   virtual std::optional<std::string> askSaveFile(const FileQuestion& question) = 0;
+  /// One of the boxes stands: a restart and an exit by program wait.
+  virtual bool open() const = 0;
 };
 
 }  // namespace orvanta

@@ -1,10 +1,12 @@
-// Each box runs a loop of its own; when the process ended in it, control does not come back.
+// Each box runs a loop of its own; when the process ended in it, control does not come back. No box has a parent: its
+// window may go while it stands.
 #include "platform/qt/qt_dialogs.h"
 
 #include <QApplication>
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QMessageBox>
+#include <QWindow>
 
 #include "platform/ports/screen.h"
 #include "platform/qt/to_qt.h"
@@ -17,14 +19,9 @@ QMessageBox::Icon iconOf(BoxStyle style) {
   switch (style) {
     case BoxStyle::Critical: return QMessageBox::Critical;
     case BoxStyle::Warning: return QMessageBox::Warning;
+    case BoxStyle::Question: return QMessageBox::Question;
     default: return QMessageBox::Information;
   }
-}
-
-/// A parent only where one shows: a box over a hidden window would be lost.
-QWidget* owner() {
-  QWidget* active = QApplication::activeWindow();
-  return active != nullptr && active->isVisible() ? active : nullptr;
 }
 
 /// "Words|*.a;*.b|More|*.c" as Qt's "Words (*.a *.b);;More (*.c)".
@@ -40,41 +37,55 @@ QString filterOf(const std::string& filter) {
   return filters.join(QStringLiteral(";;"));
 }
 
-}  // namespace
-
-void QtDialogs::message(BoxStyle style, const std::string& title, const std::string& text) {
-  screen_.setPointer(Pointer::Normal);
-  QMessageBox box(iconOf(style), toQt(title), toQt(text), QMessageBox::Ok, owner());
-  box.setTextFormat(Qt::PlainText);
-  box.exec();
-  gate_.leaveIfEnded();
+/// Over the middle of the window in use, and kept above it by the window manager, which forgets a window that goes.
+void putOver(QDialog& box, const QWidget* window) {
+  if (window == nullptr || !window->isVisible()) return;
+  box.adjustSize();
+  box.winId();
+  if (box.windowHandle() != nullptr) box.windowHandle()->setTransientParent(window->windowHandle());
+  box.move(window->frameGeometry().center() - box.rect().center());
 }
 
-bool QtDialogs::askYesNo(const std::string& title, const std::string& text) {
+}  // namespace
+
+int QtDialogs::run(QDialog& box) {
   screen_.setPointer(Pointer::Normal);
-  QMessageBox box(QMessageBox::Question, toQt(title), toQt(text), QMessageBox::Yes | QMessageBox::No, owner());
-  box.setTextFormat(Qt::PlainText);
-  const bool yes = box.exec() == QMessageBox::Yes;
+  box.setWindowModality(Qt::ApplicationModal);
+  putOver(box, QApplication::activeWindow());
+  ++open_;
+  const int answer = box.exec();
+  --open_;
   gate_.leaveIfEnded();
-  return yes;
+  return answer;
+}
+
+void QtDialogs::message(BoxStyle style, const std::string& title, const std::string& text) {
+  QMessageBox box(iconOf(style), toQt(title), toQt(text), QMessageBox::Ok);
+  box.setTextFormat(Qt::PlainText);
+  run(box);
+}
+
+bool QtDialogs::askYesNo(BoxStyle style, const std::string& title, const std::string& text) {
+  QMessageBox box(iconOf(style), toQt(title), toQt(text), QMessageBox::Yes | QMessageBox::No);
+  box.setTextFormat(Qt::PlainText);
+  return run(box) == QMessageBox::Yes;
 }
 
 std::optional<std::string> QtDialogs::askText(const std::string& title, const std::string& prompt, const std::string& proposed) {
-  screen_.setPointer(Pointer::Normal);
-  bool ok = false;
-  const QString text = QInputDialog::getText(owner(), toQt(title), toQt(prompt), QLineEdit::Normal, toQt(proposed), &ok);
-  gate_.leaveIfEnded();
-  return ok ? std::optional(text.toStdString()) : std::nullopt;
+  QInputDialog box;
+  box.setWindowTitle(toQt(title));
+  box.setLabelText(toQt(prompt));
+  box.setTextValue(toQt(proposed));
+  return run(box) == QDialog::Accepted ? std::optional(box.textValue().toStdString()) : std::nullopt;
 }
 
 std::optional<std::string> QtDialogs::askFile(const FileQuestion& question, bool save) {
-  screen_.setPointer(Pointer::Normal);
-  QFileDialog dialog(owner(), toQt(question.title), toQt(question.folder), filterOf(question.filter));
+  QFileDialog dialog(nullptr, toQt(question.title), toQt(question.folder), filterOf(question.filter));
   dialog.setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
   dialog.setFileMode(save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
-  if (!question.name.empty()) dialog.selectFile(toQt(question.name));
-  const bool chosen = dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty();
-  gate_.leaveIfEnded();
+  // The dialog takes names in double quotes for a list of them.
+  if (!question.name.empty()) dialog.selectFile(toQt(question.name).replace(QLatin1Char('"'), QLatin1Char('\'')));
+  const bool chosen = run(dialog) == QDialog::Accepted && !dialog.selectedFiles().isEmpty();
   return chosen ? std::optional(dialog.selectedFiles().front().toStdString()) : std::nullopt;
 }
 

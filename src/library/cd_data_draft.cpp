@@ -1,0 +1,88 @@
+// What was typed in the CD Data window when the session ended under it.
+#include <algorithm>
+
+#include "base/log.h"
+#include "base/text.h"
+#include "library/cd_data.h"
+#include "library/list_text.h"
+#include "platform/ports/dialogs.h"
+#include "platform/ports/files.h"
+#include "platform/ports/ports.h"
+
+namespace orvanta {
+
+namespace {
+
+bool holdsText(const forms::Control& control) { return control.kind() == forms::Kind::TextBox || control.kind() == forms::Kind::Combo; }
+
+std::string rowName(const forms::ListBox& list, int row) { return list.name() + "(" + std::to_string(row) + ")"; }
+
+}  // namespace
+
+std::string CdData::draftPath() const { return joinPath(state_.settings.appDir, disc_.discKey + ".draft"); }
+
+void CdData::keepDraft() {
+  if (!openForPerson() || !changed_) return;
+  takeEntry(titles_);
+  takeEntry(lyrics_);
+  Draft draft;
+  for (const forms::Control* control : form_.controls()) {
+    const bool entry = control == &form_.Text1 || control == &form_.Text8;
+    if (holdsText(*control) && (!entry || entryOf(*control).typedAnything())) draft.emplace_back(control->name(), control->caption.get());
+  }
+  for (int row = 0; row < form_.List1.count(); ++row) draft.emplace_back(rowName(form_.List1, row), rowTitle(form_.List1.row(row)));
+  for (int row = 0; row < form_.List2.count(); ++row) {
+    draft.emplace_back(rowName(form_.List2, row), state_.library.trackLyrics[static_cast<size_t>(row) + 1]);
+  }
+  if (!ports_.files.write(draftPath(), draftBytes(draft))) logLine("disc", draftPath() + " could not be written: " + ports_.files.reason());
+}
+
+/// Until OK or Cancel the draft stays, so that an end in between loses nothing either.
+void CdData::offerDraft() {
+  const auto bytes = ports_.files.read(draftPath());
+  if (!bytes) return;
+  const Draft draft = parseDraft(*bytes);
+  if (draft.empty()) return;
+  const bool wanted = ports_.dialogs.askYesNo(BoxStyle::Question, "Orvanta",
+                                              "What was typed for this disc when the program ended was kept.\n\nGo on with it?");
+  if (!form_.loaded()) return;
+  if (wanted) {
+    takeUp(draft);
+  } else {
+    ports_.files.remove(draftPath());
+  }
+}
+
+void CdData::takeUp(const Draft& draft) {
+  beginFill();
+  for (const auto& [name, text] : draft) {
+    if (takeUpRow(name, text)) continue;
+    forms::Control* control = form_.find(name);
+    if (control == nullptr || !holdsText(*control) || control->caption.get() == text) continue;
+    control->caption = text;
+    edited(*control);
+  }
+  state_.library.dataDirty = kOn;
+  changed_ = true;
+  updateSubmitKey();
+}
+
+bool CdData::takeUpRow(const std::string& name, const std::string& text) {
+  for (forms::ListBox* list : {&form_.List1, &form_.List2}) {
+    if (name.rfind(list->name() + "(", 0) != 0) continue;
+    const auto row = static_cast<int>(std::clamp(leadingNumber(name.substr(list->name().size() + 1)), -1.0, 1000.0));
+    if (row < 0 || row >= list->count()) return true;
+    if (list == &form_.List1) {
+      list->set(row, trackRow(disc_, row + 1, withoutControls(text)));
+    } else {
+      state_.library.trackLyrics[static_cast<size_t>(row) + 1] = withoutControls(withCrLf(text), true);
+      list->set(row, lyricsRow(row + 1, withCrLf(text)));
+    }
+    // A row of the lists is one of those changes that Cancel asks about, since they were nearly lost once.
+    state_.library.askOnCancel = kOn;
+    return true;
+  }
+  return false;
+}
+
+}  // namespace orvanta

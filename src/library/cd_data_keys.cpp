@@ -1,0 +1,138 @@
+// The keys of the CD Data window.
+#include "base/text.h"
+#include "library/cd_data.h"
+#include "library/html_export.h"
+#include "library/print_record.h"
+#include "library/upward.h"
+#include "platform/ports/dialogs.h"
+#include "platform/ports/ports.h"
+#include "platform/ports/processes.h"
+#include "platform/ports/screen.h"
+
+namespace orvanta {
+
+namespace {
+
+constexpr int kMostToSubmit = 100;
+constexpr int kClearedRows = 50;
+
+}  // namespace
+
+void CdData::mouseDown(forms::Control* control, const forms::Mouse& /*mouse*/) {
+  if (control == &form_.List1 || control == &form_.List2) listMouseDown_ = true;
+}
+
+void CdData::mouseUp(forms::Control* control, const forms::Mouse& mouse) {
+  if (control == nullptr || mouse.button != forms::MouseButton::Left) return;
+  if (control->name() == "CommandT") {
+    showTab(static_cast<int16_t>(control->index()));
+  } else {
+    pressed(control->name());
+  }
+}
+
+void CdData::pressed(const std::string& name) {
+  if (name == "Command1") {
+    ok();
+  } else if (name == "Command2") {
+    cancel();
+  } else if (name == "Command3") {
+    upward_.showHelp(kHelpTopic);
+  } else if (name == "Command4") {
+    print_.run(disc_);
+  } else if (name == "Command5") {
+    clear();
+  } else if (name == "Command6") {
+    ports_.processes.start({{joinPath(state_.process.windowsDir, "orvlib"), "LX"}, state_.settings.appDir, WindowStyle::Normal});
+  } else if (name == "Command7") {
+    html_.run(disc_);
+  } else if (name == "Command11") {
+    disc_.trackLengths[101] = trim(form_.Label13.caption.get());
+    upward_.openCddb();
+  } else if (name == "Command12") {
+    submit();
+  } else if (name == "Command13") {
+    askCaptions();
+  } else if (name == "Command14") {
+    upward_.lookForLyrics();
+    ports_.screen.setPointer(Pointer::Normal);
+  } else if (name == "addGenreKey") {
+    addGenre();
+  }
+}
+
+void CdData::addGenre() {
+  const auto genre = genres_.addGenre();
+  if (!genre) return;
+  state_.library.askOnCancel = state_.library.dataDirty = kOn;
+  changed_ = true;
+  genres_.fillGenres(form_.cat);
+  form_.cat.caption = *genre;
+}
+
+void CdData::askCaptions() {
+  genres_.askUserCaptions();
+  showUserCaptions();
+}
+
+bool CdData::askLoseChanges() {
+  form_.enabled = false;
+  const bool lose = ports_.dialogs.askYesNo(BoxStyle::Warning, "Orvanta", "Lose Changes?");
+  form_.enabled = true;
+  return lose;
+}
+
+/// By a person. What is typed for a row is taken for it; what is typed for none cannot be, and is not dropped unasked.
+void CdData::ok() {
+  takeEntry(titles_);
+  takeEntry(lyrics_);
+  if (entryWaits() && !askLoseChanges()) return;
+  Command1_Click();
+}
+
+void CdData::cancel() {
+  if ((state_.library.askOnCancel == kOn || entryWaits()) && !askLoseChanges()) return;
+  state_.library.askOnCancel = kOff;
+  close();
+}
+
+bool CdData::mayBeLost() { return !openForPerson() || !changed_ || askLoseChanges(); }
+
+void CdData::clear() {
+  beginFill();
+  form_.Command12.enabled = false;
+  for (forms::TextBox* box : {&form_.Text2, &form_.Text3, &form_.Text4, &form_.Text6, &form_.Text7, &form_.Text10, &form_.Text11,
+                              &form_.Text13, &form_.Text15, &form_.Text16, &form_.Text18, &form_.upcnum, &form_.cdcost}) {
+    box->caption = "";
+  }
+  for (forms::Combo* combo :
+       {&form_.cat, &form_.mediatype, &form_.stloc, &form_.recdtype, &form_.mrat, &form_.rrat, &form_.mcrat, &form_.pcrat, &form_.crat}) {
+    combo->caption = "";
+  }
+  for (int row = 0; row < kClearedRows; ++row) {
+    disc_.trackTitles[static_cast<size_t>(row) + 1].clear();
+    form_.List1.set(row, "");
+    form_.List2.set(row, "");
+  }
+  for (auto& field : disc_.extraInfo) field.clear();
+  state_.library.trackLyrics.fill("");
+  state_.library.dataDirty = state_.library.askOnCancel = kOn;
+  changed_ = true;
+}
+
+/// Lyrics go along from their rows' fourth character on; from row 10 on that is the TAB, which receivers know.
+void CdData::submit() {
+  if (disc_.trackCount > kMostToSubmit) {
+    ports_.dialogs.message(BoxStyle::Critical, "Orvanta", "Unable To Submit - Track Limit Exceeded For CDDB Submission From Orvanta");
+    return;
+  }
+  for (forms::TextBox* box : {&form_.Text2, &form_.Text4}) box->caption = withoutControls(box->caption.get());
+  ports_.screen.setPointer(Pointer::Hourglass);
+  for (int row = 0; row < form_.List2.count() && row < 50; ++row) {
+    const std::string& text = form_.List2.row(row);
+    if (!text.empty()) disc_.extraInfo[static_cast<size_t>(row) + 13] = trim(text.size() > 3 ? text.substr(3) : "");
+  }
+  upward_.submitToCddb();
+}
+
+}  // namespace orvanta

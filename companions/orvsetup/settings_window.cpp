@@ -9,6 +9,7 @@
 #include <QFontComboBox>
 #include <QFormLayout>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScrollArea>
@@ -59,10 +60,10 @@ QPushButton* colourButton(Colour start, const std::shared_ptr<Colour>& chosen) {
 
 }  // namespace
 
-SettingsWindow::SettingsWindow(Settings& settings) : settings_(settings) {
+SettingsWindow::SettingsWindow(Settings& settings, bool withDrive) : settings_(settings) {
   setWindowTitle(tr("Orvanta LX Setup"));
   auto* tabs = new QTabWidget;
-  tabs->addTab(drivePage(), tr("Drive"));
+  tabs->addTab(drivePage(withDrive), tr("Drive"));
   tabs->addTab(playPage(), tr("Playing"));
   tabs->addTab(looksPage(), tr("Faceplate"));
   tabs->addTab(displayPage(), tr("Display"));
@@ -81,9 +82,12 @@ SettingsWindow::SettingsWindow(Settings& settings) : settings_(settings) {
   resize(560, 460);
 }
 
-QWidget* SettingsWindow::drivePage() {
+QWidget* SettingsWindow::drivePage(bool withDrive) {
   const auto [page, rows] = newPage();
-  path(rows, tr("CD drive"), settings_.cdProbePath, Pick::Folder, tr("A folder with a disc image, or a device such as /dev/sr0"));
+  if (withDrive) {
+    path(rows, tr("CD drive"), settings_.cdProbePath, Pick::Folder, tr("A folder with a disc image, or a device such as /dev/sr0"));
+    rows->addRow(QString(), new QLabel(tr("Another drive is used from the deck's next start on.")));
+  }
   choice(rows, tr("Volume sliders"), settings_.soundMode,
          {{0, tr("none: a button for the mixer")}, {3, tr("the deck's own volume")}, {4, tr("the system's mixer")}});
   check(rows, tr("Sounds of keys and door"), settings_.soundsOff, true);
@@ -95,7 +99,7 @@ QWidget* SettingsWindow::playPage() {
   check(rows, tr("Eject at the end of a disc"), settings_.appOptions[1]);
   check(rows, tr("Quit after the drawer has opened"), settings_.appOptions[2]);
   check(rows, tr("Start the mixer with the deck"), settings_.appOptions[3]);
-  number(rows, tr("Length of an intro"), settings_.appOptions[4], 2, 30, tr(" s"));
+  number(rows, tr("Length of an intro"), settings_.appOptions[4], 2, 30, 7, tr(" s"));
   check(rows, tr("Play on after the deck was switched off"), settings_.appOptions[5]);
   check(rows, tr("Small window always goes to the tray"), settings_.minToTray);
   check(rows, tr("Open CD Data beside the deck"), settings_.editorFromFaceplate, true);
@@ -208,13 +212,16 @@ void SettingsWindow::check(QFormLayout* page, const QString& label, int16_t& val
   });
 }
 
-void SettingsWindow::number(QFormLayout* page, const QString& label, int16_t& value, int least, int most, const QString& unit) {
+void SettingsWindow::number(QFormLayout* page, const QString& label, int16_t& value, int least, int most, int usual, const QString& unit) {
   auto* box = new QSpinBox;
   box->setRange(least, most);
   box->setSuffix(unit);
-  box->setValue(value);
+  box->setValue(value >= least && value <= most ? value : usual);
   page->addRow(label, box);
-  takers_.emplace_back([box, &value] { value = static_cast<int16_t>(box->value()); });
+  // A number that the deck does not know stays while the user leaves its box alone.
+  takers_.emplace_back([box, &value, before = box->value()] {
+    if (box->value() != before) value = static_cast<int16_t>(box->value());
+  });
 }
 
 void SettingsWindow::choice(QFormLayout* page, const QString& label, int16_t& value, const std::vector<std::pair<int, QString>>& choices) {
@@ -261,9 +268,9 @@ void SettingsWindow::font(QFormLayout* page, const QString& label, FontGroup& va
   both->addLayout(first);
   both->addLayout(second);
   page->addRow(label, both);
-  takers_.emplace_back([=, &value] {
+  takers_.emplace_back([=, &value, hadOwn = own->isChecked()] {
     value.fontName = own->isChecked() ? family->currentFont().family().toStdString() : "";
-    value.fontSize = size->value();
+    if (own->isChecked() || hadOwn) value.fontSize = own->isChecked() ? size->value() : 0;
     value.fontBold = static_cast<int16_t>(bold->isChecked());
     value.fontItalic = static_cast<int16_t>(italic->isChecked());
     value.fontUnderline = static_cast<int16_t>(underline->isChecked());

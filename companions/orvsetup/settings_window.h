@@ -14,11 +14,11 @@ namespace orvanta {
 
 class SettingsWindow : public QDialog {
  public:
-  /// Shows `settings`; they take what the user chose when the window was accepted.
-  explicit SettingsWindow(Settings& settings);
+  /// Shows `settings`; they take what the user chose when the window was accepted. The drive is shown where it is theirs.
+  SettingsWindow(Settings& settings, bool withDrive);
 
  private:
-  QWidget* drivePage();
+  QWidget* drivePage(bool withDrive);
   QWidget* playPage();
   QWidget* looksPage();
   QWidget* displayPage();
@@ -30,7 +30,7 @@ class SettingsWindow : public QDialog {
   void text(QFormLayout* page, const QString& label, std::string& value, const QString& tip = {});
   void path(QFormLayout* page, const QString& label, std::string& value, Pick pick, const QString& tip = {});
   void check(QFormLayout* page, const QString& label, int16_t& value, bool inverted = false);
-  void number(QFormLayout* page, const QString& label, int16_t& value, int least, int most, const QString& unit);
+  void number(QFormLayout* page, const QString& label, int16_t& value, int least, int most, int usual, const QString& unit);
   void choice(QFormLayout* page, const QString& label, int16_t& value, const std::vector<std::pair<int, QString>>& choices);
   void colour(QFormLayout* page, const QString& label, Colour& value);
   void font(QFormLayout* page, const QString& label, FontGroup& value);

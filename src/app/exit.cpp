@@ -12,13 +12,25 @@
 namespace orvanta {
 
 void Exit::exitProgram() {
-  volume_.releaseMute();
-  const Settings& settings = state_.settings;
-  form_.Label28.foreColor = colours::kDarkRed;
-  writeSettings(SettingsFile::SettingsDat, ports_.files, settings.appDir, settings);
+  save();
   sounds_.play(Sound::Click);
+  leave();
+}
+
+void Exit::endOfSession() {
+  save();
+  leave();
+}
+
+void Exit::save() {
+  volume_.releaseMute();
+  form_.Label28.foreColor = colours::kDarkRed;
+  writeSettings(SettingsFile::SettingsDat, ports_.files, state_.settings.appDir, state_.settings);
+}
+
+void Exit::leave() {
   volume_.mixer().tidyUp();
-  clearMarker(ports_.files, settings.appDir, kRunningMarker);
+  clearMarker(ports_.files, state_.settings.appDir, kRunningMarker);
   ports_.screen.setPointer(Pointer::Hourglass);
   form_.SSPanel3.backColor = colours::kRed;
   form_.SSPanel3.refresh();
@@ -26,7 +38,7 @@ void Exit::exitProgram() {
     state_.transport.playingFlag = kOff;
     for (auto& mask : form_.icntlb) mask.visible = true;
   }
-  if (settings.appOptions[5] != 1) {
+  if (state_.settings.appOptions[5] != 1) {
     ports_.device.command("Stop");
     ports_.device.command("Close");
   }

@@ -12,8 +12,14 @@ class Exit {
       : ports_(ports), volume_(volume), sounds_(sounds), form_(form), state_(state) {}
   /// Saves, stops the disc unless option 5 leaves it playing, and ends the process.
   [[noreturn]] void exitProgram();
+  /// The same where the session ends: without a sound.
+  [[noreturn]] void endOfSession();
+  /// Mute is released and the settings are saved.
+  void save();
 
  private:
+  [[noreturn]] void leave();
+
   Ports& ports_;
   Volume& volume_;
   InterfaceSounds& sounds_;

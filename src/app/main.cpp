@@ -1,11 +1,17 @@
 // The one place that knows every adapter: it makes them, hands them to the core, and runs the loop.
 #include <QApplication>
 #include <QSocketNotifier>
+#include <QTimer>
+#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
+#include <functional>
 #include <memory>
+#include <optional>
+#include <thread>
 
+#include "app/command_line.h"
 #include "app/licences.h"
 #include "app/options.h"
 #include "app/orvanta.h"
@@ -21,6 +27,7 @@
 #include "platform/linux/mixer_stand_in.h"
 #include "platform/linux/play_on.h"
 #include "platform/linux/player.h"
+#include "platform/linux/signals.h"
 #include "platform/linux/sound_choice.h"
 #include "platform/linux/stream_volume.h"
 #include "platform/linux/wave_player.h"
@@ -38,24 +45,49 @@ constexpr int kLockTime = 3000;   ///< milliseconds for another player to let go
 constexpr int kDiscTime = 10000;  ///< for a drive to tell a disc that this process was started for
 constexpr int kFarewell = 500;
 
-/// A second start on the same data folder: its disc goes to the window that is there, which comes to
-/// the front. False: there is none.
-bool handedToFirst(const std::string& socket, const std::string& disc) {
-  constexpr int kPatience = 1000;
-  return ask(socket, disc.empty() ? "raise" : "disc " + disc, kPatience).has_value();
+/// A second start goes to the deck that listens for its data folder. nullopt: there is none, and `server` listens now;
+/// else the code that this process ends with.
+std::optional<int> handedToFirst(SocketServer& server, const std::string& socket, const SecondStart& start) {
+  constexpr int kReply = 5000;  // milliseconds
+  constexpr int kTries = 100;
+  constexpr auto kPause = std::chrono::milliseconds(50);
+  for (int tries = 0; tries < kTries; ++tries) {
+    if (server.listen()) return std::nullopt;
+    const Asked asked = askWhoListens(socket, lineOf(start), kReply);
+    if (asked.delivered && !asked.reply) std::fputs("orvanlx: the deck that runs is busy; it takes this start up when it can\n", stderr);
+    if (asked.delivered) return 0;
+    // It has just started, or is about to end.
+    std::this_thread::sleep_for(kPause);
+  }
+  std::fputs("orvanlx: another deck has this data folder and does not answer\n", stderr);
+  return 1;
 }
 
-/// What a second start asks of the first.
-void serveSecondStarts(SocketServer& server, CoreGate& gate, DiscTray& tray, forms::Form& form) {
+/// What second starts and the setup program ask of this deck.
+void serve(SocketServer& server, CoreGate& gate, Orvanta& orvanta) {
   while (const auto request = server.next()) {
-    SocketServer::reply(*request, "ok");
+    const auto start = secondStartOf(request->line);
+    SocketServer::reply(*request, start || request->line == kSettingsChanged ? "ok" : "no");
     gate.enter([&] {
-      if (request->line.rfind("disc ", 0) == 0) tray.offer(request->line.substr(5));
-      form.minimised = false;
-      if (form.view() != nullptr) form.view()->raise();
+      if (start) orvanta.secondStart(*start);
+      if (request->line == kSettingsChanged) orvanta.takeUpSettings();
     });
   }
 }
+
+/// The signals that end a program end it as its exit does; children that have ended are let go of.
+void serveSignals(Signals& wishes, const HostProcesses& processes, CoreGate& gate, Orvanta& orvanta) {
+  for (auto what = wishes.next(); what != Signals::What::None; what = wishes.next()) {
+    if (what == Signals::What::End) {
+      gate.enter([&] { orvanta.endOfSession(); });
+    } else {
+      processes.reap();
+    }
+  }
+}
+
+/// When the display's server dies, Qt ends the process where it stands: what is still to be kept is kept then.
+std::function<void()> lastWill;
 
 /// X11 where both are there, unless the user chose: stored places and top-most windows need it.
 /// One transform does all scaling, so Qt's own stays out.
@@ -73,14 +105,24 @@ int run(int argc, char** argv) {
   if (options.help) return std::fputs(helpText().c_str(), stdout) < 0 ? 1 : 0;
   if (options.version) return std::fputs("Orvanta LX " ORVANTA_VERSION "\n" ORVANTA_LICENCES, stdout) < 0 ? 1 : 0;
 
+  Signals wishes;
   HostFiles files;
   HostProcesses processes;
   HostSystem system(options.handedOn());
+  if (options.host.dataDir.empty()) setUpFirstStart(files, processes, system);
   // The drive's thread reads the disc while Qt starts.
   const auto [data, path] = placesOf(options.host, files, system.systemDir());
   const bool real = isDevice(path);
-  const std::string socket = socketPath("deck", data);
-  if (!options.takeOver && handedToFirst(socket, options.disc)) return 0;
+  if (!options.host.dataDir.empty()) files.makeFolder(data);
+  const std::string folder = HostFiles::actual(data);
+  const std::string socket = socketPath("deck", identityOf(folder));
+  SocketServer server(socket, folder);
+  // A program on the command line is run in place of a deck, whether or not one is there.
+  const bool forProgram = classify(options.host.words).kind == CommandLine::Kind::Program && files.exists(options.host.words);
+  if (!options.takeOver && !forProgram) {
+    const auto code = handedToFirst(server, socket, {options.disc, options.host.drive, options.host.words});
+    if (code) return *code;
+  }
   const std::string memory = data.empty() ? "" : joinPath(data, "tray.dat");
   auto images = real ? nullptr : std::make_unique<ImageDrive>(path, options.disc, memory);
   auto discs = real ? std::make_unique<CdromDrive>(kernelCdrom(path)) : nullptr;
@@ -116,6 +158,12 @@ int run(int argc, char** argv) {
   Ports ports{device, tray, clock, dialogs, files, processes, screen, system, volume, mixer, sounds, printer, desktop};
   auto orvanta = std::make_unique<Orvanta>(ports);
 
+  QSocketNotifier signalled(wishes.fd(), QSocketNotifier::Read);
+  QObject::connect(&signalled, &QSocketNotifier::activated, [&] { serveSignals(wishes, processes, gate, *orvanta); });
+  QObject::connect(
+      &application, &QGuiApplication::commitDataRequest, &application, [&] { gate.enter([&] { orvanta->endOfSession(); }); },
+      Qt::DirectConnection);
+
   // The start-up form first: it takes the hand-over file away, upon which a process that made way for
   // this one lets go of the drive.
   gate.enter([&] { orvanta->startUp(options.host); });
@@ -130,13 +178,25 @@ int run(int argc, char** argv) {
     if (rest && player->holder() == Holder::Us && rest->to <= player->toc().leadOut) player->play(rest->from, rest->to);
   }
   gate.enter([&] { orvanta->showFaceplate(); });
-  SocketServer server(socket);
+  // The deck that made way for this one may still listen for a moment.
   std::unique_ptr<QSocketNotifier> notifier;
-  if (server.fd() >= 0) {
+  QTimer listens;
+  const auto listen = [&] {
+    if (!server.listen()) return;
+    listens.stop();
     notifier = std::make_unique<QSocketNotifier>(server.fd(), QSocketNotifier::Read);
-    QObject::connect(notifier.get(), &QSocketNotifier::activated, [&] { serveSecondStarts(server, gate, tray, orvanta->form); });
-  }
+    QObject::connect(notifier.get(), &QSocketNotifier::activated, [&] { serve(server, gate, *orvanta); });
+    serve(server, gate, *orvanta);
+  };
+  QObject::connect(&listens, &QTimer::timeout, listen);
+  constexpr int kListenAgain = 100;  // milliseconds
+  listens.start(kListenAgain);
+  lastWill = [&] { gate.enter([&] { orvanta->displayGone(); }); };
+  std::atexit([] {
+    if (lastWill) lastWill();
+  });
   const int code = gate.ended() ? 0 : QApplication::exec();
+  lastWill = nullptr;
   volume.keep();
   if (player->state() == PlayState::Playing) {
     handOn(*player, player->playEnd(), path, joinPath(system.windowsDir(), "orvplayon"), {path, memory, options.audio, level});

@@ -2,8 +2,14 @@
 #include "app/orvanta.h"
 
 #include "base/text.h"
+#include "platform/ports/aux_volume.h"
 #include "platform/ports/cd_device.h"
+#include "platform/ports/clock.h"
+#include "platform/ports/core_gate.h"
+#include "platform/ports/dialogs.h"
+#include "platform/ports/disc_tray.h"
 #include "platform/ports/processes.h"
+#include "platform/ports/system.h"
 #include "state/settings_files.h"
 
 namespace orvanta {
@@ -43,6 +49,46 @@ void Orvanta::startUp(const HostOptions& options) { startUp_.run(options); }
 void Orvanta::showFaceplate() {
   form.smallFonts = state.process.smallFonts == kOn;
   form.show(ports_.desktop);
+  keeper_.start();
+}
+
+void Orvanta::secondStart(const SecondStart& start) {
+  form.minimised = false;
+  if (form.view() != nullptr) form.view()->raise();
+  if (!start.drive.empty() && start.drive != state.settings.cdProbePath) {
+    // A process has one drive: the next one has the other.
+    ports_.system.changeDrive(start.drive, start.disc);
+    restartWhenFree();
+    return;
+  }
+  if (!start.disc.empty()) ports_.tray.offer(start.disc);
+  if (start.words.empty()) return;
+  startUp_.takeWord(start.words);
+  if (discIn() && leadingNumber(state.process.commandWord) > 0) faceplate_.playTrackOfCommandLine();
+}
+
+/// A restart closes the window's data: it waits until the user has closed them.
+void Orvanta::restartWhenFree() {
+  constexpr int kLook = 500;  // milliseconds
+  restartLater_ = ports_.clock.makeTimer([this] {
+    if (restartWaits()) return;
+    restartLater_->setInterval(0);
+    restartForDisc();
+  });
+  restartLater_->setInterval(kLook);
+}
+
+void Orvanta::endOfSession() {
+  if (!form.loaded()) end();
+  keepDrafts();
+  exit_.endOfSession();
+}
+
+void Orvanta::displayGone() {
+  if (!form.loaded()) return;
+  keepDrafts();
+  exit_.save();
+  ports_.auxVolume.keep();
 }
 
 bool Orvanta::readCdRecord(const std::string& /*cdFilePath*/) {
@@ -110,7 +156,15 @@ void Orvanta::record() {
 
 void Orvanta::runSetup() {
   form.minimised = true;
-  ports_.processes.runAndWait({{joinPath(state.process.windowsDir, "orvsetup"), "ACTIVELX"}, state.settings.appDir, WindowStyle::Normal});
+  ProcessRequest request{{joinPath(state.process.windowsDir, "orvsetup"), "ACTIVELX"}, state.settings.appDir, WindowStyle::Normal};
+  if (startUp_.dataFolderGiven()) request.arguments.insert(request.arguments.end(), {"--data", state.settings.appDir});
+  const int how = ports_.processes.runAndWait(request);
+  takeUpSettings();
+  form.minimised = false;
+  if (how < 0) ports_.dialogs.message(BoxStyle::Warning, "Orvanta", "The setup program " + request.arguments[0] + " could not be run.");
+}
+
+void Orvanta::takeUpSettings() {
   for (const auto file : {SettingsFile::Orvwin1, SettingsFile::Orvwin3, SettingsFile::Orvwin4, SettingsFile::Orvwin7}) {
     readSettings(file, ports_.files, state.settings.appDir, state.settings);
   }
@@ -119,7 +173,6 @@ void Orvanta::runSetup() {
   if (state.settings.smallFaceplate != kOn) layout_.sizeLarge();
   volume_.activate();
   if (state.disc.noDiscState == 0 && state.disc.drawerOpen == kOff) colours_.loadorvanta1a();
-  form.minimised = false;
 }
 
 }  // namespace orvanta

@@ -2,8 +2,10 @@
 #pragma once
 
 #include "app/exit.h"
+#include "app/keeper.h"
 #include "app/record.h"
 #include "app/restart.h"
+#include "app/second_start.h"
 #include "app/start_up.h"
 #include "faceplate/drawer.h"
 #include "faceplate/faceplate.h"
@@ -33,6 +35,14 @@ class Orvanta : private PlaybackUpward, private LibraryUpward {
   /// The start-up form's work. From here on a process that hands over to this one lets go.
   void startUp(const HostOptions& options);
   void showFaceplate() override;
+  /// A second start on the same data folder: the window comes to the front and does what that start asked for.
+  void secondStart(const SecondStart& start);
+  /// The settings were changed from outside: they are read and shown.
+  void takeUpSettings();
+  /// The session ends: what the exit does, without a question and without a sound.
+  [[noreturn]] void endOfSession();
+  /// The display has gone: what can be kept is kept.
+  void displayGone();
 
   /// What fills and saves the disc's texts by program.
   CdData& cdData() { return cdData_; }
@@ -87,8 +97,12 @@ class Orvanta : private PlaybackUpward, private LibraryUpward {
   void lookForLyrics() override {}
   void automaticLookup() override {}
 
+  void restartWhenFree();
+
   Ports& ports_;
   bool exitWanted_ = false;
+  std::unique_ptr<Timer> restartLater_;
+  Keeper keeper_{ports_, state};
   StartUp startUp_{ports_, state};
   Display display_{form, state};
   KeyLooks looks_;

@@ -80,6 +80,7 @@ void StartUp::measureScreen() {
 }
 
 void StartUp::findData(const HostOptions& options) {
+  dataFolderGiven_ = !options.dataDir.empty();
   if (options.dataDir.empty()) {
     const std::string& folder = state_.process.systemDir;
     bool known = readPlaces(ports_.files, folder, state_.settings);

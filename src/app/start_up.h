@@ -33,6 +33,10 @@ class StartUp {
   StartUp(Ports& ports, SharedState& state) : ports_(ports), state_(state) {}
   /// Reads everything that the faceplate's load needs; ends the process where a setup is due first.
   void run(const HostOptions& options);
+  /// This start was told its data folder.
+  bool dataFolderGiven() const { return dataFolderGiven_; }
+  /// The program words of this start, or of a second one that this deck takes over.
+  void takeWord(const std::string& line);
 
  private:
   void runProgram(const std::string& words);
@@ -42,10 +46,10 @@ class StartUp {
   bool setUp(const std::string& program, const std::string& folder);
   [[noreturn]] void runSetup(const std::string& folder);
   void readSettingsFiles();
-  void takeWord(const std::string& line);
 
   Ports& ports_;
   SharedState& state_;
+  bool dataFolderGiven_ = false;
 };
 
 }  // namespace orvanta

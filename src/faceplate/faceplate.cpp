@@ -19,6 +19,24 @@ namespace {
 
 constexpr int kDragStarts = 60;  ///< twips that a hand moves before the window follows it
 
+/// Tells the sibling programs that a player runs. A load that ends the process, since another one holds the drive,
+/// takes it away again.
+class RunningMarker {
+ public:
+  RunningMarker(Files& files, const std::string& folder) : files_(files), folder_(folder) { setMarker(files_, folder_, kRunningMarker); }
+  RunningMarker(const RunningMarker&) = delete;
+  RunningMarker& operator=(const RunningMarker&) = delete;
+  ~RunningMarker() {
+    if (!stays_) clearMarker(files_, folder_, kRunningMarker);
+  }
+  void stays() { stays_ = true; }
+
+ private:
+  Files& files_;
+  const std::string& folder_;
+  bool stays_ = false;
+};
+
 }  // namespace
 
 Faceplate::Faceplate(Ports& ports, const FaceplateParts& parts, CDForm& form, SharedState& state, PlaybackUpward& upward)
@@ -34,8 +52,7 @@ Faceplate::Faceplate(Ports& ports, const FaceplateParts& parts, CDForm& form, Sh
 
 void Faceplate::load() {
   if (state_.process.commandWord == "RUNRIPPER") form_.minimised = true;
-  // Tells the sibling programs that a player runs.
-  setMarker(files_, state_.settings.appDir, kRunningMarker);
+  RunningMarker marker(files_, state_.settings.appDir);
   state_.clearForLoad();
   form_.firstStop = &form_.icntla[Play];
   // The title lines are laid out by what they hold.
@@ -66,9 +83,9 @@ void Faceplate::load() {
     on_.sounds.runMixerAtStart();
   }
   on_.clock.start();
+  marker.stays();
 }
 
-/// A number above the disc's tracks is passed over.
 void Faceplate::playTrackOfCommandLine() {
   const auto track = static_cast<int16_t>(leadingNumber(state_.process.commandWord));
   state_.process.commandWord.clear();

@@ -50,6 +50,9 @@ class Faceplate : public forms::FormEvents {
   void fileDropped(const std::string& path) override;
   void closeAsked() override;
 
+  /// Plays the track of the start's words; a number above the disc's tracks is passed over.
+  void playTrackOfCommandLine();
+
  private:
   void setPlayState();
   void pressed(forms::Control& control);
@@ -58,7 +61,6 @@ class Faceplate : public forms::FormEvents {
   void rightReleased(const forms::Control& control);
   void letGo(const forms::Control& control);
   bool sliderKey(const forms::KeyPress& key);
-  void playTrackOfCommandLine();
   void askForDisc();
   /// The drawer is open, or nothing lies in it.
   bool discWanted() const;

@@ -1,10 +1,12 @@
 // Storing and restoring the window's place, in twips.
 #include "faceplate/position.h"
 
+#include <algorithm>
+#include <optional>
+
 #include "base/text.h"
 #include "platform/ports/files.h"
-#include "platform/ports/screen.h"
-#include "state/field_file.h"
+#include "state/record_file.h"
 
 namespace orvanta {
 
@@ -14,55 +16,68 @@ namespace {
 constexpr int kRightMargin = 400;
 constexpr int kLowerMargin = 200;
 
+/// A place that counts from the screen's corner, on that screen.
 int kept(int place, int size, int margin, int screen) {
   if (place < 0) return 0;
-  return int64_t{place} + size + margin > screen ? screen - size : place;
+  return int64_t{place} + size + margin > screen ? std::max(0, screen - size) : place;
+}
+
+int placeOf(const std::optional<std::string>& text) {
+  const double value = text ? leadingNumber(*text) : 0;
+  return value > -1e9 && value < 1e9 ? static_cast<int>(value) : 0;
 }
 
 }  // namespace
+
+WorkArea Position::area() const { return screen_.workAreaOf({form_.left, form_.top, form_.left + form_.width, form_.top + form_.height}); }
+
+void Position::put(const WorkArea& area, int left, int top) {
+  form_.left = area.twips.left + left;
+  form_.top = area.twips.top + top;
+}
 
 std::string Position::path() const {
   return joinPath(state_.settings.appDir, state_.settings.smallFaceplate == kOn ? "SMPOS1.DAT" : "CDPOSN.DAT");
 }
 
+/// Left and top; behind them the name of a screen that is not the primary one.
 void Position::saveposn1() {
   if (state_.process.commandWord == "RUNRIPPER") return;
-  form_.left = kept(form_.left, form_.width, 0, screen_.widthTwips());
-  form_.top = kept(form_.top, form_.height, 0, screen_.heightTwips());
+  const WorkArea on = area();
+  const int left = kept(form_.left - on.twips.left, form_.width, 0, on.width());
+  const int top = kept(form_.top - on.twips.top, form_.height, 0, on.height());
+  put(on, left, top);
   state_.display.positionKnown = kOn;
   FieldWriter out;
-  out.number(form_.left);
-  out.number(form_.top);
-  files_.write(path(), out.bytes());
+  out.number(left);
+  out.number(top);
+  if (!on.screen.empty()) out.text(on.screen);
+  writeRecordFile(files_, path(), out);
 }
 
 void Position::posfp1() {
-  const auto bytes = files_.read(path());
-  FieldReader reader(bytes ? std::string_view(*bytes) : std::string_view());
+  const RecordBytes record = readRecordFile(files_, path()).value_or(RecordBytes{});
+  FieldReader reader = record.reader();
   const auto left = reader.next();
   const auto top = reader.next();
-  if (!bytes || !left || !top) {
+  if (!left || !top) {
     centre();
     return;
   }
-  const auto place = [](const std::string& text) {
-    const double value = leadingNumber(text);
-    return value > -1e9 && value < 1e9 ? static_cast<int>(value) : 0;
-  };
-  form_.left = kept(place(*left), form_.width, kRightMargin, screen_.widthTwips());
-  form_.top = kept(place(*top), form_.height, kLowerMargin, screen_.heightTwips());
+  const WorkArea on = screen_.workAreaNamed(reader.next().value_or(""));
+  put(on, kept(placeOf(left), form_.width, kRightMargin, on.width()), kept(placeOf(top), form_.height, kLowerMargin, on.height()));
   state_.display.positionKnown = kOn;
 }
 
 void Position::Form_DblClick() {
   centre();
-  files_.remove(path());
+  removeRecordFile(files_, path());
 }
 
 void Position::centre() {
   state_.display.positionKnown = kOff;
-  form_.left = (screen_.widthTwips() - form_.width) / 2;
-  form_.top = (screen_.heightTwips() - form_.height) / 2;
+  const WorkArea on = area();
+  put(on, (on.width() - form_.width) / 2, (on.height() - form_.height) / 2);
 }
 
 }  // namespace orvanta

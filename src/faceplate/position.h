@@ -3,13 +3,13 @@
 
 #include <string>
 
+#include "platform/ports/screen.h"
 #include "state/shared_state.h"
 #include "windows/cdform.h"
 
 namespace orvanta {
 
 class Files;
-class Screen;
 
 class Position {
  public:
@@ -24,6 +24,10 @@ class Position {
 
  private:
   std::string path() const;
+  /// What is free of the screen that the window is on.
+  WorkArea area() const;
+  /// Places count from the screen's corner.
+  void put(const WorkArea& area, int left, int top);
   void centre();
 
   Files& files_;

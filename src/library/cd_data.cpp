@@ -118,7 +118,8 @@ void CdData::beginFill() {
 }
 
 void CdData::place() {
-  if (state_.library.cddbMode == kUnseen) {
+  form_.parked = state_.library.cddbMode == kUnseen;
+  if (form_.parked) {
     form_.left = ports_.screen.widthTwips() + kOutOfSight;
     return;
   }

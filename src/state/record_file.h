@@ -13,7 +13,9 @@ struct RecordBytes {
   std::string bytes;
   std::string companion;
 
-  FieldReader reader() const { return FieldReader(bytes, companion); }
+  /// Reads in here: it must stand as long as the reader does.
+  FieldReader reader() const& { return FieldReader(bytes, companion); }
+  FieldReader reader() const&& = delete;
 };
 
 /// nullopt when the file is missing or cannot be read; a missing companion is an empty one.

@@ -157,7 +157,9 @@ class FakeScreen : public Screen {
   int textWidthTwips(const std::string& text, const std::string& /*family*/, double points, bool /*bold*/) const override {
     return static_cast<int>(static_cast<double>(text.size()) * points * 10);
   }
-  Taskbar taskbar() const override { return bar; }
+  std::vector<WorkArea> workAreas() const override {
+    return areas.empty() ? std::vector<WorkArea>{{"", {0, 0, widthTwips(), heightTwips()}}} : areas;
+  }
   void setPointer(Pointer now) override { pointer = now; }
 
   int width = 1600;
@@ -165,7 +167,7 @@ class FakeScreen : public Screen {
   int twips = 15;
   int bits = 24;
   std::set<std::string> missing;
-  Taskbar bar;
+  std::vector<WorkArea> areas;  ///< none: the whole screen
   Pointer pointer = Pointer::Normal;
 };
 
@@ -176,7 +178,9 @@ class FakeSystem : public System {
   std::string defaultDataDir() const override { return "/usual"; }
   std::string mixerProgram() const override { return ""; }
   int16_t platformId() const override { return 1; }
-  std::vector<std::string> handedOn() const override { return {}; }
+  std::vector<std::string> handedOn() const override { return arguments; }
+  void changeDrive(const std::string& drive, const std::string& disc) override { arguments = {"--drive", drive, "--disc", disc}; }
+  Tape arguments;
 };
 
 class FakeView : public forms::FormView {

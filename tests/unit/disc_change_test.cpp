@@ -280,6 +280,20 @@ TEST(Setup, IsWaitedForAndTakenOver) {
   EXPECT_EQ(rig.form.Label10.foreColor, 0x112233U);
   EXPECT_EQ(rig.form.Panel3D1.backColor, 0xEEEEEEU);
   EXPECT_FALSE(rig.form.minimised);
+  EXPECT_EQ(rig.dialogs.tape, Tape{});
+
+  // A data folder of the command line is the one that it works on; one that does not run is told.
+  CoreRig given;
+  given.install();
+  given.gate.enter([&] {
+    given.orvanta.startUp({"/data", "", ""});
+    given.orvanta.showFaceplate();
+  });
+  given.processes.fail = true;
+  given.state.process.setupWanted = kOn;
+  given.clock.advance(1200);
+  EXPECT_EQ(given.processes.tape, Tape{"/programs/orvsetup ACTIVELX --data /data"});
+  EXPECT_EQ(given.dialogs.tape, Tape{"Orvanta: The setup program /programs/orvsetup could not be run."});
 }
 
 }  // namespace

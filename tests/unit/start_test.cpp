@@ -146,6 +146,7 @@ TEST(Start, EndsWithAWordWhenAnotherPlayerHasTheDrive) {
   EXPECT_TRUE(rig.gate.ended());
   EXPECT_EQ(rig.dialogs.tape,
             Tape{"Orvanta: The MCI CD Device is in use by another application.  Wait until it is finished, and then\ntry again!"});
+  EXPECT_FALSE(rig.files.exists("/data/audiocd.tmp")) << "no player runs";
 }
 
 TEST(Start, TheFirstOneSetsItselfUp) {
@@ -248,6 +249,79 @@ TEST(Exit, SavesStopsAndIsTheEnd) {
     EXPECT_EQ(rig.files.tape, files);
     EXPECT_EQ(forms::formAsText(rig.form), form);
   }
+}
+
+/// A session that ends, with mute on and a change just made: as at the exit, but silent and at once.
+TEST(Exit, TheEndOfTheSessionIsAnExit) {
+  CoreRig rig;
+  rig.startWith(discA());
+  rig.press(rig.form.icntla[Play]);
+  rig.clock.advance(2500);
+  rig.press(rig.form.Image2[1]);
+  EXPECT_EQ(rig.auxVolume.reading.volume, 0U);
+  rig.key('R');
+  rig.device.tape.clear();
+  const Tape sounds = rig.sounds.tape;
+  rig.gate.enter([&] { rig.orvanta.endOfSession(); });
+  EXPECT_TRUE(rig.gate.ended());
+  EXPECT_EQ(rig.auxVolume.reading.volume, 0xFFFFFFFFU);
+  EXPECT_EQ(rig.files.read("/data/settings.dat"), "0\r\n\r\n0\r\n0\r\n1\r\n");
+  EXPECT_FALSE(rig.files.exists("/data/audiocd.tmp"));
+  EXPECT_EQ(rig.device.tape, (Tape{"Stop", "Close"}));
+  EXPECT_EQ(rig.sounds.tape, sounds);
+  EXPECT_EQ(rig.dialogs.tape, Tape{});
+  // Before there is a window there is nothing to be saved.
+  CoreRig early;
+  early.gate.enter([&] { early.orvanta.endOfSession(); });
+  EXPECT_TRUE(early.gate.ended());
+  EXPECT_EQ(early.files.tape, Tape{});
+}
+
+/// A deck that is killed has lost nothing that is older than a second.
+TEST(Exit, ModesAreKeptASecondAfterAChange) {
+  CoreRig rig;
+  rig.startWith(discA());
+  rig.clock.advance(5000);
+  rig.files.tape.clear();
+  rig.key('T');
+  rig.key('R');
+  rig.clock.advance(1000);
+  EXPECT_EQ(rig.files.read("/data/settings.dat"), "1\r\n\r\n0\r\n0\r\n1\r\n");
+  rig.files.full = true;
+  rig.key('T');
+  rig.clock.advance(5000);
+  EXPECT_EQ(rig.files.tape, (Tape{"write /data/settings.dat", "write /data/settings.dat"})) << "once a change, also on a full disk";
+}
+
+/// Whichever write of a deck's life fails: the start, a drag, an eject and the exit go on, and nothing old is lost.
+TEST(Start, AnyWriteMayFail) {
+  int writes = 0;
+  for (int broken = 0; broken <= writes; ++broken) {
+    CoreRig rig;
+    rig.install();
+    const auto installed = rig.files.files;
+    rig.player.insert(discA());
+    if (broken > 0) rig.files.failAt = rig.files.writes() + broken;
+    const int before = rig.files.writes();
+    rig.start();
+    rig.clock.advance(100);
+    rig.key('R');
+    rig.clock.advance(1000);
+    rig.gate.enter([&] { rig.form.dragged(3000, 2000); });
+    rig.key('T');
+    rig.key('J');
+    rig.clock.advance(3000);
+    rig.key(forms::key::kEscape);
+    EXPECT_TRUE(rig.gate.ended()) << broken;
+    EXPECT_EQ(rig.dialogs.tape, Tape{}) << broken;
+    for (const auto& [path, bytes] : installed) {
+      if (path == "/DATA/SETTINGS.DAT") continue;
+      EXPECT_EQ(rig.files.files[path], bytes) << path << " after write " << broken;
+    }
+    EXPECT_EQ(rig.files.files["/DATA/SETTINGS.DAT"].size(), installed.at("/DATA/SETTINGS.DAT").size()) << broken;
+    if (broken == 0) writes = rig.files.writes() - before;
+  }
+  EXPECT_GE(writes, 5);
 }
 
 TEST(Start, NothingIsLostOnAFullDisk) {

@@ -108,6 +108,8 @@ class Form : private PropertyOwner {
   Property<std::string> caption{*this, Change::Text};
   Property<Colour> backColor{*this, Change::Look};
   Property<bool> enabled{*this, Change::Enabled, true};
+  /// Kept off every screen: handlers run, nothing is shown.
+  Property<bool> parked{*this, Change::Geometry, false};
   Property<bool> minimised{*this, Change::Visibility, false};
 
   /// Puts the design values back, makes the view and runs the load handler. Nothing when loaded.

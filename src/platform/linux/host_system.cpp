@@ -4,6 +4,7 @@
 #include <pwd.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <sstream>
@@ -54,6 +55,16 @@ std::string HostSystem::mixerProgram() const {
 }
 
 std::string HostSystem::usualDrive(const std::string& dataDir) { return joinPath(dataDir, "drive"); }
+
+void HostSystem::changeDrive(const std::string& drive, const std::string& disc) {
+  const auto set = [this](const char* option, const std::string& value) {
+    const auto at = std::find(handedOn_.begin(), handedOn_.end(), option);
+    if (at != handedOn_.end()) handedOn_.erase(at, at + 2);
+    if (!value.empty()) handedOn_.insert(handedOn_.end(), {option, value});
+  };
+  set("--drive", drive);
+  set("--disc", disc);
+}
 
 std::string HostSystem::demoFolder() const {
   return std::filesystem::path(windowsDir() + "/../share/orvanta/demo").lexically_normal().string();

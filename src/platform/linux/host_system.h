@@ -18,6 +18,7 @@ class HostSystem : public System {
   std::string demoFolder() const;
   int16_t platformId() const override { return 1; }
   std::vector<std::string> handedOn() const override { return handedOn_; }
+  void changeDrive(const std::string& drive, const std::string& disc) override;
 
  private:
   std::vector<std::string> handedOn_;

@@ -1,6 +1,8 @@
 // Lines between programs of one user: a socket file that nobody else can open.
 #pragma once
 
+#include <chrono>
+#include <list>
 #include <optional>
 #include <string>
 #include <vector>
@@ -12,24 +14,58 @@ namespace orvanta {
 /// "$XDG_RUNTIME_DIR/orvanta-PURPOSE-HASH", the hash being of `subject` (a folder, a drive).
 std::string socketPath(const std::string& purpose, const std::string& subject);
 
+/// A folder's own identity, however its path is spelled; the path of one that is not there.
+std::string identityOf(const std::string& folder);
+
+/// Reads without blocking: a peer that writes slowly, too much, or nothing at all holds nobody up.
 class SocketServer {
  public:
-  /// Takes the place of whoever listened there before; a server that cannot listen hears nothing.
-  explicit SocketServer(const std::string& path);
-  /// To be waited on for reading; -1 when it does not listen.
-  int fd() const { return fd_ ? fd_.get() : -1; }
+  /// With a folder to be locked, one server at a time listens for it; without one it takes the place of whoever
+  /// listened there before.
+  explicit SocketServer(std::string path, std::string lockFolder = {});
+  SocketServer(const SocketServer&) = delete;
+  SocketServer& operator=(const SocketServer&) = delete;
+  /// Takes the socket's file away.
+  ~SocketServer();
+
+  /// Tries once more where another one listened at first. True when it listens.
+  bool listen();
+  /// To be waited on for reading, for whatever next() has to do; -1 when it does not listen.
+  int fd() const { return listener_ ? events_.get() : -1; }
 
   struct Request {
     UniqueFd from;
     std::string line;
   };
-  /// What has come; never waits longer than a moment for a line that was begun.
+  /// What has come whole; nullopt when nothing has.
   std::optional<Request> next();
   static void reply(const Request& request, const std::string& line);
 
  private:
-  UniqueFd fd_;
+  using Clock = std::chrono::steady_clock;
+  struct Peer {
+    UniqueFd fd;
+    Clock::time_point since;
+    std::string bytes;
+  };
+  void accept();
+  /// False: the peer is to be let go of.
+  static bool take(Peer& peer);
+
+  std::string path_;
+  std::string lockFolder_;
+  UniqueFd lock_;
+  UniqueFd events_;
+  UniqueFd listener_;
+  std::list<Peer> peers_;
 };
+
+/// What came of a question to whoever listens.
+struct Asked {
+  bool delivered = false;            ///< somebody listens, and has the line or will have it
+  std::optional<std::string> reply;  ///< nullopt when none came in time
+};
+Asked askWhoListens(const std::string& path, const std::string& line, int milliseconds);
 
 /// Sends a line and returns the reply; nullopt when nobody listens or no reply comes in `milliseconds`.
 std::optional<std::string> ask(const std::string& path, const std::string& line, int milliseconds);

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace orvanta {
 
@@ -16,10 +17,13 @@ struct Rect {
 
 enum class Pointer { Normal, Hourglass };
 
-/// What a taskbar takes of the screen.
-struct Taskbar {
-  bool alwaysOnTop = false;
-  Rect pixels;  ///< its rectangle; empty when there is none
+/// What panels and docks leave of a screen, in twips of the one plane that all screens lie on.
+struct WorkArea {
+  std::string screen;  ///< its name, "" for the primary one
+  Rect twips;
+
+  int width() const { return twips.right - twips.left; }
+  int height() const { return twips.bottom - twips.top; }
 };
 
 class Screen {
@@ -35,9 +39,29 @@ class Screen {
   virtual bool hasFont(const std::string& family) const = 0;
   /// How wide one line of text would be drawn.
   virtual int textWidthTwips(const std::string& text, const std::string& family, double points, bool bold) const = 0;
-  virtual Taskbar taskbar() const = 0;
+  /// Of all screens, the primary one first; never none.
+  virtual std::vector<WorkArea> workAreas() const = 0;
   /// One pointer for the whole program, last write wins; it never blocks input.
   virtual void setPointer(Pointer pointer) = 0;
+
+  /// Of the screen that a window is on, by its middle; of one that is on none, the primary screen's.
+  WorkArea workAreaOf(const Rect& window) const {
+    const int x = window.left + (window.right - window.left) / 2;
+    const int y = window.top + (window.bottom - window.top) / 2;
+    const auto all = workAreas();
+    for (const WorkArea& area : all) {
+      if (x >= area.twips.left && x < area.twips.right && y >= area.twips.top && y < area.twips.bottom) return area;
+    }
+    return all.front();
+  }
+  /// Of the screen with this name while it is there, else the primary one's.
+  WorkArea workAreaNamed(const std::string& name) const {
+    const auto all = workAreas();
+    for (const WorkArea& area : all) {
+      if (area.screen == name) return area;
+    }
+    return all.front();
+  }
 
   int widthTwips() const { return widthPixels() * twipsPerPixel(); }
   int heightTwips() const { return heightPixels() * twipsPerPixel(); }

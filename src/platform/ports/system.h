@@ -22,6 +22,8 @@ class System {
   virtual int16_t platformId() const = 0;
   /// Arguments of the host (`--data`, `--drive`, `--audio`, `--scale`) to hand on at a restart.
   virtual std::vector<std::string> handedOn() const = 0;
+  /// The next restart is for another drive, with a sheet to put into its tray ("" for none).
+  virtual void changeDrive(const std::string& drive, const std::string& disc) = 0;
 };
 
 }  // namespace orvanta

@@ -184,9 +184,7 @@ void DataWindow::followFocus(forms::Control* control) {
 
 // ---- the window
 
-bool DataWindow::onScreen() const {
-  return form_ != nullptr && deckScale_.pixels(form_->left) < QGuiApplication::primaryScreen()->geometry().right();
-}
+bool DataWindow::onScreen() const { return form_ != nullptr && !form_->parked; }
 
 void DataWindow::place() {
   const QRect free = freeArea();

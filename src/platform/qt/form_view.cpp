@@ -106,8 +106,8 @@ ControlWidget* FormWindow::widgetOf(const forms::Control& control) const {
 }
 
 bool FormWindow::onScreen() const {
-  // A form parked past the right edge is hidden by its place: a window manager would pull it back.
-  return scale_.pixels(form_.left) < QGuiApplication::primaryScreen()->geometry().right();
+  // Not by its place: past the edge of one screen there may be another, and a window manager would pull it back.
+  return !form_.parked;
 }
 
 void FormWindow::placeWindow() {

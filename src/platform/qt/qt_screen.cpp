@@ -38,28 +38,17 @@ int QtScreen::textWidthTwips(const std::string& text, const std::string& family,
   return static_cast<int>(width / kMeasured * points * kTwipsPerPoint);
 }
 
-/// What the free area leaves of the screen along its widest taken edge.
-Taskbar QtScreen::taskbar() const {
-  const QRect all = primary().geometry();
-  const QRect free = primary().availableGeometry();
-  const int left = free.left() - all.left();
-  const int top = free.top() - all.top();
-  const int right = all.right() - free.right();
-  const int bottom = all.bottom() - free.bottom();
-  const int most = std::max({left, top, right, bottom});
-  if (most <= 0) return {};
-  QRect bar = all;
-  if (most == bottom) {
-    bar.setTop(free.bottom() + 1);
-  } else if (most == top) {
-    bar.setBottom(free.top() - 1);
-  } else if (most == left) {
-    bar.setRight(free.left() - 1);
-  } else {
-    bar.setLeft(free.right() + 1);
+std::vector<WorkArea> QtScreen::workAreas() const {
+  const auto areaOf = [this](const QScreen& screen, const std::string& name) {
+    const QRect free = screen.availableGeometry();
+    return WorkArea{name,
+                    {scale_.twips(free.left()), scale_.twips(free.top()), scale_.twips(free.right() + 1), scale_.twips(free.bottom() + 1)}};
+  };
+  std::vector<WorkArea> areas{areaOf(primary(), "")};
+  for (const QScreen* screen : QGuiApplication::screens()) {
+    if (screen != &primary()) areas.push_back(areaOf(*screen, screen->name().toStdString()));
   }
-  const auto unscaled = [this](int pixels) { return static_cast<int>(pixels / scale_.factor); };
-  return {true, {unscaled(bar.left()), unscaled(bar.top()), unscaled(bar.right() + 1), unscaled(bar.bottom() + 1)}};
+  return areas;
 }
 
 void QtScreen::setPointer(Pointer pointer) {

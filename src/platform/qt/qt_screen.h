@@ -1,4 +1,4 @@
-// The primary screen.
+// The screens.
 #pragma once
 
 #include "platform/ports/screen.h"
@@ -17,7 +17,7 @@ class QtScreen : public Screen {
   int planes() const override { return 1; }
   bool hasFont(const std::string& family) const override;
   int textWidthTwips(const std::string& text, const std::string& family, double points, bool bold) const override;
-  Taskbar taskbar() const override;
+  std::vector<WorkArea> workAreas() const override;
   void setPointer(Pointer pointer) override;
 
   /// The desktop's own: 1 at 96 dots per inch, in quarters.

@@ -1,0 +1,31 @@
+// settings.dat: the modes of display and play. (The window's place is saved at the end of each drag, the level by its line.)
+#include "app/keeper.h"
+
+#include "state/settings_files.h"
+
+namespace orvanta {
+
+namespace {
+
+constexpr int kLook = 1000;  ///< milliseconds
+
+}  // namespace
+
+Keeper::Keeper(Ports& ports, const SharedState& state) : ports_(ports), state_(state), timer_(ports.clock.makeTimer([this] { look(); })) {}
+
+std::string Keeper::now() const { return writtenFields(SettingsFile::SettingsDat, state_.settings).bytes(); }
+
+void Keeper::start() {
+  kept_ = now();
+  timer_->setInterval(kLook);
+}
+
+/// A save that fails is tried again with the next change, and at the exit: nobody is told of it each second.
+void Keeper::look() {
+  const std::string fields = now();
+  if (fields == kept_) return;
+  kept_ = fields;
+  writeSettings(SettingsFile::SettingsDat, ports_.files, state_.settings.appDir, state_.settings);
+}
+
+}  // namespace orvanta

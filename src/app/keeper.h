@@ -1,0 +1,29 @@
+// Keeps what the user changed, a second after the change: a deck that is killed loses nothing.
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "platform/ports/clock.h"
+#include "platform/ports/ports.h"
+#include "state/shared_state.h"
+
+namespace orvanta {
+
+class Keeper {
+ public:
+  Keeper(Ports& ports, const SharedState& state);
+  /// From here on; what stands now was just read.
+  void start();
+
+ private:
+  void look();
+  std::string now() const;
+
+  Ports& ports_;
+  const SharedState& state_;
+  std::string kept_;  ///< as last written, or tried to be
+  std::unique_ptr<Timer> timer_;
+};
+
+}  // namespace orvanta

@@ -12,14 +12,14 @@ namespace {
 constexpr std::string_view kBlanks = " \t";
 constexpr std::string_view kEnds = ",\r\n";
 
-/// Drops the separator that follows a value: one comma or one line end.
+/// Drops what stands between a value and the next: one comma or one line end, and before it what somebody has
+/// put behind a closing quote.
 void dropSeparator(std::string_view& rest) {
-  const auto start = rest.find_first_not_of(kBlanks);
+  const auto start = rest.find_first_of(kEnds);
   if (start == std::string_view::npos) {
     rest = {};
     return;
   }
-  if (kEnds.find(rest[start]) == std::string_view::npos) return;
   const bool pair = rest.substr(start, 2) == "\r\n";
   rest.remove_prefix(start + (pair ? 2 : 1));
 }
@@ -30,6 +30,13 @@ std::string_view withoutTrailingBlanks(std::string_view text) {
 }
 
 }  // namespace
+
+FieldReader::FieldReader(std::string_view bytes, std::string_view companion) : rest_(bytes), whole_(companion) {
+  constexpr std::string_view kMark = "\xEF\xBB\xBF";
+  if (bytes.substr(0, kMark.size()) != kMark) return;
+  rest_.remove_prefix(kMark.size());
+  utf8_ = isUtf8(rest_);
+}
 
 std::optional<std::string> FieldReader::next() {
   const auto start = rest_.find_first_not_of(kBlanks);
@@ -47,7 +54,7 @@ std::optional<std::string> FieldReader::next() {
     rest_.remove_prefix(end == std::string_view::npos ? rest_.size() : end);
   }
   dropSeparator(rest_);
-  return whole_.restored(++field_, fromWindows1252(value));
+  return whole_.restored(++field_, utf8_ ? std::string(value) : fromWindows1252(value));
 }
 
 void FieldWriter::text(std::string_view utf8) {

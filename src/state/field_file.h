@@ -15,13 +15,14 @@ namespace orvanta {
 class FieldReader {
  public:
   /// `companion` is the text of the file's companion, "" without one.
-  explicit FieldReader(std::string_view bytes, std::string_view companion = {}) : rest_(bytes), whole_(companion) {}
+  explicit FieldReader(std::string_view bytes, std::string_view companion = {});
   /// The next value, quotes removed, as UTF-8; nullopt at the end of the file. An unclosed quote
   /// runs to the end of the file.
   std::optional<std::string> next();
 
  private:
   std::string_view rest_;
+  bool utf8_ = false;  ///< an editor has saved the file so, and marked it
   WholeTexts whole_;
   int field_ = 0;
 };

@@ -61,6 +61,9 @@ TEST(FieldFile, ReadsWhatHandsAndProgramsWrite) {
   EXPECT_EQ(valuesOf("\"two\r\nlines\"\r\n7"), (Values{"two\r\nlines", "7"}));
   EXPECT_EQ(valuesOf("\"never closed\r\n7"), (Values{"never closed\r\n7"}));
   EXPECT_EQ(valuesOf("caf\xE9\r\n"), (Values{"caf\xC3\xA9"}));
+  EXPECT_EQ(valuesOf("\"a\" by hand\r\n\"b\"x,\"c\" \"d\"\r\n5"), (Values{"a", "b", "c", "5"}));
+  EXPECT_EQ(valuesOf("\xEF\xBB\xBF\"caf\xC3\xA9\"\r\n2"), (Values{"caf\xC3\xA9", "2"})) << "saved by an editor that marks its files";
+  EXPECT_EQ(valuesOf("\xEF\xBB\xBF\"caf\xE9\"\r\n2"), (Values{"caf\xC3\xA9", "2"}));
   EXPECT_EQ(valuesOf(""), Values{});
   FieldWriter writer;
   writer.text(

@@ -14,7 +14,7 @@ inline Toc tracksOf(int count, int seconds) {
 }
 
 /// The lines of a form's text that differ, of controls that can be seen.
-inline std::string changes(const std::string& before, const std::string& after) {
+inline std::string changedLines(const std::string& before, const std::string& after) {
   std::istringstream old(before);
   std::istringstream now(after);
   std::string text;
@@ -86,6 +86,11 @@ struct PlayRig : CoreRig {
       if (label->foreColor == colours::kGrey) text += " " + label->caption.get();
     }
     return text;
+  }
+  /// The mode that the lit keys tell of.
+  DeviceMode litFor() const {
+    const std::string keys = look();
+    return keys[0] == 'D' ? DeviceMode::Playing : keys[0] == 'F' ? DeviceMode::Paused : DeviceMode::Stopped;
   }
   int64_t begun = 0;
   int waits = 0;  ///< for which the window stood still

@@ -128,7 +128,7 @@ TEST(Guards, WhatChangesNothing) {
     rig.device.tape.clear();
     const std::string before = forms::formAsText(rig.form);
     act(rig);
-    EXPECT_EQ(changes(before, forms::formAsText(rig.form)), "") << what;
+    EXPECT_EQ(changedLines(before, forms::formAsText(rig.form)), "") << what;
     EXPECT_EQ(rig.device.tape, Tape{}) << what;
   };
   for (const Case& row : cases) {
@@ -216,7 +216,7 @@ TEST(Keys, OneFaceGivesWayAtATime) {
   EXPECT_EQ(rig.heard().substr(0, 7), "stopped") << "the stop has taken the pause key away meanwhile";
   rig.press(rig.form.Image17[1]);
   rig.clock.advance(5000);
-  EXPECT_EQ(changes(rest, forms::formAsText(rig.form)), "") << "every face is back in its place";
+  EXPECT_EQ(changedLines(rest, forms::formAsText(rig.form)), "") << "every face is back in its place";
 }
 
 TEST(Keys, TenPressesInASecondAreTenSteps) {

@@ -1,6 +1,7 @@
 // Play modes, programs, steps, scans and loops over whole discs on the virtual clock.
 #include <gtest/gtest.h>
 
+#include <map>
 #include <random>
 #include <set>
 
@@ -45,13 +46,14 @@ TEST(Program, StepsRepeatsAndFallsBack) {
   EXPECT_EQ(late.heardTrack(), 1) << "the step comes as the device enters the next track";
 
   PlayRig next;
-  next.program({3, 3, 1});
+  next.program({3, 3, 2, 1});
   next.at(10);
   next.key('S');
-  EXPECT_EQ(next.heardTrack(), 3) << "a track may stand twice";
+  EXPECT_EQ(next.heard(), "playing 3 at 0") << "a track may stand twice";
+  next.key('S');
   next.clock.advance(2000);
   next.key('A');
-  EXPECT_EQ(next.heardTrack(), 3) << "without Repeat there is no way back";
+  EXPECT_EQ(next.heard(), "playing 2 at 2") << "without Repeat there is no way back";
   next.key('S');
   EXPECT_EQ(next.heardTrack(), 1);
   next.key('S');
@@ -280,6 +282,100 @@ TEST(AbLoop, IsSetRunsAndIsCancelled) {
   EXPECT_FALSE(rig.state.transport.abSetA) << "a step to another track takes A away";
 }
 
+TEST(Shuffle, EveryOrderIsEquallyLikely) {
+  for (const auto& [count, orders, presses] : {std::tuple{3, 6, 1200}, {5, 120, 6000}}) {
+    PlayRig rig(tracksOf(count, 60));
+    std::map<std::vector<int16_t>, int> seen;
+    for (int i = 0; i < presses; ++i) {
+      rig.key('E');
+      const auto first = rig.state.program.pgmList.begin() + 1;
+      ++seen[std::vector<int16_t>(first, first + count)];
+    }
+    EXPECT_EQ(seen.size(), static_cast<size_t>(orders));
+    // Seven deviations from the mean: a fair draw stays within them.
+    const double mean = static_cast<double>(presses) / orders;
+    for (const auto& [order, times] : seen) EXPECT_NEAR(times, mean, 7 * std::sqrt(mean)) << order[0] << order[1] << order[2];
+  }
+}
+
+/// Seeks since the tape was cleared.
+int seeks(const PlayRig& rig) { return static_cast<int>(std::count(rig.device.tape.begin(), rig.device.tape.end(), "SEEK")); }
+
+TEST(AbLoop, ReturnsOnceARound) {
+  for (const int begin : {0, 40}) {
+    PlayRig rig;
+    rig.play();
+    rig.at(begin);
+    rig.key('W');
+    rig.clock.advance(1000);
+    EXPECT_TRUE(rig.state.transport.abSetA) << begin;
+    rig.at(begin + 20);
+    rig.device.tape.clear();
+    rig.key('W');
+    EXPECT_EQ(rig.device.tape, (Tape{"PAUSE", "SEEK", "PLAY"})) << begin;
+    const int landed = rig.heardSecond();
+    EXPECT_NEAR(landed, begin == 0 ? 6 : begin - 6, 1) << "a click's margin before A, or as far behind the track's start";
+    EXPECT_EQ(rig.time(), minutesSeconds(landed)) << "shown at once";
+    EXPECT_EQ(rig.form.CDStatusBar.floodPercent, landed * 100 / 180);
+    rig.device.tape.clear();
+    rig.clock.advance(100000);
+    const int round = begin + 20 - landed;
+    EXPECT_NEAR(seeks(rig), 100 / round, 1) << begin;
+    EXPECT_EQ(rig.device.mode(), DeviceMode::Playing);
+  }
+}
+
+TEST(AbLoop, IsGivenUpWhereItCannotRun) {
+  const auto set = [](PlayRig& rig, double a, double b) {
+    rig.play();
+    rig.at(a);
+    rig.key('W');
+    rig.at(b);
+    rig.key('W');
+  };
+  const auto loops = [](const PlayRig& rig) { return rig.state.transport.abSetA || rig.state.transport.abSetB; };
+  PlayRig close;
+  set(close, 0.5, 3.5);
+  close.device.tape.clear();
+  close.clock.advance(5000);
+  EXPECT_FALSE(loops(close)) << "its end lies before the place where it would land";
+  EXPECT_EQ(seeks(close), 0);
+
+  PlayRig before;
+  before.play();
+  before.at(100);
+  before.key('W');
+  before.clickBar(0.2);
+  before.key('W');
+  before.clock.advance(5000);
+  EXPECT_FALSE(loops(before)) << "and an end before the start";
+
+  for (const char* key : {"S", "G", "J"}) {
+    for (const double end : {30.0, 0.0}) {
+      PlayRig rig;
+      rig.play();
+      rig.at(10);
+      rig.key('W');
+      if (end > 0) {
+        rig.at(end);
+        rig.key('W');
+      }
+      rig.keys(key);
+      rig.clock.advance(300);
+      EXPECT_FALSE(loops(rig)) << key;
+      EXPECT_EQ(rig.form.Label17.foreColor, *key == 'J' ? colours::kGrey : colours::kBlack) << key;
+      EXPECT_EQ(rig.form.Label16.foreColor, rig.state.settings.lcdColor[kLcdLabelOff]) << key;
+    }
+  }
+
+  PlayRig late;
+  set(late, 100, 178);
+  EXPECT_EQ(late.heardTrack(), 1) << "in the track's last seconds it still goes back in its own";
+  late.clock.advance(2000);
+  EXPECT_EQ(late.shown(), "1 3:00 Title 1");
+  EXPECT_TRUE(loops(late));
+}
+
 TEST(Scan, RunsFasterTheLongerAndStopsAtTheEdges) {
   PlayRig rig;
   rig.begin();
@@ -432,6 +528,17 @@ TEST(RandomWalk, HoldsWhatAlwaysHolds) {
       ASSERT_LE(transport.curTrack, rig.state.disc.trackCount + 1) << seed << " step " << step;
       ASSERT_GE(transport.playMode, Pgm);
       ASSERT_LE(transport.playMode, Cont);
+      // What is lit is what the device does, and number, length and title are those of one track.
+      rig.clock.advance(300);
+      if (rig.device.mode() != DeviceMode::NotOpen) {
+        if (rig.litFor() != rig.device.mode()) rig.clock.advance(100);
+        ASSERT_EQ(rig.litFor(), rig.device.mode()) << seed << " step " << step << ": " << rig.look();
+      }
+      const auto number = static_cast<size_t>(std::stoi(rig.track()));
+      const std::string whole = number == 0 ? "0 0:00 " : rig.track() + " " + rig.state.disc.trackLengths[number] + " Title " + rig.track();
+      if (rig.state.disc.discStarted == kOn) {
+        ASSERT_EQ(rig.shown(), whole) << seed << " step " << step;
+      }
       // A deck that says that it plays is heard, two seconds later at the latest.
       rig.clock.advance(100);
       silent = transport.playingFlag == kOn && rig.device.mode() != DeviceMode::Playing ? silent + 1 : 0;

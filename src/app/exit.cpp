@@ -36,7 +36,7 @@ void Exit::leave() {
   form_.SSPanel3.refresh();
   if (state_.transport.playingFlag == kOn) {
     state_.transport.playingFlag = kOff;
-    for (auto& mask : form_.icntlb) mask.visible = true;
+    looks_.show(DeckState::Leaving);
   }
   if (state_.settings.appOptions[5] != 1) {
     ports_.device.command("Stop");

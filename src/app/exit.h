@@ -3,13 +3,14 @@
 
 #include "faceplate/volume.h"
 #include "platform/ports/ports.h"
+#include "playback/key_looks.h"
 
 namespace orvanta {
 
 class Exit {
  public:
-  Exit(Ports& ports, Volume& volume, InterfaceSounds& sounds, CDForm& form, SharedState& state)
-      : ports_(ports), volume_(volume), sounds_(sounds), form_(form), state_(state) {}
+  Exit(Ports& ports, KeyLooks& looks, Volume& volume, InterfaceSounds& sounds, CDForm& form, SharedState& state)
+      : ports_(ports), looks_(looks), volume_(volume), sounds_(sounds), form_(form), state_(state) {}
   /// Saves, stops the disc unless option 5 leaves it playing, and ends the process.
   [[noreturn]] void exitProgram();
   /// The same where the session ends: without a sound.
@@ -21,6 +22,7 @@ class Exit {
   [[noreturn]] void leave();
 
   Ports& ports_;
+  KeyLooks& looks_;
   Volume& volume_;
   InterfaceSounds& sounds_;
   CDForm& form_;

@@ -59,7 +59,8 @@ void RecorderLaunch::run() {
 void RecorderLaunch::letGo() {
   const Settings& settings = state_.settings;
   state_.transport.playingFlag = state_.transport.pausedFlag = kOff;
-  for (auto& mask : form_.icntlb) mask.visible = true;
+  looks_.show(DeckState::Leaving);
+  looks_.flash(Record);
   writeSettings(SettingsFile::SettingsDat, ports_.files, settings.appDir, settings);
   position_.saveposn1();
   volume_.releaseMute();
@@ -68,7 +69,6 @@ void RecorderLaunch::letGo() {
   form_.SSPanel3.backColor = colours::kRed;
   ports_.device.command("Stop");
   ports_.device.command("Close");
-  form_.icntlc[Record].visible = true;
   form_.minimised = true;
   clearMarker(ports_.files, settings.appDir, kRunningMarker);
 }

@@ -6,6 +6,7 @@
 #include "faceplate/volume.h"
 #include "platform/ports/ports.h"
 #include "platform/ports/processes.h"
+#include "playback/key_looks.h"
 #include "state/shared_state.h"
 #include "windows/cdform.h"
 
@@ -13,8 +14,8 @@ namespace orvanta {
 
 class RecorderLaunch {
  public:
-  RecorderLaunch(Ports& ports, Position& position, Volume& volume, Restart& restart, CDForm& form, SharedState& state)
-      : ports_(ports), position_(position), volume_(volume), restart_(restart), form_(form), state_(state) {}
+  RecorderLaunch(Ports& ports, KeyLooks& looks, Position& position, Volume& volume, Restart& restart, CDForm& form, SharedState& state)
+      : ports_(ports), looks_(looks), position_(position), volume_(volume), restart_(restart), form_(form), state_(state) {}
   /// There is a recorder to be started; else the user is told.
   bool ready();
   /// Saves, lets go of the drive, starts the recorder with the disc's texts, and ends the process. A recorder that does
@@ -29,6 +30,7 @@ class RecorderLaunch {
   void letGo();
 
   Ports& ports_;
+  KeyLooks& looks_;
   Position& position_;
   Volume& volume_;
   Restart& restart_;

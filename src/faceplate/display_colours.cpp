@@ -15,18 +15,9 @@ namespace orvanta {
 
 namespace {
 
-constexpr Colour kGreen = 0x00FF00;
-constexpr Colour kCyan = 0xFFFF00;
-constexpr Colour kDarkGreen = 0x004000;
-constexpr Colour kDarkYellow = 0x004040;
-constexpr Colour kSpareCell = 0x2F2F2F;
-constexpr Colour kDarkCell = 0x4F4F4F;
+constexpr Colour kPrintOnGlass = 0x4F4F4F;
 constexpr Colour kModelOnPicture = 0xCAC1AC;
 constexpr Colour kMetal = 0x332E2B;  ///< the window's own
-
-void fore(std::initializer_list<forms::Label*> labels, Colour colour) {
-  for (auto* label : labels) label->foreColor = colour;
-}
 
 void ownFore(std::initializer_list<forms::Control*> controls) {
   for (auto* control : controls) control->foreColor = control->form().designRow(*control)->fore;
@@ -54,14 +45,8 @@ void DisplayColours::loadorvanta1() {
   for (auto& lamp : form_.Shape15) lamp.visible = state_.settings.showLights != 0;
   fonts();
   legendFonts();
-  if (state_.settings.lcdCustom == 1) {
-    customDisplay();
-  } else {
-    plainDisplay();
-  }
-  spareLamps();
-  form_.Label21.foreColor = state_.settings.lcdColor[state_.settings.repeatOn == kOn ? kLcdRepeatOn : kLcdRepeatOff];
-  form_.CDStatusBar.visible = true;
+  panes();
+  display_.paint();
   paintLevelBars(form_, state_.settings);
   titleFonts();
   background();
@@ -102,37 +87,20 @@ void DisplayColours::legendFonts() {
   for (auto& label : form_.Label78) plain(label);
 }
 
-/// Cells of the calendar without a track stay dark.
-void DisplayColours::spareLamps() {
-  const int tracks = state_.disc.trackCount;
-  if (tracks <= 10) {
-    for (size_t lamp = 1; lamp <= 25; ++lamp) form_.Label22[lamp].foreColor = kSpareCell;
-    return;
-  }
-  for (int i = 1; i <= 15; ++i) {
-    auto& label = form_.Label22[static_cast<size_t>(i) + 10];
-    if (i > tracks) {
-      label.foreColor = kSpareCell;
-    } else if (state_.settings.lcdCustom == 1) {
-      label.foreColor = kDarkCell;
-    }
-  }
-}
-
 /// The user's fonts for the two title lines, when the first is named.
 void DisplayColours::titleFonts() {
   if (state_.settings.fonts[0].fontName.empty()) return;
-  forms::Label* labels[] = {&form_.Label12, &form_.Label13};
   for (size_t i = 0; i < 2; ++i) {
     const FontGroup& group = state_.settings.fonts[i];
-    forms::Font font = labels[i]->font;
+    forms::Label& label = i == 0 ? form_.Label12 : form_.Label13;
+    forms::Font font = label.font;
     if (!group.fontName.empty()) font.family = group.fontName;
     if (group.fontSize > 0) font.points = group.fontSize;
     font.bold = group.fontBold != 0;
     font.italic = group.fontItalic != 0;
     font.underline = group.fontUnderline != 0;
-    labels[i]->font = font;
-    if (state_.settings.lcdCustom != 1) labels[i]->foreColor = group.fontColor;
+    label.font = font;
+    if (state_.settings.lcdCustom != 1) display_.paintTitle(i, group.fontColor);
   }
   layout_.layTitles();
 }
@@ -192,10 +160,8 @@ void DisplayColours::loadorvanta1b() {
              &form_.Panel3D3, &form_.SSPanel1});
     if (form_.Panel3D2.bevelInner != 1) ownBack({&form_.Panel3D2});
   }
-  if (state_.settings.lcdCustom != 1 && colour[4] != state_.settings.lcdFore) form_.CDStatusBar.floodColor = colour[4];
+  display_.paintUser();
   paintLevelBars(form_, state_.settings);
-  if (colour[9] != 0) fore({&form_.Label7, &form_.Label9, &form_.Label11}, colour[9]);
-  if (colour[10] != 0) fore({&form_.Label8, &form_.Label10}, colour[10]);
   legends();
 }
 
@@ -208,78 +174,37 @@ void DisplayColours::legends() {
   for (auto& label : form_.Label77) legend(label, form_.Panel3D6.backColor);
 }
 
-void DisplayColours::customDisplay() {
-  const Colour front = state_.settings.lcdFore;
-  const Colour back = state_.settings.lcdBack;
+/// The glass of the display and what is printed on it.
+void DisplayColours::panes() {
+  const bool custom = state_.settings.lcdCustom == 1;
   for (auto* panel : {&form_.Panel3D1, &form_.Panel3D5}) {
-    panel->bevelInner = 1;
-    panel->foreColor = front;
-    panel->backColor = back;
+    panel->bevelInner = custom ? 1 : 2;
+    panel->backColor = custom ? state_.settings.lcdBack : colours::kBlack;
+    if (custom) panel->foreColor = state_.settings.lcdFore;
   }
-  fore({&form_.Label16, &form_.Label21, &form_.Label30}, back);
-  for (size_t lamp = 1; lamp <= 20; ++lamp) form_.Label22[lamp].foreColor = back;
-  fore({&form_.Label23, &form_.Label14, &form_.Label8, &form_.Label43, &form_.Label10, &form_.Label12, &form_.Label13, &form_.Label9,
-        &form_.Label7, &form_.Label11, &form_.Label6},
-       front);
-  form_.Line12.foreColor = form_.Line10.foreColor = 0x4F4F4F;
+  if (!custom) {
+    // The user's colours may have been here before.
+    ownFore({&form_.Label32, &form_.Label33, &form_.Line1, &form_.Line8, &form_.Line10, &form_.Line11, &form_.Line12});
+    return;
+  }
+  form_.Line12.foreColor = form_.Line10.foreColor = form_.Label32.foreColor = form_.Label33.foreColor = kPrintOnGlass;
   form_.Line11.foreColor = 0x606060;
-  fore({&form_.Label32, &form_.Label33}, 0x4F4F4F);
-  form_.CDStatusBar.floodColor = front;
-  form_.CDStatusBar.backColor = back;
-  form_.Line1.foreColor = form_.Line8.foreColor = back;
-}
-
-void DisplayColours::plainDisplay() {
-  for (auto* panel : {&form_.Panel3D1, &form_.Panel3D5}) {
-    panel->bevelInner = 2;
-    panel->backColor = colours::kBlack;
-  }
-  // The user's colours may have been here before.
-  ownFore({&form_.Label12, &form_.Label13, &form_.Label32, &form_.Label33, &form_.Line1, &form_.Line8, &form_.Line10, &form_.Line11,
-           &form_.Line12});
-  fore({&form_.Label16, &form_.Label30}, kDarkYellow);
-  fore({&form_.Label14, &form_.Label6, &form_.Label8, &form_.Label43, &form_.Label10, &form_.Label23}, kGreen);
-  fore({&form_.Label9, &form_.Label7, &form_.Label11}, kCyan);
-  for (size_t lamp = 1; lamp <= 20; ++lamp) form_.Label22[lamp].foreColor = kDarkGreen;
-  form_.CDStatusBar.backColor = colours::kBlack;
-  const Colour flood = state_.settings.customColor[4];
-  if (flood != state_.settings.lcdFore) form_.CDStatusBar.floodColor = flood;
+  form_.Line1.foreColor = form_.Line8.foreColor = state_.settings.lcdBack;
 }
 
 void DisplayColours::loadorvanta1a() {
-  const auto& colour = state_.settings.lcdColor;
-  const int shown = std::min<int>(state_.disc.trackCount, 20);
-  for (int lamp = 0; lamp < 20; ++lamp) {
-    auto& label = form_.Label22[static_cast<size_t>(lamp)];
-    label.visible = lamp < shown;
-    if (lamp < shown) label.foreColor = colour[kLcdLit];
-  }
-  const bool more = state_.disc.trackCount > 20;
-  if (!more) {
-    for (int key = shown; key < 20; ++key) form_.Label34[static_cast<size_t>(key)].foreColor = colours::kGrey;
-    form_.Label44.foreColor = colours::kGrey;
-  }
-  form_.Label22[20].foreColor = colour[more ? kLcdLit : kLcdDim];
-  const bool program = state_.program.pgmStored == kOn;
-  form_.Label30.foreColor = colour[program ? kLcdLabelOn : kLcdLabelOff];
-  form_.Label40.foreColor = program ? colours::kBlack : colours::kGrey;
+  display_.calendar();
+  looks_.numbers(state_.disc.trackCount);
+  looks_.programStored(state_.program.pgmStored == kOn);
 }
 
 void DisplayColours::disabledLook() {
-  fore({&form_.Label24, &form_.Label17, &form_.Label35, &form_.Label44, &form_.Label19, &form_.Label20, &form_.Label25, &form_.Label38,
-        &form_.Label39, &form_.Label40},
-       colours::kGrey);
-  for (auto& number : form_.Label34) number.foreColor = colours::kGrey;
+  looks_.show(DeckState::NoDisc);
   form_.Label35.enabled = false;
   form_.Image16[4].enabled = false;
   for (size_t key = 1; key <= 3; ++key) form_.Image10[key].enabled = false;
-  form_.Label8.caption = "0";
-  form_.Label43.caption = "0:00";
-  form_.Label43.foreColor = state_.settings.lcdColor[kLcdDim];
-  form_.Label10.caption = "00:00";
-  form_.Label12.caption = "Please insert an Audio CD or Enh-CD into the drive...";
-  form_.Label13.caption = tray_.takesImages() ? "click the tray or drop a disc image" : "";
-  for (auto& mask : form_.icntlb) mask.visible = true;
+  display_.prompt("Please insert an Audio CD or Enh-CD into the drive...",
+                  tray_.takesImages() ? "click the tray or drop a disc image" : "");
 }
 
 }  // namespace orvanta

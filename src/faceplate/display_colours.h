@@ -2,6 +2,8 @@
 #pragma once
 
 #include "platform/ports/ports.h"
+#include "playback/display.h"
+#include "playback/key_looks.h"
 #include "state/shared_state.h"
 #include "windows/cdform.h"
 
@@ -17,8 +19,15 @@ void paintLevelBars(CDForm& form, const Settings& settings);
 
 class DisplayColours {
  public:
-  DisplayColours(Ports& ports, Layout& layout, CDForm& form, SharedState& state)
-      : files_(ports.files), screen_(ports.screen), tray_(ports.tray), layout_(layout), form_(form), state_(state) {}
+  DisplayColours(Ports& ports, Display& display, KeyLooks& looks, Layout& layout, CDForm& form, SharedState& state)
+      : files_(ports.files),
+        screen_(ports.screen),
+        tray_(ports.tray),
+        display_(display),
+        looks_(looks),
+        layout_(layout),
+        form_(form),
+        state_(state) {}
 
   /// Fonts, all display colours and the background picture, at the faceplate's load and after a visit to
   /// the setup program.
@@ -33,9 +42,7 @@ class DisplayColours {
  private:
   void fonts();
   void legendFonts();
-  void customDisplay();
-  void plainDisplay();
-  void spareLamps();
+  void panes();
   void titleFonts();
   void background();
   void legends();
@@ -44,6 +51,8 @@ class DisplayColours {
   Files& files_;
   Screen& screen_;
   DiscTray& tray_;
+  Display& display_;
+  KeyLooks& looks_;
   Layout& layout_;
   CDForm& form_;
   SharedState& state_;

@@ -49,11 +49,13 @@ void bevels(forms::Panel& panel, int style) {
 
 }  // namespace
 
-Drawer::Drawer(Ports& ports, Engine& engine, InterfaceSounds& sounds, CDForm& form, SharedState& state, PlaybackUpward& upward)
+Drawer::Drawer(Ports& ports, Engine& engine, KeyLooks& looks, InterfaceSounds& sounds, CDForm& form, SharedState& state,
+               PlaybackUpward& upward)
     : clock_(ports.clock),
       files_(ports.files),
       screen_(ports.screen),
       engine_(engine),
+      looks_(looks),
       sounds_(sounds),
       form_(form),
       state_(state),
@@ -69,14 +71,10 @@ bool Drawer::slides() const { return state_.settings.smallFaceplate == 0 && stat
 void Drawer::opendrawer() {
   if (motion_ == Motion::Opening || (isOpen() && motion_ == Motion::None)) return;
   if (form_.Panel3D6.visible) sounds_.play(Sound::OpenDrawer);
-  for (const size_t key : {0U, 3U}) form_.scntlb[key].visible = false;
-  for (auto& mask : form_.icntlb) mask.visible = false;
-  for (const size_t key : {Play, Pause, Stop}) form_.icntlc[key].visible = false;
   // A deck that found no disc has nothing lying in its tray.
   for (auto* panel : {&form_.Panel3D8, &form_.Panel3D7, &form_.Panel3D9, &form_.Panel3D10}) panel->empty = state_.disc.noDiscState > 0;
   start(Motion::Opening);
-  maskKeys();
-  greyLegends();
+  looks_.show(DeckState::DoorOpen);
   form_.Image11.enabled = false;
   // Stays until the next process has started: that is how the old one knows.
   setMarker(files_, state_.settings.appDir, kHandOverMarker);
@@ -172,25 +170,6 @@ void Drawer::closeFrame(int frame) {
     form_.Panel3D2.backColor = state_.settings.customColor[2] != 0 ? state_.settings.customColor[2] : 0x3D3733;
     bevels(form_.Panel3D2, 2);
     form_.Panel3D2.refresh();
-  }
-}
-
-void Drawer::maskKeys() {
-  for (size_t key = Next; key <= Stop; ++key) {
-    form_.icntlc[key].visible = false;
-    form_.icntlb[key].visible = true;
-  }
-  for (auto& number : form_.Label34) number.foreColor = colours::kGrey;
-  for (const size_t key : {0U, 3U}) {
-    form_.scntlc[key].visible = false;
-    if (state_.settings.smallFaceplate != kOn) form_.scntlb[key].visible = true;
-  }
-}
-
-void Drawer::greyLegends() {
-  for (auto* label : {&form_.Label35, &form_.Label24, &form_.Label17, &form_.Label19, &form_.Label20, &form_.Label25, &form_.Label38,
-                      &form_.Label39, &form_.Label40}) {
-    label->foreColor = colours::kGrey;
   }
 }
 

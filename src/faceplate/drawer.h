@@ -22,7 +22,7 @@ constexpr int kOpenTrayLowerTop = 1570;
 
 class Drawer {
  public:
-  Drawer(Ports& ports, Engine& engine, InterfaceSounds& sounds, CDForm& form, SharedState& state, PlaybackUpward& upward);
+  Drawer(Ports& ports, Engine& engine, KeyLooks& looks, InterfaceSounds& sounds, CDForm& form, SharedState& state, PlaybackUpward& upward);
   ~Drawer();
 
   /// Masks, marker and state at once; the door slides on by a timer. Nothing when it stands open or opens. With
@@ -43,13 +43,12 @@ class Drawer {
   void openFrame(int frame);
   void closeFrame(int frame);
   void standOpen();
-  void maskKeys();
-  void greyLegends();
 
   Clock& clock_;
   Files& files_;
   Screen& screen_;
   Engine& engine_;
+  KeyLooks& looks_;
   InterfaceSounds& sounds_;
   CDForm& form_;
   SharedState& state_;

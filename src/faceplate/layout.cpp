@@ -151,7 +151,7 @@ void Layout::fpsm1() {
   form_.Image16[0].visible = form_.Label44.visible = true;
   if (state_.settings.lcdCustom != 1) form_.Line1.foreColor = form_.Line8.foreColor = colours::kBlack;
   showLargeParts(false);
-  for (const size_t key : {0U, 3U}) form_.scntlb[key].visible = form_.scntlc[key].visible = false;
+  looks_.arrange();
   placeVolumePanel();
   for (const auto& row : layouts::smallSpots()) {
     const layouts::Spot& spot = coarse() ? row.coarse : row.fine;
@@ -171,8 +171,7 @@ void Layout::fpLG1() {
     form_.Panel3D7.visible = form_.Panel3D9.visible = form_.Panel3D10.visible = true;
   }
   showLargeParts(true);
-  // The masks of the scan keys come back as play has them, since the small faceplate never shows them.
-  for (const size_t key : {0U, 3U}) form_.scntlb[key].visible = state_.transport.playingFlag != kOn;
+  looks_.arrange();
   for (const auto& row : layouts::smallSpots()) {
     forms::Control* control = form_.find(row.name, row.index);
     const forms::Place place = form_.designPlace(*control);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "faceplate/position.h"
+#include "playback/key_looks.h"
 #include "state/shared_state.h"
 #include "windows/cdform.h"
 
@@ -11,8 +12,8 @@ class Screen;
 
 class Layout {
  public:
-  Layout(Screen& screen, Position& position, CDForm& form, SharedState& state)
-      : screen_(screen), position_(position), form_(form), state_(state) {}
+  Layout(Screen& screen, Position& position, KeyLooks& looks, CDForm& form, SharedState& state)
+      : screen_(screen), position_(position), looks_(looks), form_(form), state_(state) {}
 
   /// At load: the layout that the settings ask for, at its stored place.
   void apply();
@@ -49,6 +50,7 @@ class Layout {
 
   Screen& screen_;
   Position& position_;
+  KeyLooks& looks_;
   CDForm& form_;
   SharedState& state_;
 };

@@ -78,9 +78,6 @@ void CdData::savetimes() {
 }
 
 /// The new texts show at once: the disc's, and that of the track on display.
-void CdData::updateFaceplate() {
-  display_.showHeader();
-  if (state_.disc.discStarted == kOn && display_.number() >= 1) display_.track(display_.number());
-}
+void CdData::updateFaceplate() { display_.showHeader(); }
 
 }  // namespace orvanta

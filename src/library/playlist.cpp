@@ -224,7 +224,6 @@ void Playlist::prvcdt() {
   modes_.Image4_MouseUp(OneKey);
   if (previewRow_ < 0 || previewRow_ >= state_.disc.trackCount) return;
   if (previewRow_ + 1 == state_.transport.curTrack && state_.transport.playingFlag == kOn) return;
-  faceplate_.Label17.foreColor = faceplate_.Label24.foreColor = colours::kBlack;
   state_.transport.selTrack = previewRow_;
   engine_.clrab();
   engine_.jump();

@@ -144,7 +144,6 @@ void PlaybackClock::discGone() {
   // The state first: nothing that the opening door sets off may take the deck for one with a disc.
   state_.disc.drawerOpen = kOn;
   upward_.openDrawer();
-  looks_.show(DeckState::DoorOpen);
   if (state_.disc.noDiscState > 0) upward_.showNoDisc();
 }
 

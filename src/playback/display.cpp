@@ -38,8 +38,10 @@ void Display::disc(int16_t tracks, std::string_view length) {
 
 std::string Display::header() const {
   const DiscState& disc = state_.disc;
-  const bool both = !disc.discArtist.empty() && !disc.discTitle.empty();
-  return disc.discArtist + (both ? " - " : "") + disc.discTitle;
+  const bool artist = !trim(disc.discArtist).empty();
+  const bool title = !trim(disc.discTitle).empty();
+  if (!artist && !title) return {};
+  return disc.discArtist + (artist && title ? " - " : "") + disc.discTitle;
 }
 
 void Display::updateHeader(int16_t track, std::string_view word) {
@@ -66,7 +68,7 @@ void Display::soundless(bool now) {
 
 void Display::showHeader() {
   form_.Label12.caption = header();
-  form_.Label13.caption = "";
+  form_.Label13.caption = title(number());
 }
 
 void Display::clearTexts() {

@@ -49,7 +49,7 @@ class Display {
   std::string header() const;
   /// Header and title line. `word` is the device's state; "Stopped" and "Paused" are shown as such.
   void updateHeader(int16_t track, std::string_view word);
-  /// The header as the disc's texts have it, and no word below it.
+  /// Header and title as the disc's texts have them now.
   void showHeader();
   void emptyHeader() { form_.Label12.caption = ""; }
   void clearTexts();
@@ -82,9 +82,25 @@ class Display {
   bool lampDim(int track) const;
   void lampNumbers(int count);
 
+  // ---- colours (display_paint.cpp)
+
+  /// All colours, the deck's or the user's, as the settings have it.
+  void paint();
+  /// Those that the user has chosen one by one, over the others.
+  void paintUser();
+  /// One of the two title lines.
+  void paintTitle(size_t line, Colour colour);
+  /// The numbers of the disc's tracks, once they are known, and whether a program is stored.
+  void calendar();
+  /// Without a disc: how one gets in.
+  void prompt(std::string_view first, std::string_view second);
+
  private:
   Colour lcd(LcdColour colour) const { return state_.settings.lcdColor[colour]; }
   forms::Label& lampOf(int track) const { return form_.Label22[static_cast<size_t>(track - 1)]; }
+  void paintCustom();
+  void paintPlain();
+  void spareLamps();
   std::string title(int16_t number) const;
   int trackSeconds(int track) const;
   int sumOfSeconds(int first, int last) const;

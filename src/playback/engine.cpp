@@ -283,7 +283,6 @@ void Engine::mmcontrol1_EjectClick() {
   device_.command("stop");
   display_.clearTexts();
   upward_.openDrawer();
-  looks_.show(DeckState::DoorOpen);
   device_.command("Eject");
   device_.command("Close");
   form_.SSPanel3.backColor = colours::kYellow;

@@ -1,6 +1,7 @@
 // The table of looks, and how a row and a glow come onto the faceplate.
 #include "playback/key_looks.h"
 
+#include <algorithm>
 #include <array>
 
 #include "platform/ports/clock.h"
@@ -10,6 +11,7 @@ namespace orvanta {
 namespace {
 
 constexpr int kGlow = 300;  ///< milliseconds
+constexpr int kNumberKeys = 20;
 
 constexpr uint8_t keys(std::initializer_list<TransportKey> list) {
   unsigned bits = 0;
@@ -37,7 +39,7 @@ constexpr Look kLooks[] = {
     {0, keys({Play}), false, 0, kAb | kTime | kShuffle | kRepeat},
     {keys({Previous, Next, Stop}), keys({Pause}), true, kAb | kTime | kRepeat, 0},
     {keys({Next, Play, Pause, Stop}), 0, true, kDoorGrey, 0},
-    {keys({Previous, Next, Play, Pause, Stop}), 0, true, kDoorGrey | kAbove20, 0},
+    {keys({Previous, Next, Play, Pause, Stop, Record}), 0, true, kDoorGrey | kAbove20, 0},
     {keys({Previous, Next, Play, Pause, Stop, Record}), 0, true, 0, 0},
 };
 
@@ -61,6 +63,11 @@ void KeyLooks::reset() {
   show(state_);
 }
 
+void KeyLooks::arrange() {
+  if (settings_.smallFaceplate == kOn) darkenScan();
+  paint();
+}
+
 void KeyLooks::show(DeckState state) {
   glow_.reset();
   glowEnd_->setInterval(0);
@@ -77,6 +84,10 @@ void KeyLooks::enter(DeckState state) {
   state_ = state;
   colour(lookOf(state).grey, colours::kGrey);
   colour(lookOf(state).black, colours::kBlack);
+  if (state == DeckState::DoorOpen || state == DeckState::NoDisc) {
+    for (auto& number : form_.Label34) number.foreColor = colours::kGrey;
+    darkenScan();
+  }
   paint();
 }
 
@@ -112,9 +123,17 @@ void KeyLooks::darkenIntro() {
   form_.Image3[3].visible = false;
 }
 
-void KeyLooks::greyChance(bool programStored) {
+void KeyLooks::greyChance(bool stored) {
   colour(kShuffle | kRepeat, colours::kGrey);
-  colour(kRecord, programStored ? colours::kBlack : colours::kGrey);
+  programStored(stored);
+}
+
+void KeyLooks::programStored(bool stored) { colour(kRecord, stored ? colours::kBlack : colours::kGrey); }
+
+void KeyLooks::numbers(int tracks) {
+  if (tracks > kNumberKeys) return;
+  colour(kAbove20, colours::kGrey);
+  for (int key = std::max(tracks, 0); key < kNumberKeys; ++key) form_.Label34[static_cast<size_t>(key)].foreColor = colours::kGrey;
 }
 
 void KeyLooks::allowShuffle() { colour(kShuffle, colours::kBlack); }

@@ -38,7 +38,7 @@ class KeyLooks {
   /// At a tick: nothing while the state is the one shown, so that legends greyed by a mode key stay so.
   void follow(DeckState state);
   /// Once more, after the faceplate has changed its layout.
-  void arrange() { paint(); }
+  void arrange();
 
   /// The glow of a key that was pressed: it lasts 0.3 s from the last press, over the look of the state.
   void flash(TransportKey key);
@@ -59,8 +59,11 @@ class KeyLooks {
   /// An enhanced disc starts with Intro unmarked.
   void darkenIntro();
   /// Shuffle and Repeat are not to be had now; record is where a program is stored.
-  void greyChance(bool programStored);
+  void greyChance(bool stored);
   void allowShuffle();
+  void programStored(bool stored);
+  /// The number keys of a disc of so many tracks, and the key for those above twenty.
+  void numbers(int tracks);
   void timeLegend();
   /// The A-B key's legend goes with the display's indicator.
   void abLegend(Colour shade);

@@ -60,4 +60,36 @@ TEST(Architecture, IncludesPointOneWay) {
 }
 
 }  // namespace
+/// Some of what the faceplate shows has one writer alone. Places and fonts are the layout's.
+TEST(Architecture, DisplayAndKeysHaveOneWriterEach) {
+  struct Owner {
+    const char* controls;
+    const char* properties;
+    std::set<std::string> files;
+  };
+  const Owner owners[] = {
+      {"(Label6|Label7|Label8|Label9|Label1[0-4]|Label16|Label2[123]|Label30|Label43|CDStatusBar)",
+       "(caption|visible|foreColor|backColor|floodPercent|floodColor)",
+       {"playback/display.h", "playback/display.cpp", "playback/display_paint.cpp"}},
+      {"(icntl[bc]|scntl[bc]|Image[34])", "visible", {"playback/key_looks.cpp"}},
+      {"(Label17|Label24|Label3[4589]|Label40|Label44|Label19|Label20|Label25)", "foreColor", {"playback/key_looks.cpp"}},
+  };
+  for (const Owner& owner : owners) {
+    for (const auto& entry : fs::recursive_directory_iterator(sourceFolder() + "/src")) {
+      const std::string path = fs::relative(entry.path(), sourceFolder() + "/src").string();
+      if (!entry.is_regular_file() || owner.files.count(path) == 1 || path.rfind("platform/", 0) == 0) continue;
+      // The windows of the library have controls of the same names.
+      const std::string control = (path.rfind("library/", 0) == 0 ? "faceplate_\\." : "\\w+\\.") + std::string(owner.controls);
+      const std::regex written("\\b" + control + "(\\[[^\\]]*\\])?\\." + owner.properties + " = ");
+      // One of a list, or all of an array, that something is done to.
+      const std::regex several("([{,] ?&|: )" + control + "(\\[[^\\]]*\\])?[,})]");
+      std::ifstream file(entry.path());
+      for (std::string line; std::getline(file, line);) {
+        const bool places = path == "faceplate/layout.cpp";
+        EXPECT_FALSE(std::regex_search(line, written) || (!places && std::regex_search(line, several))) << path << ": " << line;
+      }
+    }
+  }
+}
+
 }  // namespace orvanta::test

@@ -1,4 +1,4 @@
-// Who belongs to whom on the faceplate: masks, lights and captions of keys, and what drawings look at.
+// Who belongs to whom on the faceplate: masks, lights and captions of keys; what drawings look at, and where.
 #include "platform/forms/design.h"
 #include "windows/cdform.h"
 
@@ -59,8 +59,26 @@ constexpr forms::PartnerRow kPartners[] = {
     {Role::Joint, "Panel3D5", kNoIndex, "Line1"},
 };
 
+using forms::AreaKind;
+
+constexpr forms::AreaRow kLargeAreas[] = {
+    {AreaKind::Glass, {1440, 360, 5652, 1668}, {1440, 360, 5652, 1660}},
+    {AreaKind::KeyRow, {1494, 2769, 5592, 507}, {1494, 2769, 5592, 507}},
+    {AreaKind::Bracket, {7380, 2558, 1840, 105}, {7380, 2558, 1840, 105}},
+};
+constexpr forms::AreaRow kSmallAreas[] = {
+    {AreaKind::Glass, {110, 360, 5652, 1668}, {110, 360, 5652, 1660}},
+    {AreaKind::KeyRow, {132, 2126, 5600, 507}, {132, 2126, 5600, 507}},
+};
+
 }  // namespace
 
 std::span<const forms::PartnerRow> CDForm::partners() const { return kPartners; }
+
+std::span<const forms::AreaRow> CDForm::areas() const {
+  constexpr int kIsSmall = 6000;  // twips of the window's width
+  if (width < kIsSmall) return kSmallAreas;
+  return kLargeAreas;
+}
 
 }  // namespace orvanta

@@ -1,6 +1,7 @@
 // What the drawings owe the eye: whole letters, captions that can be read, a round key that stays round.
 #include <gtest/gtest.h>
 
+#include <QAccessible>
 #include <QApplication>
 #include <QDropEvent>
 #include <QMimeData>
@@ -8,6 +9,7 @@
 #include <QUrl>
 #include <algorithm>
 
+#include "platform/forms/design.h"
 #include "platform/qt/art_tools.h"
 #include "platform/qt/text_lines.h"
 #include "tests/gui/deck.h"
@@ -133,6 +135,66 @@ TEST(Skins, ARoundKeyStaysRound) {
   const QImage skinned = deck.picture();
   EXPECT_EQ(skinned.pixelColor(key.center()), QColor(Qt::magenta));
   EXPECT_LT(std::abs(skinned.pixelColor(key.topLeft()).red() - corner.red()), 40) << "the metal shows at the corners";
+}
+
+/// A window of other names: a key with its mask and light, a slider with its percent, a pane of glass.
+struct Stranger : forms::Form {
+  Stranger() : Form("Stranger") {}
+  forms::Image start{*this, "start"};
+  forms::Image veil{*this, "veil"};
+  forms::Image shine{*this, "shine"};
+  forms::Panel fader{*this, "fader"};
+  forms::Label amount{*this, "amount"};
+  forms::Panel pane{*this, "pane"};
+
+ protected:
+  static constexpr forms::DesignRow row(const char* name, const forms::Place& place, const char* art, bool tabStop, int z,
+                                        const char* caption = "") {
+    return {name, forms::kNoIndex,    "Stranger", z,       place, place, caption, 0xFFFFFF, 0x2B2724, "Arial", 8, false,
+            true, forms::Align::Left, false,      tabStop, false, art,   "",      name};
+  }
+  std::span<const forms::DesignRow> design() const override {
+    static constexpr forms::DesignRow kRows[] = {
+        row("Stranger", {0, 0, 3000, 1500}, "", false, 0),         row("start", {150, 150, 924, 495}, "transport:play", true, 1),
+        row("veil", {495, 300, 180, 195}, "mask:play", false, 2),  row("shine", {495, 300, 180, 195}, "lit:play", false, 2),
+        row("fader", {1500, 150, 255, 1200}, "clear", true, 1),    row("amount", {1500, 0, 345, 150}, "percent", false, 1, "42"),
+        row("pane", {1950, 150, 900, 900}, "glass:rule", false, 1)};
+    return kRows;
+  }
+  std::span<const forms::PartnerRow> partners() const override {
+    static constexpr forms::PartnerRow kRows[] = {{forms::Role::Mask, "start", forms::kNoIndex, "veil"},
+                                                  {forms::Role::Light, "start", forms::kNoIndex, "shine"},
+                                                  {forms::Role::Percent, "fader", forms::kNoIndex, "amount"}};
+    return kRows;
+  }
+};
+
+TEST(View, DrawsAWindowOfAnyNames) {
+  CoreGate gate;
+  QtDesktop desktop(gate, Scale{});
+  Stranger form;
+  form.show(desktop);
+  auto* window = dynamic_cast<FormWindow*>(form.view());
+  ASSERT_NE(window, nullptr);
+  const auto key = [&](bool masked, bool lit) {
+    form.veil.visible = masked;
+    form.shine.visible = lit;
+    return window->grab().toImage().copy(10, 10, 61, 33);
+  };
+  const QImage plain = key(false, false);
+  const QImage masked = key(true, false);
+  const QImage lit = key(false, true);
+  EXPECT_NE(plain, masked);
+  EXPECT_NE(plain, lit);
+  EXPECT_GT(lit.pixelColor(30, 16).green(), lit.pixelColor(30, 16).red() + 40) << "green light";
+  EXPECT_LT(masked.pixelColor(30, 16).lightness(), plain.pixelColor(30, 16).lightness()) << "the face leaves its symbol to the mask";
+  key(true, false);
+  auto* start = QAccessible::queryAccessibleInterface(window->widgetOf(form.start));
+  EXPECT_TRUE(start->state().disabled);
+  auto* fader = QAccessible::queryAccessibleInterface(window->widgetOf(form.fader));
+  EXPECT_EQ(fader->role(), QAccessible::Slider);
+  EXPECT_EQ(fader->text(QAccessible::Value), QStringLiteral("42%"));
+  EXPECT_LT(window->grab().toImage().pixelColor(160, 40).lightness(), 40) << "glass without a display's area of its own";
 }
 
 TEST(Drops, LightTheDeckUpForWhatItTakes) {

@@ -45,6 +45,18 @@ struct GridRow {
   const char* art = "";  ///< "tab", "frame", "heading", "value", "stretch", ...: hints for the view
 };
 
+/// Parts of a window that drawings work on beside its controls.
+enum class AreaKind {
+  Glass,    ///< all that the display's panes lie on
+  KeyRow,   ///< the recess of a row of keys
+  Bracket,  ///< over a group of keys, from its ends
+};
+struct AreaRow {
+  AreaKind kind;
+  Place fine;
+  Place coarse;
+};
+
 constexpr int kEach = -2;  ///< every index of an array, each with the like index of its partner's
 
 /// Who has which role for whom.

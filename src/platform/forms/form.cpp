@@ -28,6 +28,15 @@ std::span<const GridRow> Form::grid() const { return {}; }
 
 std::span<const PartnerRow> Form::partners() const { return {}; }
 
+std::span<const AreaRow> Form::areas() const { return {}; }
+
+Place Form::area(AreaKind kind) const {
+  for (const AreaRow& row : areas()) {
+    if (row.kind == kind) return smallFonts ? row.coarse : row.fine;
+  }
+  return {};
+}
+
 Control* Form::find(std::string_view controlName, int index) const {
   const auto found = std::find_if(controls_.begin(), controls_.end(),
                                   [&](const Control* control) { return control->index() == index && control->name() == controlName; });

@@ -70,8 +70,10 @@ class Desktop {
   Form* lastShown = nullptr;
 };
 
+struct AreaRow;
 struct DesignRow;
 struct GridRow;
+enum class AreaKind;
 struct PartnerRow;
 
 struct Place {
@@ -119,6 +121,8 @@ class Form : private PropertyOwner {
   bool loaded() const { return desktop_ != nullptr; }
   /// Where the design puts a control in the present metric variant; a control of no row is at 0, 0.
   Place designPlace(const Control& control) const;
+  /// Empty in a window that has none of this kind at its present size.
+  Place area(AreaKind kind) const;
   /// The row of its design; nullptr for a control of none.
   const DesignRow* designRow(const Control& control) const;
   /// Loads if need be, shows and raises; activates unless it was the last one shown.
@@ -166,6 +170,7 @@ class Form : private PropertyOwner {
   virtual std::span<const DesignRow> design() const;
   virtual std::span<const GridRow> grid() const;
   virtual std::span<const PartnerRow> partners() const;
+  virtual std::span<const AreaRow> areas() const;
 
  private:
   friend class Control;

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "platform/forms/design.h"
 #include "platform/forms/form.h"
 #include "platform/qt/art_tools.h"
 
@@ -24,11 +25,12 @@ OwnColours ownColours(const forms::Control& control) {
   return {true, qColour(pane->foreColor), qColour(pane->backColor)};
 }
 
-/// What both panes lie on, in design pixels of the window.
+/// What all panes lie on, in design pixels of the window.
 QRectF displayArea(const Art& art) {
-  const bool small = art.control.form().width < 6000;
+  const forms::Place glass = art.control.form().area(forms::AreaKind::Glass);
+  if (glass.width <= 0) return {art.windowX, art.windowY, art.w, art.h};
   const double unit = art.k / 15;
-  return {(small ? 110 : 1440) * unit, 360 * unit, 5652 * unit, (art.k == 1 ? 1660 : 1668) * unit};
+  return {glass.left * unit, glass.top * unit, glass.width * unit, glass.height * unit};
 }
 
 /// Glass with two reflections that run on from pane to pane.
@@ -91,16 +93,16 @@ void lit(Art& art, const Lettering& how, double points) {
   letters(art, area, font, c.caption, face, how);
 }
 
-void digits(Art& art) {
+/// The detail names what stands unlit behind: a number, a time, or nothing.
+void digits(Art& art, std::string_view detail) {
   const forms::Control& c = art.control;
   const size_t length = c.caption.get().size();
-  const bool time = c.width > 1000;
   const double points = length > 7 ? std::min(11.5, c.font.get().points) : c.font.get().points;
   const bool right = c.align == forms::Align::Right;
   const Lettering how{c.align, 0, 0, right};
-  if (right && c.font.get().family == "LcdD") {
+  if (!detail.empty() && c.font.get().family == "LcdD") {
     const OwnColours own = ownColours(c);
-    const char* ghost = !time ? "88" : length <= 6 ? "-88:88" : "-8:88:88";
+    const char* ghost = detail == "number" ? "88" : length <= 6 ? "-88:88" : "-8:88:88";
     letters(art, ghost, own.set ? mix(own.back, own.fore, .10) : QColor(0x0D, 0x26, 0x13), how, points);
   }
   lit(art, how, points);
@@ -123,13 +125,13 @@ void segments(Art& art) {
 }
 
 /// A cell of the calendar: lit numbers sit on a faint ground.
-void cell(Art& art) {
+void cell(Art& art, bool number) {
   const forms::Control& c = art.control;
   const QColor colour = qColour(c.foreColor);
   const OwnColours own = ownColours(c);
   if (own.set) {
     letters(art, c.caption, mix(own.back, own.fore, .10), {c.align});
-  } else if (c.index() < 20 && brightness(colour) > .35) {
+  } else if (number && brightness(colour) > .35) {
     fill(art.painter, QRectF(.7, .3, art.w - 1.4, art.h - .6), alpha(colour, .1), 1.4);
   }
   lit(art, {c.align}, 0);
@@ -151,13 +153,13 @@ bool paintDisplay(Art& art, std::string_view name, std::string_view detail) {
   if (name == "glass") {
     glass(art, detail);
   } else if (name == "digits") {
-    digits(art);
+    digits(art, detail);
   } else if (name == "lit") {
     lit(art, {c.align, c.font.get().points < 8 ? .3 : 0, 0, false, c.wordWrap}, 0);
   } else if (name == "indicator") {
     indicator(art);
   } else if (name == "cell") {
-    cell(art);
+    cell(art, detail != "mark");
   } else if (name == "segments") {
     segments(art);
   } else if (name == "percent") {

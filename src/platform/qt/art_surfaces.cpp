@@ -3,6 +3,7 @@
 
 #include <cmath>
 
+#include "platform/forms/design.h"
 #include "platform/forms/form.h"
 #include "platform/qt/art_tools.h"
 
@@ -22,38 +23,43 @@ void ground(Art& art) {
   if (c.backColor != colours::kBlack && c.backColor != c.form().backColor.get()) fill(art.painter, area(art), qColour(c.backColor));
 }
 
-/// The display's recess, the transport row's, and on the large faceplate the bracket over the mode keys.
+QRectF placed(const Art& art, const forms::Place& place) {
+  return {at(art, place.left), at(art, place.top), at(art, place.width), at(art, place.height)};
+}
+
+/// Over a group of keys: from both ends towards the heading in the middle.
+void bracket(Art& art, const QRectF& rect) {
+  constexpr double kArm = 420;  // twips
+  const double arm = at(art, kArm);
+  QPainterPath path;
+  path.moveTo(rect.bottomLeft());
+  path.lineTo(rect.topLeft());
+  path.lineTo(rect.topLeft() + QPointF(arm, 0));
+  path.moveTo(rect.topRight() - QPointF(arm, 0));
+  path.lineTo(rect.topRight());
+  path.lineTo(rect.bottomRight());
+  art.painter.setBrush(Qt::NoBrush);
+  art.painter.setPen(QPen(alpha(Qt::black, .55), .8));
+  art.painter.drawPath(path.translated(0, .8));
+  art.painter.setPen(QPen(alpha(QColor(0xC9, 0xCE, 0xD4), .42), .8));
+  art.painter.drawPath(path);
+}
+
+/// The metal with a rule under the title, the recesses of display and keys, a bracket over the mode keys.
 void faceplate(Art& art) {
-  constexpr double kSmallWindow = 6000;  // twips
   QPainter& p = art.painter;
-  const bool small = art.control.width < kSmallWindow;
+  const forms::Form& form = art.control.form();
   if (!ownPicture(art)) {
-    metal(art, area(art), qColour(art.control.form().backColor), 0, .42);
+    metal(art, area(art), qColour(form.backColor), 0, .42);
     const double rule = at(art, 322);
     fill(p, QRectF(6 * art.k, rule, art.w - 12 * art.k, .8), alpha(Qt::black, .55));
     fill(p, QRectF(6 * art.k, rule + .8 * art.k, art.w - 12 * art.k, .6), alpha(Qt::white, .16));
   }
   edge(p, area(art), 0, .45, .9, 1);
-  const double high = art.k == 1 ? 1660 : 1668;
-  well(p, QRectF(at(art, small ? 110 : 1440), at(art, 360), at(art, 5652), at(art, high)), 1.5, QColor(2, 3, 3), 3 * art.k);
-  if (small) {
-    well(p, QRectF(at(art, 132), at(art, 2126), at(art, 5600), at(art, 507)), 2, QColor(5, 6, 7), 1.8 * art.k);
-    return;
-  }
-  well(p, QRectF(at(art, 1494), at(art, 2769), at(art, 5592), at(art, 507)), 2, QColor(5, 6, 7), 1.8 * art.k);
-  const double y = at(art, 2558);
-  QPainterPath bracket;
-  bracket.moveTo(at(art, 7380), y + 7 * art.k);
-  bracket.lineTo(at(art, 7380), y);
-  bracket.lineTo(at(art, 7800), y);
-  bracket.moveTo(at(art, 8800), y);
-  bracket.lineTo(at(art, 9220), y);
-  bracket.lineTo(at(art, 9220), y + 7 * art.k);
-  p.setBrush(Qt::NoBrush);
-  p.setPen(QPen(alpha(Qt::black, .55), .8));
-  p.drawPath(bracket.translated(0, .8));
-  p.setPen(QPen(alpha(QColor(0xC9, 0xCE, 0xD4), .42), .8));
-  p.drawPath(bracket);
+  well(p, placed(art, form.area(forms::AreaKind::Glass)), 1.5, QColor(2, 3, 3), 3 * art.k);
+  well(p, placed(art, form.area(forms::AreaKind::KeyRow)), 2, QColor(5, 6, 7), 1.8 * art.k);
+  const QRectF group = placed(art, form.area(forms::AreaKind::Bracket));
+  if (!group.isEmpty()) bracket(art, group);
 }
 
 void doorPlate(Art& art, const QRectF& rect, const QColor& base) {
@@ -101,7 +107,7 @@ void door(Art& art, bool moving) {
   doorPlate(art, area(art), base);
   openSign(art, 16, 19, 1.05);
   engraved(art, QRectF(art.w - 66 * art.k, 28 * art.k, 57 * art.k, 9 * art.k), {"Small Fonts", 7, false}, "OPEN / CLOSE",
-           readable(QColor(0xA9, 0xB0, 0xB7), base), {forms::Align::Right, .3});
+           legendOn(QColor(0xA9, 0xB0, 0xB7), base), {forms::Align::Right, .3});
 }
 
 /// Light and dark sectors round a middle, `turns` of them a round, brightest at `phase`.

@@ -159,24 +159,34 @@ void sign(QPainter& painter, const QPainterPath& path, QPointF centre, double k,
   }
 }
 
-QColor readable(const QColor& colour, const QColor& ground) {
+namespace {
+
+bool legible(const QColor& colour, const QColor& ground) {
   constexpr double kLegible = 3;
   const auto packed = [](const QColor& c) {
     return static_cast<Colour>(c.red()) | static_cast<Colour>(c.green()) << 8U | static_cast<Colour>(c.blue()) << 16U;
   };
+  return contrast(packed(colour), packed(ground)) >= kLegible;
+}
+
+}  // namespace
+
+QColor readable(const QColor& colour, const QColor& ground) {
   for (double part = 0; part < 1; part += .1) {
     const QColor shade = mix(colour, Qt::black, part);
-    if (contrast(packed(shade), packed(ground)) >= kLegible) return shade;
+    if (legible(shade, ground)) return shade;
   }
-  return brightness(ground) < .4 ? colour : QColor(Qt::black);
+  return Qt::black;
 }
+
+QColor legendOn(const QColor& colour, const QColor& ground) { return legible(colour, ground) ? colour : QColor(Qt::black); }
 
 void ejectSign(QPainter& painter, QPointF centre, double k, const QColor& ground) {
   QPainterPath path;
   path.addPolygon(QPolygonF({{0, -4}, {5, 1.4}, {-5, 1.4}}));
   path.closeSubpath();
   path.addRect(-5, 2.8, 10, 1.7);
-  const QColor colour = readable(QColor(0xC8, 0xCD, 0xD2), ground);
+  const QColor colour = legendOn(QColor(0xC8, 0xCD, 0xD2), ground);
   sign(painter, path, centre, k, {0, colour, alpha(brightness(colour) < .35 ? Qt::white : Qt::black, .7), .7});
 }
 

@@ -81,6 +81,8 @@ void sign(QPainter& painter, const QPainterPath& path, QPointF centre, double k,
 void ejectSign(QPainter& painter, QPointF centre, double k, const QColor& ground);
 /// This colour, or as dark a shade of it as can be read on the ground.
 QColor readable(const QColor& colour, const QColor& ground);
+/// This colour, or black where it could not be read: for what is cut into metal.
+QColor legendOn(const QColor& colour, const QColor& ground);
 /// A symbol around (x, y), `k` times its design size, with its engraving.
 void symbol(QPainter& painter, Symbol symbol, QPointF centre, double k, const QColor& colour);
 

@@ -123,7 +123,7 @@ void paintTray(Art& art, bool half) {
   ejectSign(p, {front.right() - 16, front.top() + 11}, 1, base);
   p.restore();
   const QRectF legend((front.left() + 14) * art.k - art.windowX, (front.top() + 5) * art.k - art.windowY, 160 * art.k, 12 * art.k);
-  engraved(art, legend, {"Small Fonts", 7.5, true}, "COMPACT DISC", readable(QColor(0xB9, 0xBE, 0xC4), base),
+  engraved(art, legend, {"Small Fonts", 7.5, true}, "COMPACT DISC", legendOn(QColor(0xB9, 0xBE, 0xC4), base),
            {forms::Align::Left, 2.2 * art.k});
 }
 

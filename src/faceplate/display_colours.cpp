@@ -7,6 +7,7 @@
 #include "base/text.h"
 #include "faceplate/layout.h"
 #include "platform/forms/design.h"
+#include "platform/ports/cd_device.h"
 #include "platform/ports/disc_tray.h"
 #include "platform/ports/files.h"
 #include "platform/ports/screen.h"
@@ -203,6 +204,15 @@ void DisplayColours::disabledLook() {
   form_.Label35.enabled = false;
   form_.Image16[4].enabled = false;
   for (size_t key = 1; key <= 3; ++key) form_.Image10[key].enabled = false;
+  prompt();
+}
+
+void DisplayColours::prompt() {
+  const std::string missing = device_.missingDrive();
+  if (!missing.empty()) {
+    display_.prompt("There is no drive " + missing, "choose another one in the setup");
+    return;
+  }
   display_.prompt("Please insert an Audio CD or Enh-CD into the drive...",
                   tray_.takesImages() ? "click the tray or drop a disc image" : "");
 }

@@ -9,6 +9,7 @@
 
 namespace orvanta {
 
+class CdDevice;
 class DiscTray;
 class Files;
 class Layout;
@@ -23,6 +24,7 @@ class DisplayColours {
       : files_(ports.files),
         screen_(ports.screen),
         tray_(ports.tray),
+        device_(ports.device),
         display_(display),
         looks_(looks),
         layout_(layout),
@@ -46,11 +48,14 @@ class DisplayColours {
   void titleFonts();
   void background();
   void legends();
+  /// How a disc gets in, or that there is no drive.
+  void prompt();
   void pictures();
 
   Files& files_;
   Screen& screen_;
   DiscTray& tray_;
+  CdDevice& device_;
   Display& display_;
   KeyLooks& looks_;
   Layout& layout_;

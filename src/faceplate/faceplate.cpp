@@ -110,7 +110,9 @@ void Faceplate::setPlayState() {
 void Faceplate::activate() {
   on_.volume.activate();
   on_.colours.loadorvanta1b();
-  if (state_.disc.noDiscState > 0) on_.colours.disabledLook();
+  if (state_.disc.noDiscState == 0) return;
+  on_.colours.disabledLook();
+  on_.looks.show(DeckState::NoDisc);
 }
 
 void Faceplate::unload() {

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdio>
 #include <functional>
 #include <sstream>
 
@@ -247,6 +248,13 @@ TEST(NoDisc, IsSeenAtOnceAndTellsTheWayIn) {
     rig.press(*way);
     EXPECT_EQ(rig.dialogs.tape, Tape{"open Put a Disc in"}) << way->fullName();
   }
+  // A drive that is not there is named: nothing can be put into it.
+  CoreRig none;
+  none.install();
+  none.player.absent = "/media/nothing";
+  none.start();
+  EXPECT_EQ(none.form.Label12.caption.get(), "There is no drive /media/nothing");
+  EXPECT_EQ(none.form.Label13.caption.get(), "choose another one in the setup");
   // A disc that was in shows in the tray.
   Hands with;
   with.key('J');
@@ -320,6 +328,135 @@ TEST(Colours, LegendsCanBeReadOnAnyGround) {
   }
   EXPECT_NEAR(contrast(colours::kBlack, colours::kWhite), 21, .1);
   EXPECT_EQ(contrast(0x123456, 0x123456), 1);
+}
+
+TEST(Colours, OfTheDisplayGoWhereTheyBelong) {
+  constexpr Colour kFront = 0x4A2010;
+  constexpr Colour kBack = 0xE4C4A9;
+  constexpr Colour kPrinted = 0x4F4F4F;
+  struct Row {
+    const char* name;
+    int index;
+    Colour own;     ///< in the deck's own colours
+    Colour custom;  ///< in the user's
+  };
+  constexpr int kOne = forms::kNoIndex;
+  const Row fore[] = {{"Label23", kOne, 0x00FF00, kFront},  {"Label6", kOne, 0x00FF00, kFront},    {"Label8", kOne, 0x00FF00, kFront},
+                      {"Label10", kOne, 0x00FF00, kFront},  {"Label12", kOne, 0x50C8FF, kFront},   {"Label13", kOne, 0x00FF00, kFront},
+                      {"Label9", kOne, 0xFFFF00, kFront},   {"Label7", kOne, 0xFFFF00, kFront},    {"Label11", kOne, 0xFFFF00, kFront},
+                      {"Label16", kOne, 0x004040, kBack},   {"Label32", kOne, 0x585800, kPrinted}, {"Label33", kOne, 0x3C3C00, kPrinted},
+                      {"Line10", kOne, 0x323200, kPrinted}, {"Line12", kOne, 0x323200, kPrinted},  {"Line11", kOne, 0x323200, 0x606060},
+                      {"Line1", kOne, 0x000000, kBack},     {"Line8", kOne, 0x000000, kBack}};
+  const Row back[] = {{"Panel3D1", kOne, 0, kBack}, {"Panel3D5", kOne, 0, kBack}, {"CDStatusBar", kOne, 0, kBack}};
+  for (const bool custom : {false, true}) {
+    Hands rig([&](Hands& fresh) {
+      fresh.settings.lcdCustom = custom ? 1 : 0;
+      fresh.settings.lcdFore = kFront;
+      fresh.settings.lcdBack = kBack;
+      fresh.settings.showLights = custom ? 0 : 1;
+      fresh.settings.faceplateBorder = custom ? 1 : 0;
+    });
+    for (const Row& row : fore) EXPECT_EQ(rig.form.find(row.name)->foreColor, custom ? row.custom : row.own) << row.name;
+    for (const Row& row : back) EXPECT_EQ(rig.form.find(row.name)->backColor, custom ? row.custom : row.own) << row.name;
+    EXPECT_EQ(rig.form.CDStatusBar.floodColor, custom ? kFront : rig.state.settings.customColor[4]);
+    for (const auto& lamp : rig.form.Shape15) EXPECT_EQ(lamp.visible, !custom) << lamp.index();
+    for (const auto* line : {&rig.form.Line2, &rig.form.Line3, &rig.form.Line4, &rig.form.Line5}) EXPECT_EQ(line->visible, custom);
+  }
+  // The user's colours of the window, each at its own places; two of them for words and digits of the display.
+  Hands rig([](Hands& fresh) { fresh.settings.customColor = {0x11, 0x22, 0x33, 0x44, 0x55, 0, 0, 0, 0, 0x99, 0xAA}; });
+  const CDForm& form = rig.form;
+  const auto backs = [](std::initializer_list<const forms::Control*> controls, Colour colour) {
+    for (const auto* control : controls) EXPECT_EQ(control->backColor, colour) << control->fullName();
+  };
+  EXPECT_EQ(form.Line2.foreColor, Colour{0x11});
+  EXPECT_EQ(form.backColor, Colour{0x22});
+  backs({&form.Label1, &form.Label2, &form.Label3, &form.Label4, &form.Label5}, 0x22);
+  backs({&form.Panel3D2, &form.Panel3D6, &form.Panel3D7, &form.Panel3D8}, 0x33);
+  backs({&form.Panel3D3, &form.SSPanel1}, 0x44);
+  backs({&form.VbarbtmL, &form.VbarbtmR}, 0x55);
+  EXPECT_EQ(form.CDStatusBar.floodColor, Colour{0x55});
+  for (const auto* label : {&form.Label7, &form.Label9, &form.Label11}) EXPECT_EQ(label->foreColor, Colour{0x99});
+  for (const auto* label : {&form.Label8, &form.Label10}) EXPECT_EQ(label->foreColor, Colour{0xAA});
+}
+
+/// Both sliders with all their parts, the keys under them, and the device's word.
+std::string sliders(const Hands& rig) {
+  const CDForm& form = rig.form;
+  const auto channel = [](const forms::Label& pct, const forms::Shape& thumb, const forms::ControlArray<forms::Line, 2>& lines,
+                          const forms::Panel& upper, const forms::Panel& lower) {
+    const bool together = lines[0].top == thumb.top && lines[1].top == thumb.top && lines[1].height == 79 && upper.height == thumb.top - 90;
+    return pct.caption.get() + "% " + std::to_string(thumb.top) + (together ? "" : " apart") + (upper.visible ? " cover" : "") +
+           (thumb.backColor == Colour{0x7EFEDE} ? " held" : "") + (lower.backColor == colours::kRed ? " red" : "") + " | ";
+  };
+  char word[16];
+  std::snprintf(word, sizeof word, "%08X", static_cast<unsigned>(rig.auxVolume.reading.volume));
+  return channel(form.PctL, form.ThumbL, form.TlineL, form.VbartopL, form.VbarbtmL) +
+         channel(form.PctR, form.ThumbR, form.TlineR, form.VbartopR, form.VbarbtmR) + (form.Image9[1].visible ? "linked" : "") +
+         (form.Image9[0].visible ? "apart" : "") + (form.Image2[1].visible ? " sound " : "") + (form.Image2[0].visible ? " mute " : "") +
+         word;
+}
+
+TEST(Sliders, AfterEachActInEachState) {
+  struct Case {
+    const char* what;
+    std::function<void(Hands&)> act;
+    const char* seen;
+  };
+  const auto turn = [](Hands& rig, forms::Control& control, int notches) { rig.gate.enter([&] { rig.form.wheel(&control, notches); }); };
+  const auto apart = [](Hands& rig) { rig.press(rig.form.Image9[1]); };
+  const auto mute = [](Hands& rig) { rig.press(rig.form.Image2[1]); };
+  const Case cases[] = {
+      {"nothing", [](Hands&) {}, "50% 575 cover | 50% 575 cover | linked sound 80008000"},
+      {"louder", [&](Hands& rig) { turn(rig, rig.form.VolumeL, 1); }, "55% 525 cover | 55% 525 cover | linked sound 8CCD8CCD"},
+      {"softer, at the other", [&](Hands& rig) { turn(rig, rig.form.VolumeR, -1); },
+       "45% 625 cover | 45% 625 cover | linked sound 73337333"},
+      {"to the end", [&](Hands& rig) { turn(rig, rig.form.VolumeL, 12); }, "100% 75 | 100% 75 | linked sound FFFFFFFF"},
+      {"to the other end", [&](Hands& rig) { turn(rig, rig.form.VolumeL, -12); }, "0% 1070 cover | 0% 1070 cover | linked sound 00000000"},
+      {"a percent", [](Hands& rig) { rig.press(rig.form.PctR); }, "0% 1070 cover | 0% 1070 cover | linked sound 00000000"},
+      {"held", [](Hands& rig) { rig.down(rig.form.VolumeL, 100, 600); }, "50% 575 cover held | 50% 575 cover held | linked sound 80008000"},
+      {"held and let go", [](Hands& rig) { rig.down(rig.form.VolumeL, 100, 600), rig.up(); },
+       "50% 575 cover | 50% 575 cover | linked sound 80008000"},
+      {"a press beside the thumb", [](Hands& rig) { rig.down(rig.form.VolumeL, 100, 160), rig.up(); },
+       "97% 100 cover | 97% 100 cover | linked sound F852F852"},
+      {"apart", [&](Hands& rig) { apart(rig); }, "50% 575 cover | 50% 575 cover | apart sound 80008000"},
+      {"apart, left louder", [&](Hands& rig) { apart(rig), turn(rig, rig.form.VolumeL, 1); },
+       "55% 525 cover | 50% 575 cover | apart sound 80008CCD"},
+      {"apart, right softer", [&](Hands& rig) { apart(rig), turn(rig, rig.form.VolumeR, -1); },
+       "50% 575 cover | 45% 625 cover | apart sound 73338000"},
+      {"apart, left silent", [&](Hands& rig) { apart(rig), rig.press(rig.form.PctL); },
+       "0% 1070 cover | 50% 575 cover | apart sound 80000000"},
+      {"apart, right held", [&](Hands& rig) { apart(rig), rig.down(rig.form.VolumeR, 100, 600); },
+       "50% 575 cover | 50% 575 cover held | apart sound 80008000"},
+      {"together again", [&](Hands& rig) { apart(rig), turn(rig, rig.form.VolumeL, 1), rig.press(rig.form.Image9[0]); },
+       "55% 525 cover | 50% 575 cover | linked sound 80008CCD"},
+      {"mute", [&](Hands& rig) { mute(rig); }, "50% 575 cover red | 50% 575 cover red | linked mute 00000000"},
+      {"mute and back", [&](Hands& rig) { mute(rig), rig.press(rig.form.Image2[0]); },
+       "50% 575 cover | 50% 575 cover | linked sound 80008000"},
+      {"mute, a drag", [&](Hands& rig) { mute(rig), rig.down(rig.form.VolumeL, 100, 300), rig.up(); },
+       "50% 575 cover red | 50% 575 cover red | linked mute 00000000"},
+      {"mute apart, a percent", [&](Hands& rig) { apart(rig), mute(rig), rig.press(rig.form.PctL); },
+       "0% 1070 cover | 50% 575 cover | apart sound 80000000"},
+      {"F5", [](Hands& rig) { rig.key(forms::key::kF1 + 4); }, "55% 525 cover | 55% 525 cover | linked sound 8CCD8CCD"},
+      {"apart, F6", [&](Hands& rig) { apart(rig), rig.key(forms::key::kF1 + 5); }, "45% 625 cover | 45% 625 cover | apart sound 73337333"},
+      {"the right button beside a slider",
+       [](Hands& rig) {
+         rig.gate.enter([&] {
+           rig.form.mouseDown(&rig.form.VolumeL, {forms::MouseButton::Right, 100, 300});
+           rig.form.mouseUp({forms::MouseButton::Right, 100, 300});
+         });
+       },
+       "50% 575 cover | 50% 575 cover | linked sound 80008000"},
+  };
+  for (const Case& row : cases) {
+    Hands rig([](Hands& fresh) { fresh.auxVolume.reading.volume = 0x80008000; });
+    const Tape changed = rig.by([&] { row.act(rig); });
+    EXPECT_EQ(sliders(rig), row.seen) << row.what;
+    for (const std::string& line : changed) {
+      const bool part = line.find(" in VolumeL ") != std::string::npos || line.find(" in VolumeR ") != std::string::npos ||
+                        line.rfind("Pct", 0) == 0 || line.rfind("Image2(", 0) == 0 || line.rfind("Image9(", 0) == 0;
+      EXPECT_TRUE(part) << row.what << ": " << line;
+    }
+  }
 }
 
 TEST(Mixer, IsPreparedWhenTheSetupTurnsToIt) {

@@ -267,7 +267,10 @@ void Faceplate::rightReleased(const forms::Control& control) {
 }
 
 void Faceplate::doubleClick(forms::Control* control) {
-  if (control == nullptr || control == &form_.Image8) on_.position.Form_DblClick();
+  if (control != nullptr && control != &form_.Image8) return;
+  // The window has moved away under the hand: what is held of it is no drag.
+  grip_.reset();
+  on_.position.Form_DblClick();
 }
 
 void Faceplate::dragged() { on_.position.saveposn1(); }

@@ -70,13 +70,13 @@ std::string_view Engine::lengthOf(int track) const {
 
 void Engine::MMControl1_PlayClick() {
   TransportState& transport = state_.transport;
-  forgetAdvance();
   transport.pausedFlag = kOff;
   transport.playingFlag = kOn;
   if (transport.pausePosition > 0) {
     resume();
     return;
   }
+  forgetAdvance();
   transport.curTrack = playable(state_.disc, transport.curTrack);
   state_.disc.discStarted = kOn;
   display_.track(transport.curTrack);
@@ -90,7 +90,12 @@ void Engine::MMControl1_PlayClick() {
   }
 }
 
+/// Where the track was counted already and the device is still in the one before, the end that is heard yet
+/// is the one that was counted, however long the pause was.
 void Engine::resume() {
+  if (static_cast<int16_t>(unpackTmsf(device_.position()).track) < state_.transport.curTrack) {
+    state_.transport.lastAdvanceTime = clock_.secondsToday();
+  }
   display_.repeat();
   device_.command("Resume");
   state_.transport.pausePosition = 0;
@@ -109,7 +114,7 @@ void Engine::playCurrent() {
 void Engine::MMControl1_PauseClick() {
   TransportState& transport = state_.transport;
   endScan();
-  forgetAdvance();
+  dropStep();
   transport.pausedFlag = kOn;
   transport.playingFlag = kOff;
   transport.pausePosition = static_cast<int32_t>(device_.position());
@@ -230,7 +235,7 @@ void Engine::CDStatusBar_Click(double x) {
   const int16_t track = state_.transport.curTrack;
   if (state_.transport.playingFlag != kOn || state_.disc.drawerOpen == kOn || track < 1 || track > state_.disc.trackCount) return;
   seekFraction(lengthOf(track), std::abs(x - kBarMargin));
-  showState();
+  followState();
 }
 
 int Engine::landing(int16_t track, double x) const {

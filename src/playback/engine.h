@@ -78,6 +78,8 @@ class Engine {
   void dueStep();
   /// From here on the device is in the current track: the next end counts.
   void forgetAdvance();
+  /// A correction's step that is due is not made; an end that was counted stays counted.
+  void dropStep();
   void endScan();
 
   /// Bar and time of a place in a track.

@@ -99,8 +99,10 @@ void Engine::endScan() {
 
 void Engine::forgetAdvance() {
   state_.transport.lastAdvanceTime = 0;
-  state_.transport.advanceDue = 0;
+  dropStep();
 }
+
+void Engine::dropStep() { state_.transport.advanceDue = 0; }
 
 void Engine::advanceInCont() {
   TransportState& transport = state_.transport;

@@ -1,6 +1,7 @@
 // Next, previous, and the step through a program.
 #include <algorithm>
 
+#include "base/times.h"
 #include "platform/ports/cd_device.h"
 #include "playback/engine.h"
 #include "playback/tracks.h"
@@ -144,6 +145,9 @@ void Engine::emptyProgram() {
   looks_.lightMode(Cont);
   state_.program.skipStep = kOff;
   if (device_.mode() == DeviceMode::Playing) {
+    // With a correction the device may be in the next track already.
+    state_.transport.curTrack = static_cast<int16_t>(unpackTmsf(device_.position()).track);
+    display_.track(state_.transport.curTrack);
     state_.transport.trackGo = 1;
   } else {
     playCurrent();

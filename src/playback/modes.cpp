@@ -25,7 +25,7 @@ void Modes::Image4_MouseUp(size_t mode) {
   if (asleep()) return;
   stopintro();
   engine_.settle();
-  engine_.forgetAdvance();
+  engine_.dropStep();
   state_.transport.playEnded = kOff;
   engine_.setTimer2Interval(100);
   leaveOne();

@@ -1,6 +1,7 @@
 // Play modes, programs, steps, scans and loops over whole discs on the virtual clock.
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <map>
 #include <random>
 #include <set>
@@ -154,6 +155,41 @@ TEST(Cont, TwentyAndMoreTracks) {
       } else {
         EXPECT_EQ(rig.device.mode(), DeviceMode::Stopped);
       }
+    }
+  }
+}
+
+/// In a track's last five seconds the next one is counted already while the device is still in this one: what a person
+/// does then must not count the same end again.
+TEST(Cont, AnEndThatWasCountedIsNotCountedAgain) {
+  struct Act {
+    const char* what;
+    std::function<void(PlayRig&)> run;
+  };
+  const Act acts[] = {{"pause, play", [](PlayRig& deck) { deck.keys("FD"); }},
+                      {"a pause longer than the guard",
+                       [](PlayRig& deck) {
+                         deck.keys("F");
+                         deck.clock.advance(20000);
+                         deck.keys("D");
+                       }},
+                      {"the key of its own mode", [](PlayRig& deck) { deck.mode(ContKey); }}};
+  for (const Act& act : acts) {
+    for (const int16_t correction : {int16_t{0}, int16_t{2}}) {
+      SCOPED_TRACE(act.what + std::string(", correction ") + std::to_string(correction));
+      PlayRig deck(discA());
+      deck.state.disc.timeCorrection = correction;
+      deck.play();
+      // Track 2 is 4:58 long, track 3 shorter than what has passed by then.
+      deck.clock.advance((246 + 293) * 1000 + 600);
+      EXPECT_EQ(deck.heardTrack(), 2);
+      act.run(deck);
+      deck.clock.advance(9000);
+      EXPECT_EQ(deck.heardTrack(), 3);
+      EXPECT_EQ(deck.shown().substr(0, 1), "3");
+      EXPECT_EQ(deck.state.transport.curTrack, 3);
+      deck.clock.advance(100000);
+      EXPECT_EQ(deck.device.mode(), DeviceMode::Playing);
     }
   }
 }

@@ -140,7 +140,8 @@ TEST(View, TheMetalIsDraggedByAMoveAndCentredByTwoClicks) {
   EXPECT_EQ(form.left, 3000 + 30 * 15);
   QTest::mouseDClick(deck.window, Qt::LeftButton, {}, metal);
   EXPECT_EQ(form.left, (deck.screen.widthTwips() - form.width) / 2);
-  EXPECT_EQ(deck.files.tape.back(), "remove /data/CDPOSN.DAT");
+  EXPECT_EQ(deck.files.tape.back(), "remove /data/CDPOSN.DAT.utf8");
+  EXPECT_FALSE(deck.files.exists("/data/CDPOSN.DAT"));
 }
 
 TEST(View, TabShowsFocusAndSpacePresses) {
@@ -333,12 +334,12 @@ TEST(View, FocusAndIdleTicksPaintNothing) {
   EXPECT_EQ(paints.count, 0) << "nor paused";
 }
 
-TEST(View, AFormParkedPastTheScreenIsNotMapped) {
+TEST(View, AParkedFormIsNotMapped) {
   Deck deck;
   EXPECT_TRUE(deck.window->isVisible());
-  deck.core.form.left = 10000000;
+  deck.core.form.parked = true;
   EXPECT_FALSE(deck.window->isVisible());
-  deck.core.form.left = 0;
+  deck.core.form.parked = false;
   EXPECT_TRUE(deck.window->isVisible());
 }
 

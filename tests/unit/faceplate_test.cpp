@@ -417,7 +417,7 @@ TEST(Sliders, AfterEachActInEachState) {
       {"held and let go", [](Hands& rig) { rig.down(rig.form.VolumeL, 100, 600), rig.up(); },
        "50% 575 cover | 50% 575 cover | linked sound 80008000"},
       {"a press beside the thumb", [](Hands& rig) { rig.down(rig.form.VolumeL, 100, 160), rig.up(); },
-       "97% 100 cover | 97% 100 cover | linked sound F852F852"},
+       "97% 100 cover | 97% 100 cover | linked sound F851F851"},
       {"apart", [&](Hands& rig) { apart(rig); }, "50% 575 cover | 50% 575 cover | apart sound 80008000"},
       {"apart, left louder", [&](Hands& rig) { apart(rig), turn(rig, rig.form.VolumeL, 1); },
        "55% 525 cover | 50% 575 cover | apart sound 80008CCD"},

@@ -162,19 +162,19 @@ TEST(Cont, TwentyAndMoreTracks) {
 /// In a track's last five seconds the next one is counted already while the device is still in this one: what a person
 /// does then must not count the same end again.
 TEST(Cont, AnEndThatWasCountedIsNotCountedAgain) {
-  struct Act {
+  struct Doing {
     const char* what;
     std::function<void(PlayRig&)> run;
   };
-  const Act acts[] = {{"pause, play", [](PlayRig& deck) { deck.keys("FD"); }},
-                      {"a pause longer than the guard",
-                       [](PlayRig& deck) {
-                         deck.keys("F");
-                         deck.clock.advance(20000);
-                         deck.keys("D");
-                       }},
-                      {"the key of its own mode", [](PlayRig& deck) { deck.mode(ContKey); }}};
-  for (const Act& act : acts) {
+  const Doing acts[] = {{"pause, play", [](PlayRig& deck) { deck.keys("FD"); }},
+                        {"a pause longer than the guard",
+                         [](PlayRig& deck) {
+                           deck.keys("F");
+                           deck.clock.advance(20000);
+                           deck.keys("D");
+                         }},
+                        {"the key of its own mode", [](PlayRig& deck) { deck.mode(ContKey); }}};
+  for (const Doing& act : acts) {
     for (const int16_t correction : {int16_t{0}, int16_t{2}}) {
       SCOPED_TRACE(act.what + std::string(", correction ") + std::to_string(correction));
       PlayRig deck(discA());

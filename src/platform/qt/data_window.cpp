@@ -26,6 +26,7 @@ using forms::Change;
 namespace {
 
 constexpr int kTitleBar = 32;  ///< pixels that the window manager adds above, as a rule
+constexpr int kFrame = 8;      ///< what a window manager's frame takes of the width, in pixels
 
 std::string fromQt(const QString& text) { return text.toStdString(); }
 
@@ -38,7 +39,7 @@ QRect freeAreaAt(const QPoint& place) {
 Scale fitted(Scale scale, const forms::Form& form) {
   const QRect free = freeAreaAt({scale.pixels(form.left), scale.pixels(form.top)});
   const auto factor = [&](int pixels, int twips) { return static_cast<double>(pixels) * scale.twipsPerPixel / twips; };
-  scale.factor = std::min({scale.factor, factor(free.width(), form.width), factor(free.height() - kTitleBar, form.height)});
+  scale.factor = std::min({scale.factor, factor(free.width() - kFrame, form.width), factor(free.height() - kTitleBar, form.height)});
   return scale;
 }
 
@@ -188,10 +189,10 @@ bool DataWindow::onScreen() const { return form_ != nullptr && !form_->parked; }
 
 void DataWindow::place() {
   const QRect free = freeArea();
-  const QSize size = QSize(scale_.pixels(form_->width), scale_.pixels(form_->height)).boundedTo(free.size() - QSize(0, kTitleBar));
+  const QSize size = QSize(scale_.pixels(form_->width), scale_.pixels(form_->height)).boundedTo(free.size() - QSize(kFrame, kTitleBar));
   resize(size);
   const auto within = [](int at, int first, int last) { return std::max(first, std::min(at, last)); };
-  move(within(deckScale_.pixels(form_->left), free.left(), free.right() + 1 - size.width()),
+  move(within(deckScale_.pixels(form_->left), free.left(), free.right() + 1 - kFrame - size.width()),
        within(deckScale_.pixels(form_->top), free.top(), free.bottom() + 1 - kTitleBar - size.height()));
 }
 

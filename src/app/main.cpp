@@ -33,6 +33,7 @@
 #include "platform/linux/wave_player.h"
 #include "platform/qt/fonts.h"
 #include "platform/qt/form_view.h"
+#include "platform/qt/late_net.h"
 #include "platform/qt/late_printer.h"
 #include "platform/qt/qt_clock.h"
 #include "platform/qt/qt_dialogs.h"
@@ -147,6 +148,7 @@ int run(int argc, char** argv) {
   QtDesktop desktop(gate, scale);
   processes.setYield([&clock] { clock.yield(); });
   LatePrinter printer(gate);
+  LateNet net(gate);
   MciDevice device(*player, clock);
   DriveTray tray(*player, real ? "" : path);
   const std::string level = data.empty() ? "" : joinPath(data, "level.dat");
@@ -155,7 +157,7 @@ int run(int argc, char** argv) {
   MixerStandIn mixer(*master);
   const SoundSetup deckSound = makeSound(options.audio == "default" ? options.audio : "null");
   WavePlayer sounds(*deckSound.outputs, [] { QApplication::beep(); });
-  Ports ports{device, tray, clock, dialogs, files, processes, screen, system, volume, mixer, sounds, printer, desktop};
+  Ports ports{device, tray, clock, dialogs, files, processes, screen, system, volume, mixer, sounds, printer, net, desktop};
   auto orvanta = std::make_unique<Orvanta>(ports);
 
   QSocketNotifier signalled(wishes.fd(), QSocketNotifier::Read);

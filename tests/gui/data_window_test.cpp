@@ -3,6 +3,7 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QDialog>
 #include <QDir>
@@ -14,6 +15,7 @@
 #include <QPointer>
 #include <QProcess>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QRegularExpression>
 #include <QScreen>
 #include <QTest>
@@ -27,6 +29,7 @@
 #include "platform/qt/qt_printer.h"
 #include "platform/qt/row_list.h"
 #include "tests/gui/deck.h"
+#include "windows/cddbmain.h"
 
 namespace orvanta::test {
 namespace {
@@ -134,7 +137,7 @@ TEST(DataWindow, GoesWhileABoxStandsOverIt) {
     Windows rig;
     QtDialogs boxes(rig.gate, rig.screen);
     Ports ports{rig.device, rig.tray,      rig.clock, boxes,      rig.files,   rig.processes, rig.screen,
-                rig.system, rig.auxVolume, rig.mixer, rig.sounds, rig.printer, rig.qtDesktop};
+                rig.system, rig.auxVolume, rig.mixer, rig.sounds, rig.printer, rig.net,       rig.qtDesktop};
     Orvanta core(ports);
     rig.gate.enter([&] {
       core.startUp({});
@@ -290,7 +293,7 @@ TEST(DataWindow, PrintsIntoAPdf) {
   const QString path = QDir::temp().filePath(QStringLiteral("orvanta-print-test.pdf"));
   PdfPrinter printer(rig.gate, path);
   Ports ports{rig.device, rig.tray,      rig.clock, rig.dialogs, rig.files, rig.processes, rig.screen,
-              rig.system, rig.auxVolume, rig.mixer, rig.sounds,  printer,   rig.qtDesktop};
+              rig.system, rig.auxVolume, rig.mixer, rig.sounds,  printer,   rig.net,       rig.qtDesktop};
   RecordPrint(ports, rig.editor).run(rig.core.state.disc);
   QProcess text;
   text.start(QStringLiteral("pdftotext"), {QStringLiteral("-layout"), path, QStringLiteral("-")});
@@ -303,6 +306,34 @@ TEST(DataWindow, PrintsIntoAPdf) {
   EXPECT_TRUE(words.contains(QStringLiteral("Words of the second")));
   EXPECT_GT(words.count(QLatin1Char('\f')), 1) << "long notes run on to another page";
   QFile::remove(path);
+}
+
+TEST(DataWindow, TicksAndSecretsAreTheFormsToShow) {
+  struct Ticker : forms::FormEvents {
+    void mouseUp(forms::Control* control, const forms::Mouse& /*mouse*/) override {
+      auto& check = dynamic_cast<forms::CheckBox&>(*control);
+      if (takes) check.value = !check.value;
+      ++presses;
+    }
+    bool takes = false;
+    int presses = 0;
+  } ticker;
+  Windows rig;
+  cddbmain form;
+  form.setEvents(&ticker);
+  form.show(rig.qtDesktop);
+  auto& tick = rig.widget<QCheckBox>(form.Check1);
+  QTest::mouseClick(&tick, Qt::LeftButton);
+  EXPECT_EQ(ticker.presses, 1);
+  EXPECT_FALSE(tick.isChecked()) << "the form did not take it";
+  ticker.takes = true;
+  QTest::keyClick(&tick, Qt::Key_Space);
+  EXPECT_EQ(ticker.presses, 2);
+  EXPECT_TRUE(tick.isChecked() && form.Check1.value);
+  form.Option2[1].value = true;
+  EXPECT_TRUE(rig.widget<QRadioButton>(form.Option2[1]).isChecked());
+  EXPECT_EQ(rig.widget<QLineEdit>(form.Text8).echoMode(), QLineEdit::Password);
+  EXPECT_TRUE(rig.widget<QPlainTextEdit>(form.linernote2).isReadOnly());
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include "app/orvanta.h"
 #include "platform/linux/drive_tray.h"
 #include "state/settings_files.h"
+#include "tests/support/fake_net.h"
 #include "tests/support/fakes.h"
 #include "tests/support/sim_device.h"
 
@@ -28,8 +29,9 @@ struct CoreRig {
   FakeMixer mixer;
   FakeSounds sounds;
   FakePrinter printer;
+  FakeNet net{clock};
   DriveTray tray{player, "/drive"};
-  Ports ports{device, tray, clock, dialogs, files, processes, screen, system, auxVolume, mixer, sounds, printer, desktop};
+  Ports ports{device, tray, clock, dialogs, files, processes, screen, system, auxVolume, mixer, sounds, printer, net, desktop};
   Orvanta orvanta{ports};
   CDForm& form = orvanta.form;
   SharedState& state = orvanta.state;

@@ -16,6 +16,7 @@ class VirtualClock : public Clock {
   explicit VirtualClock(CoreGate& gate) : gate_(gate) {}
 
   double secondsToday() const override { return std::fmod(startOfDay + static_cast<double>(now_) / 1000, 86400.0); }
+  int year() const override { return 2026; }
   int64_t milliseconds() const override { return now_; }
   /// Time passes, nothing is delivered: what fell due is delivered late, once.
   void delaySeconds(double seconds) override {

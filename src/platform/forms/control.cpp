@@ -6,7 +6,8 @@
 namespace orvanta::forms {
 
 std::string_view kindName(Kind kind) {
-  static constexpr std::string_view kNames[] = {"label", "image", "panel", "line", "shape", "bar", "textbox", "button", "list", "combo"};
+  static constexpr std::string_view kNames[] = {"label",   "image",  "panel", "line",  "shape", "bar",
+                                                "textbox", "button", "list",  "combo", "check"};
   return kNames[static_cast<int>(kind)];
 }
 

@@ -30,7 +30,7 @@ enum class Role {
 };
 constexpr size_t kRoles = 10;
 
-enum class Kind { Label, Image, Panel, Line, Shape, Bar, TextBox, Button, List, Combo };
+enum class Kind { Label, Image, Panel, Line, Shape, Bar, TextBox, Button, List, Combo, Check };
 std::string_view kindName(Kind kind);
 
 enum class Align { Left, Center, Right };
@@ -156,6 +156,13 @@ class TextBox : public Simple<Kind::TextBox> {
   /// By program, told to the view each time: a text set since the last one has ended it there.
   void selectAll();
   Property<bool> allSelected{*this, Change::Selection};  ///< the user's next edit ends it
+};
+
+/// A box to tick, or one of several choices. A press is its handlers' to answer: they change the value.
+class CheckBox : public Simple<Kind::Check> {
+ public:
+  using Simple::Simple;
+  Property<bool> value{*this, Change::Selection};
 };
 
 /// A text with a list of proposals.

@@ -21,6 +21,8 @@ class Clock {
   virtual ~Clock() = default;
   /// Seconds since local midnight, with fractions, 0 to 86400; falls back to 0 at midnight.
   virtual double secondsToday() const = 0;
+  /// Of the calendar.
+  virtual int year() const = 0;
   /// Milliseconds since some fixed moment; never goes back.
   virtual int64_t milliseconds() const = 0;
   /// Sleeps without delivering any event.

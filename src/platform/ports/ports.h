@@ -11,6 +11,7 @@ class Dialogs;
 class DiscTray;
 class Files;
 class MixerApplication;
+class Net;
 class Printer;
 class Processes;
 class Screen;
@@ -33,6 +34,7 @@ struct Ports {
   MixerApplication& mixer;
   Sounds& sounds;
   Printer& printer;
+  Net& net;
   forms::Desktop& desktop;  ///< gives loaded forms their views
 };
 

@@ -18,7 +18,7 @@ constexpr const char* kSheet = R"(
 QWidget { background: #2B2E33; color: #D8DCE0; font-family: "Roboto Condensed"; font-size: 14p; }
 QLabel { background: transparent; }
 QLabel[art^="heading"] { color: #8FA6B2; font-size: 12p; }
-QLabel[art="value"] { color: #FFC850; }
+QLabel[art^="value"] { color: #FFC850; }
 QLineEdit, QPlainTextEdit, QComboBox, QTreeWidget {
   background: #101315; color: #E6E9EC; border: 1p solid #15171A; border-bottom-color: #4A5057; border-right-color: #4A5057;
   border-radius: 3p; padding: 2p 5p; selection-background-color: #1F6B3A; selection-color: #FFFFFF;
@@ -45,6 +45,13 @@ QPushButton[tab="true"] {
 QPushButton[tab="true"]:checked { background: qlineargradient(x1:0, y1:0, x2:0, y2:1, stop:0 #5A6067, stop:1 #33373D); color: #FFFFFF; border-top: 2p solid #50E678; }
 QGroupBox { border: 1p solid #4A5057; border-radius: 4p; margin-top: 10p; padding-top: 8p; }
 QGroupBox::title { subcontrol-origin: margin; left: 10p; color: #8FA6B2; }
+QCheckBox, QRadioButton { background: transparent; }
+QCheckBox::indicator, QRadioButton::indicator { width: 13p; height: 13p; background: #101315; border: 1p solid #4A5057; border-radius: 3p; }
+QRadioButton::indicator { border-radius: 7p; }
+QCheckBox::indicator:checked, QRadioButton::indicator:checked { background: #50E678; border: 3p solid #101315; }
+QCheckBox:focus, QRadioButton:focus { color: #FFC247; }
+QCheckBox:disabled, QRadioButton:disabled, QLabel:disabled { color: #6A7078; }
+QLineEdit:disabled { background: #24272B; color: #6A7078; }
 QScrollBar:vertical { background: #15181B; width: 12p; margin: 0; }
 QScrollBar::handle:vertical { background: #565B62; border-radius: 4p; min-height: 24p; margin: 2p; }
 QScrollBar::add-line:vertical, QScrollBar::sub-line:vertical { height: 0; }

@@ -1,5 +1,6 @@
 // The widgets of a data window, one for each control, in the grids that their cells tell of.
 #include <QApplication>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QGridLayout>
 #include <QGroupBox>
@@ -7,6 +8,7 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QRadioButton>
 #include <algorithm>
 
 #include "platform/qt/accessible.h"
@@ -81,6 +83,7 @@ QWidget* DataWindow::make(forms::Control& control, QWidget* parent) {
     case forms::Kind::TextBox: return makeText(static_cast<forms::TextBox&>(control), parent);
     case forms::Kind::Combo: return makeCombo(static_cast<forms::Combo&>(control), parent);
     case forms::Kind::List: return makeList(static_cast<forms::ListBox&>(control), parent);
+    case forms::Kind::Check: return makeCheck(static_cast<forms::CheckBox&>(control), parent);
     case forms::Kind::Button: return makeButton(static_cast<forms::Button&>(control), parent);
     case forms::Kind::Label: return makeLabel(static_cast<forms::Label&>(control), parent);
     default: {
@@ -99,12 +102,14 @@ QWidget* DataWindow::makeText(forms::TextBox& box, QWidget* parent) {
   if (!has(box, "notes")) {
     auto* line = new QLineEdit(toQt(box.caption), parent);
     watch(line, box);
+    if (has(box, "password")) line->setEchoMode(QLineEdit::Password);
     if (has(box, "narrow")) line->setFixedWidth(static_cast<int>(60 * scale_.factor));
     QObject::connect(line, &QLineEdit::textChanged, this, [this, &box](const QString& text) { userTyped(box, text); });
     return line;
   }
   auto* notes = new QPlainTextEdit(toQt(box.caption), parent);
   notes->setTabChangesFocus(true);
+  notes->setReadOnly(has(box, "fixed"));
   notes->setFixedHeight(static_cast<int>(kNotesHeight * scale_.factor));
   watch(notes, box);
   QObject::connect(notes, &QPlainTextEdit::textChanged, this, [this, &box, notes] { userTyped(box, notes->toPlainText()); });
@@ -159,6 +164,24 @@ QWidget* DataWindow::makeButton(forms::Button& button, QWidget* parent) {
     enter([&] { form_->press(button); });
   });
   return key;
+}
+
+QWidget* DataWindow::makeCheck(forms::CheckBox& check, QWidget* parent) {
+  QAbstractButton* view = nullptr;
+  if (has(check, "choice")) {
+    view = new QRadioButton(toQt(check.caption), parent);
+    view->setAutoExclusive(false);
+  } else {
+    view = new QCheckBox(toQt(check.caption), parent);
+  }
+  view->setChecked(check.value);
+  watch(view, check);
+  QObject::connect(view, &QAbstractButton::clicked, this, [this, &check, view] {
+    // It shows the control's value, whatever the press would make of it.
+    view->setChecked(check.value);
+    enter([&] { form_->press(check); });
+  });
+  return view;
 }
 
 QWidget* DataWindow::makeLabel(forms::Label& label, QWidget* parent) {

@@ -1,6 +1,7 @@
 // The roads between the widgets of a data window and its controls.
 #include "platform/qt/data_window.h"
 
+#include <QAbstractButton>
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QGuiApplication>
@@ -99,6 +100,7 @@ void DataWindow::follow(forms::Control& control, Change change) {
     view->setEditText(toQt(combo->caption));
     telling_ = false;
   }
+  if (const auto* check = dynamic_cast<forms::CheckBox*>(&control)) static_cast<QAbstractButton*>(widget)->setChecked(check->value);
   auto* box = dynamic_cast<forms::TextBox*>(&control);
   if (box == nullptr || change != Change::Selection || !box->allSelected) return;
   if (auto* line = dynamic_cast<QLineEdit*>(widget)) line->selectAll();

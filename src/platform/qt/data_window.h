@@ -44,6 +44,7 @@ class DataWindow : public QWidget {
   QWidget* makeCombo(forms::Combo& combo, QWidget* parent);
   QWidget* makeList(forms::ListBox& list, QWidget* parent);
   QWidget* makeButton(forms::Button& button, QWidget* parent);
+  QWidget* makeCheck(forms::CheckBox& check, QWidget* parent);
   QWidget* makeLabel(forms::Label& label, QWidget* parent);
   QGridLayout* gridOf(QWidget* owner, const forms::Control* panel);
   void watch(QWidget* widget, forms::Control& control);

@@ -2,6 +2,7 @@
 #include "platform/qt/qt_clock.h"
 
 #include <QCoreApplication>
+#include <QDate>
 #include <QTime>
 #include <QTimer>
 #include <chrono>
@@ -46,6 +47,8 @@ class QtTimer : public Timer {
 }  // namespace
 
 double QtClock::secondsToday() const { return QTime::currentTime().msecsSinceStartOfDay() / 1000.0; }
+
+int QtClock::year() const { return QDate::currentDate().year(); }
 
 int64_t QtClock::milliseconds() const {
   return std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::steady_clock::now().time_since_epoch()).count();

@@ -10,6 +10,7 @@ class QtClock : public Clock {
  public:
   explicit QtClock(CoreGate& gate) : gate_(gate) {}
   double secondsToday() const override;
+  int year() const override;
   int64_t milliseconds() const override;
   void delaySeconds(double seconds) override;
   void yield() override;

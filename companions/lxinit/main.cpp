@@ -5,6 +5,7 @@
 #include <filesystem>
 
 #include "base/text.h"
+#include "cddb/cddb_settings.h"
 #include "platform/linux/host_files.h"
 #include "platform/linux/host_system.h"
 #include "state/settings_files.h"
@@ -47,7 +48,7 @@ bool nameFolder(HostFiles& files, const HostSystem& system, const Settings& sett
 
 bool setUp(HostFiles& files, const HostSystem& system, const Settings& settings) {
   const std::string& folder = settings.appDir;
-  if (!writeMissingSettings(files, settings) || !nameFolder(files, system, settings)) return false;
+  if (!writeMissingSettings(files, settings) || !writeMissingCddbFiles(files, folder) || !nameFolder(files, system, settings)) return false;
   if (settings.cdProbePath == HostSystem::usualDrive(folder) && files.makeFolder(settings.cdProbePath)) {
     linkDemo(files, system.demoFolder(), settings.cdProbePath);
     takeFiles(files, system.demoFolder(), joinPath(folder, "datacd"), ".CD");

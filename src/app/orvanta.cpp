@@ -8,6 +8,7 @@
 #include "platform/ports/core_gate.h"
 #include "platform/ports/dialogs.h"
 #include "platform/ports/disc_tray.h"
+#include "platform/ports/files.h"
 #include "platform/ports/processes.h"
 #include "platform/ports/system.h"
 #include "state/settings_files.h"
@@ -33,6 +34,7 @@ Orvanta::Orvanta(Ports& ports)
       html_(ports, editor, state.settings),
       print_(ports, editor),
       cdData_(ports, genres_, html_, print_, display_, editor, form, state, *this),
+      cddb_(ports, cdData_, editor, cddbForm, form, state, *this),
       playlist_(ports, engine_, modes_, display_, playlistForm, form, state),
       info_(ports, engine_, modes_, infoForm, form, state, *this),
       drawer_(ports, engine_, looks_, sounds_, form, state, *this),
@@ -102,6 +104,7 @@ bool Orvanta::readCdRecord(const std::string& /*cdFilePath*/) {
 /// The track list's window makes room for the editor.
 void Orvanta::showCdData() {
   if (!discIn() && !cdData_.openForPerson()) return;
+  cddb_.cddbcanz();
   info_.close();
   cdData_.openFromFaceplate();
 }
@@ -114,7 +117,19 @@ void Orvanta::showTrackList() {
   if (discIn()) info_.open();
 }
 
+/// A lookup of the disc that goes is over.
+void Orvanta::openDrawer() {
+  cddb_.cddbcanz();
+  drawer_.opendrawer();
+}
+
+void Orvanta::readTextsAgain() {
+  if (ports_.files.exists(state.disc.cdFilePath)) readCdRecord(state.disc.cdFilePath);
+  form.Label12.caption = display_.header();
+}
+
 void Orvanta::closeDiscWindows() {
+  cddb_.cddbcanz();
   info_.close();
   if (!cdData_.openForPerson()) editor.unload();
 }

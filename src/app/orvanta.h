@@ -7,6 +7,8 @@
 #include "app/restart.h"
 #include "app/second_start.h"
 #include "app/start_up.h"
+#include "cddb/cddb_window.h"
+#include "cddb/upward.h"
 #include "faceplate/drawer.h"
 #include "faceplate/faceplate.h"
 #include "faceplate/interface_sounds.h"
@@ -27,7 +29,7 @@
 
 namespace orvanta {
 
-class Orvanta : private PlaybackUpward, private LibraryUpward {
+class Orvanta : private PlaybackUpward, private LibraryUpward, private CddbUpward {
  public:
   explicit Orvanta(Ports& ports);
 
@@ -54,13 +56,16 @@ class Orvanta : private PlaybackUpward, private LibraryUpward {
   acdtabs editor;
   cdplist playlistForm;
   cdartext infoForm;
+  cddbmain cddbForm;
   SharedState state;
 
  private:
-  void openDrawer() override { drawer_.opendrawer(); }
+  void openDrawer() override;
   void exitProgram() override;
   void exitWhenFree() override;
-  bool restartWaits() const override { return cdData_.openForPerson() || playlistForm.loaded() || ports_.dialogs.open(); }
+  bool restartWaits() const override {
+    return cdData_.openForPerson() || cddb_.openForPerson() || playlistForm.loaded() || ports_.dialogs.open();
+  }
   void everyTick() override;
   void closeDrawer() override { drawer_.closedrawer(); }
   void showNoDisc() override { colours_.disabledLook(); }
@@ -82,6 +87,10 @@ class Orvanta : private PlaybackUpward, private LibraryUpward {
   void showTrackList() override;
   void closeTrackList() override { info_.close(); }
   void closeDiscWindows() override;
+  void openCddb() override { cddb_.open(); }
+  void automaticLookup() override { cddb_.discKnown(); }
+  bool lookupMayStart() const override { return discIn() && !playlistForm.loaded() && !ports_.dialogs.open(); }
+  void readTextsAgain() override;
   void hideFaceplate() override { form.hide(); }
 
   DiscFiles discFiles() { return {ports_.files, state.disc.cdFilePath}; }
@@ -91,11 +100,10 @@ class Orvanta : private PlaybackUpward, private LibraryUpward {
   void showHelp(int /*topic*/) override {}
   void showMenu() override {}
   void launchEnhancedDisc() override {}
-  void openCddb() override {}
   void submitToCddb() override {}
   bool mailSenderKnown() const override { return false; }
   void lookForLyrics() override {}
-  void automaticLookup() override {}
+  void showPage(const std::string& /*address*/) override {}
 
   void restartWhenFree();
 
@@ -122,6 +130,7 @@ class Orvanta : private PlaybackUpward, private LibraryUpward {
   HtmlExport html_;
   RecordPrint print_;
   CdData cdData_;
+  CddbWindow cddb_;
   Playlist playlist_;
   CdInfo info_;
   Drawer drawer_;

@@ -14,9 +14,6 @@ namespace {
 
 using Field = std::variant<std::string CddbSettings::*, int CddbSettings::*, bool CddbSettings::*, std::monostate>;
 
-constexpr const char* kOnlineFile = "cddbol.dat";
-constexpr const char* kMailFile = "cddbml.dat";
-
 const Field kOnlineFields[] = {&CddbSettings::cddbServer,  &CddbSettings::cddbSiteName, &CddbSettings::cddbPort, &CddbSettings::emailUser,
                                &CddbSettings::emailDomain, &CddbSettings::proxyUser,    &CddbSettings::useCddbp, &CddbSettings::autoConnect,
                                &CddbSettings::proxyServer, &CddbSettings::proxyPassword};

@@ -8,12 +8,16 @@ namespace orvanta {
 
 class Files;
 
+inline constexpr const char* kOnlineFile = "cddbol.dat";
+inline constexpr const char* kMailFile = "cddbml.dat";
+
 /// Addresses of our own, in one place.
 namespace cddb_defaults {
 inline constexpr const char* kHost = "gnudb.gnudb.org";
 inline constexpr int kPort = 8880;
 inline constexpr const char* kSiteName = "gnudb.org";
 inline constexpr const char* kSubmissions = "freedb-submit@gnudb.org";
+inline constexpr const char* kFreedbSubmissions = "freedb-submit@freedb.org";
 inline constexpr const char* kTestSubmissions = "test-submit@gnudb.org";
 }  // namespace cddb_defaults
 

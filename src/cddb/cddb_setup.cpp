@@ -1,0 +1,212 @@
+// The Setup tab: servers, protocol, proxy, the user's address, mail.
+#include <algorithm>
+
+#include "base/text.h"
+#include "cddb/cddb_window.h"
+#include "platform/ports/files.h"
+#include "platform/ports/ports.h"
+#include "state/not_written.h"
+
+namespace orvanta {
+
+namespace {
+
+constexpr const char* kServerPorts = "Please enter a valid Port number (usually 80 for HTTP and 8880 or 888 for CDDBP)";
+constexpr const char* kMailPorts = "Please enter a valid Port number (usually 25 for SMTP Servers)";
+constexpr int kHighestPort = 65535;
+
+int portIn(const forms::TextBox& box) {
+  const double port = leadingNumber(box.caption.get());
+  return port >= 1 && port <= kHighestPort ? static_cast<int>(port) : 0;
+}
+
+std::string trimmed(const forms::Control& control) { return std::string(trim(control.caption.get())); }
+
+/// The parts before and behind the "@"; none when one of them is empty.
+struct Address {
+  std::string user;
+  std::string domain;
+};
+Address addressIn(const std::string& text) {
+  const auto at = text.find('@');
+  if (at == std::string::npos) return {};
+  Address address{std::string(trim(text.substr(0, at))), std::string(trim(text.substr(at + 1)))};
+  return address.user.empty() || address.domain.empty() ? Address{} : address;
+}
+
+}  // namespace
+
+/// As they are stored: what was chosen here and cancelled is forgotten.
+void CddbWindow::readSettings() {
+  constexpr size_t kShortestUser = 2;
+  settings_ = {};
+  readCddbSettings(ports_.files, state_.settings.appDir, settings_);
+  readMailSettings(ports_.files, state_.settings.appDir, settings_);
+  settings_.smtpPort = mailPort(settings_.smtpPort);
+  if (trim(settings_.proxyUser).size() < kShortestUser) settings_.proxyUser.clear();
+  if (startsWithNoCase(settings_.cddbServer, "FREEDB")) settings_.submitAddress = cddb_defaults::kFreedbSubmissions;
+}
+
+ServerLists CddbWindow::lists() const { return {ports_.files, state_.settings.appDir}; }
+
+void CddbWindow::showSettings() {
+  form_.Text6.caption = settings_.submitAddress.empty() ? cddb_defaults::kSubmissions : settings_.submitAddress;
+  form_.Text7.caption = settings_.smtpServer;
+  form_.Text2.caption = std::to_string(settings_.smtpPort);
+  form_.Text3.caption = settings_.proxyUser;
+  form_.Text8.caption = settings_.proxyPassword;
+  form_.Check2.value = !trim(settings_.proxyPassword).empty();
+  form_.Check1.value = settings_.autoConnect;
+  form_.Text5.caption = settings_.emailUser.empty() ? "" : settings_.emailUser + "@" + settings_.emailDomain;
+  form_.Text1.caption = proxyKept_ = settings_.proxyServer;
+  showProtocol();
+  loadcombo1();
+  const auto same = std::find_if(sites_.begin(), sites_.end(), [&](const Site& site) {
+    return site.siteName == settings_.cddbSiteName && site.sitePort == settings_.cddbPort;
+  });
+  form_.Combo1.caption = settings_.cddbSiteName;
+  form_.Text4.caption = settings_.cddbPort > 0 ? std::to_string(settings_.cddbPort) : "";
+  if (same != sites_.end()) {
+    chooseSite(static_cast<size_t>(same - sites_.begin()));
+  } else if (form_.Combo1.caption.get().empty()) {
+    chooseSite(0);
+  }
+}
+
+/// The proxy serves HTTP alone; a list of servers comes over CDDBP alone.
+void CddbWindow::showProtocol() {
+  const bool cddbp = settings_.useCddbp;
+  form_.Option2[0].value = !cddbp;
+  form_.Option2[1].value = cddbp;
+  form_.Command10.enabled = cddbp;
+  form_.Text1.enabled = form_.Label2.enabled = form_.Check2.enabled = !cddbp;
+  if (cddbp) {
+    if (!form_.Text1.caption.get().empty()) proxyKept_ = form_.Text1.caption;
+    form_.Text1.caption = "";
+  } else if (form_.Text1.caption.get().empty()) {
+    form_.Text1.caption = proxyKept_;
+  }
+  form_.Text3.enabled = form_.Text8.enabled = !cddbp && form_.Check2.value;
+}
+
+void CddbWindow::loadcombo1() {
+  sites_ = lists().load(settings_.useCddbp);
+  std::vector<std::string> names;
+  for (const Site& site : sites_) names.push_back(site.siteName);
+  form_.Combo1.setItems(std::move(names));
+}
+
+void CddbWindow::chooseSite(size_t index) {
+  if (index >= sites_.size()) return;
+  const Site& site = sites_[index];
+  form_.Combo1.caption = site.siteName;
+  settings_.cddbServer = site.siteHost;
+  settings_.cddbPort = site.sitePort;
+  form_.Text4.caption = std::to_string(site.sitePort);
+}
+
+void CddbWindow::chooseProtocol(bool cddbp) {
+  if (cddbp == settings_.useCddbp) return;
+  settings_.useCddbp = cddbp;
+  showProtocol();
+  loadcombo1();
+  chooseSite(0);
+}
+
+void CddbWindow::edited(forms::Control& control) {
+  if (&control != &form_.Combo1) return;
+  const auto chosen = std::find_if(sites_.begin(), sites_.end(), [&](const Site& site) { return site.siteName == control.caption.get(); });
+  if (chosen != sites_.end()) chooseSite(static_cast<size_t>(chosen - sites_.begin()));
+}
+
+// ---- ENTER
+
+bool CddbWindow::enter(forms::Control& control) {
+  struct Link {
+    forms::Control& from;
+    forms::Control& to;
+  };
+  const Link links[] = {{form_.Text1, form_.Command1}, {form_.Text3, form_.Text8},  {form_.Text8, form_.Command1},
+                        {form_.Text7, form_.Text6},    {form_.Text6, form_.Check1}, {form_.Text4, form_.Text5},
+                        {form_.Text2, form_.Text1},    {form_.Text5, form_.Text7}};
+  const auto* link = std::find_if(std::begin(links), std::end(links), [&](const Link& each) { return &each.from == &control; });
+  if (link == std::end(links)) return false;
+  bool good = !trim(control.caption.get()).empty();
+  if (&control == &form_.Text4) good = enterPort(form_.Text4, kServerPorts);
+  if (&control == &form_.Text2) good = enterPort(form_.Text2, kMailPorts);
+  if (&control == &form_.Text5) good = enterAddress();
+  if (!good) return true;
+  // A field that is hidden or off is passed over.
+  forms::Control& next = &link->to == &form_.Text6 && !form_.Text6.visible ? form_.Check1 : link->to;
+  form_.setFocus(next.enabled ? next : static_cast<forms::Control&>(form_.Command1));
+  return true;
+}
+
+bool CddbWindow::enterPort(forms::TextBox& field, const char* usual) {
+  if (portIn(field) > 0) return true;
+  box(BoxStyle::Warning, "Orvanta", usual);
+  return false;
+}
+
+bool CddbWindow::enterAddress() {
+  if (!takeAddress()) {
+    box(BoxStyle::Critical, "Orvanta", "Invalid email address format - example of proper format: someone@example.com");
+    return false;
+  }
+  if (trimmed(form_.Text7).empty()) form_.Text7.caption = settings_.emailDomain;
+  return true;
+}
+
+bool CddbWindow::takeAddress() {
+  const Address address = addressIn(form_.Text5.caption);
+  if (address.user.empty()) return false;
+  settings_.emailUser = address.user;
+  settings_.emailDomain = address.domain;
+  return true;
+}
+
+// ---- OK
+
+/// Out of the controls; false when something is missing, of which the user has been told.
+bool CddbWindow::takeSetup() {
+  forms::Control* missing = nullptr;
+  if (!trimmed(form_.Text5).empty()) {
+    if (!enterAddress()) missing = &form_.Text5;
+  } else if (!trim(settings_.cddbServer).empty()) {
+    box(BoxStyle::Warning, "Orvanta", "You must enter your email address to access the CDDB Online!");
+    missing = &form_.Text5;
+  }
+  if (missing == nullptr && !enterPort(form_.Text4, kServerPorts)) missing = &form_.Text4;
+  if (missing != nullptr) {
+    if (activeTab_ != Setup) showTab(Setup);
+    form_.setFocus(*missing);
+    return false;
+  }
+  settings_.cddbSiteName = form_.Combo1.caption;
+  settings_.cddbPort = portIn(form_.Text4);
+  settings_.proxyServer = settings_.useCddbp ? proxyKept_ : trimmed(form_.Text1);
+  settings_.proxyUser = form_.Check2.value ? trimmed(form_.Text3) : "";
+  settings_.proxyPassword = form_.Check2.value ? form_.Text8.caption.get() : "";
+  settings_.autoConnect = form_.Check1.value;
+  settings_.submitAddress = trimmed(form_.Text6);
+  settings_.smtpServer = trimmed(form_.Text7);
+  settings_.smtpPort = mailPort(portIn(form_.Text2));
+  return true;
+}
+
+/// False when a file could not be written: the window stays with what was typed.
+bool CddbWindow::writeSetup() {
+  const std::string& folder = state_.settings.appDir;
+  const bool mail = !settings_.submitAddress.empty() && !settings_.smtpServer.empty();
+  if (!trim(settings_.cddbServer).empty() && !writeCddbSettings(ports_.files, folder, settings_)) {
+    tellNotWritten(ports_.dialogs, ports_.files, joinPath(folder, kOnlineFile));
+    return false;
+  }
+  if (mail && !writeMailSettings(ports_.files, folder, settings_)) {
+    tellNotWritten(ports_.dialogs, ports_.files, joinPath(folder, kMailFile));
+    return false;
+  }
+  return true;
+}
+
+}  // namespace orvanta

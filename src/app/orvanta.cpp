@@ -125,7 +125,7 @@ void Orvanta::openDrawer() {
 
 void Orvanta::readTextsAgain() {
   if (ports_.files.exists(state.disc.cdFilePath)) readCdRecord(state.disc.cdFilePath);
-  form.Label12.caption = display_.header();
+  display_.showHeader();
 }
 
 void Orvanta::closeDiscWindows() {

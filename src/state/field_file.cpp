@@ -2,6 +2,7 @@
 #include "state/field_file.h"
 
 #include <algorithm>
+#include <set>
 
 #include "base/code_page.h"
 
@@ -62,9 +63,20 @@ void FieldWriter::text(std::string_view utf8) {
   // The form has no way to hold a double quote, and one would cut the value short.
   std::replace(bytes.begin(), bytes.end(), '"', '\'');
   bytes_ += "\"" + bytes + "\"\r\n";
-  const std::string held = fromWindows1252(bytes);
-  ++field_;
-  if (held != utf8) companion_ += WholeTexts::line(field_, held, utf8);
+  texts_.push_back({++field_, fromWindows1252(bytes), std::string(utf8)});
+}
+
+std::string FieldWriter::companion() const {
+  std::set<std::string> cut;
+  for (const Text& text : texts_) {
+    if (text.held != text.whole) cut.insert(text.held);
+  }
+  std::string lines;
+  for (const Text& text : texts_) {
+    // A field that truly holds what stands for another's text says so, or it would be given that text.
+    if (cut.count(text.held) == 1) lines += WholeTexts::line(text.field, text.held, text.whole);
+  }
+  return lines;
 }
 
 void FieldWriter::number(int64_t value) {

@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "state/whole_texts.h"
 
@@ -36,11 +37,16 @@ class FieldWriter {
   void empty();
   const std::string& bytes() const { return bytes_; }
   /// Of the companion; "" when the file alone holds everything.
-  const std::string& companion() const { return companion_; }
+  std::string companion() const;
 
  private:
+  struct Text {
+    int field;
+    std::string held;
+    std::string whole;
+  };
   std::string bytes_;
-  std::string companion_;
+  std::vector<Text> texts_;
   int field_ = 0;
 };
 

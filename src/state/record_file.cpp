@@ -23,7 +23,7 @@ std::optional<RecordBytes> readRecordFile(const Files& files, const std::string&
 bool writeRecordFile(Files& files, const std::string& path, const FieldWriter& record) {
   const std::string companion = companionOf(path);
   const std::string old = files.read(companion).value_or("");
-  const std::string& fresh = record.companion();
+  const std::string fresh = record.companion();
   const bool changes = fresh != old;
   if (changes && !fresh.empty() && !files.write(companion, fresh + old)) return false;
   if (!files.write(path, record.bytes())) {

@@ -99,13 +99,16 @@ void assign(const Target& target, const std::string& text, Settings& settings) {
   }
 }
 
+/// As a signed number: a desktop's own colours are negative.
+void writeColour(Colour colour, FieldWriter& out) { out.number(static_cast<int32_t>(colour)); }
+
 void write(const Target& target, const Settings& settings, FieldWriter& out) {
   if (const auto* string = std::get_if<std::string Settings::*>(&target)) {
     out.text(settings.*(*string));
   } else if (const auto* number = std::get_if<int16_t Settings::*>(&target)) {
     out.number(settings.*(*number));
   } else if (const auto* colour = std::get_if<Colour Settings::*>(&target)) {
-    out.number(settings.*(*colour));
+    writeColour(settings.*(*colour), out);
   } else if (const auto* kept = std::get_if<Kept>(&target)) {
     const std::string& text = settings.kept.at(kept->place);
     if (kept->quoted) {
@@ -162,6 +165,8 @@ struct WriteVisit {
   bool operator()(T& value) const {
     if constexpr (std::is_same_v<T, std::string>) {
       out.text(value);
+    } else if constexpr (std::is_same_v<T, Colour>) {
+      writeColour(value, out);
     } else {
       out.number(value);
     }

@@ -29,15 +29,15 @@ const Golden kGolden[] = {
     {SettingsFile::Orvwin3,
      "\"Font A\"\r\n9\r\n1\r\n2\r\n3\r\n101\r\n\"Font B\"\r\n10\r\n4\r\n5\r\n6\r\n102\r\n13\r\n14\r\n15\r\n16\r\n17\r\n"
      "\"engine\"\r\n\"Font D\"\r\n11\r\n7\r\n8\r\n9\r\n103\r\n200\r\n201\r\n202\r\n203\r\n204\r\n205\r\n206\r\n207\r\n208\r\n209\r\n210\r\n"
-     "211\r\n212\r\n",
+     "211\r\n-1\r\n",
      "font0=Font A,9,1,2,3,101 font1=Font B,10,4,5,6,102 font3=Font D,11,7,8,9,103 option1=13 option2=14 option3=15 option4=16 option5=17 "
      "searchEngine=engine colour0=200 colour1=201 colour2=202 colour3=203 colour4=204 colour5=205 colour6=206 colour7=207 colour8=208 "
-     "colour9=209 colour10=210 colour11=211 colour12=212"},
+     "colour9=209 colour10=210 colour11=211 colour12=4294967295"},
     {SettingsFile::Orvwin4,
      "31\r\n\"b\"\r\n\"site\"\r\n34\r\n5\r\n6\r\n37\r\n\"browser\"\r\n\"i\"\r\n\"j\"\r\n11\r\n\"back.bmp\"\r\n13\r\n14\r\n\"\"\r\n16\r\n"
-     "2\r\n18\r\n19\r\n40\r\n",
+     "2\r\n18\r\n-2147483643\r\n40\r\n",
      "lyricsSite=site soundsOff=5 minToTray=6 browserPath=browser faceplateBorder=11 faceplateBitmap=back.bmp faceplateBitmapOn=13 "
-     "noLcdFont=14 showLights=16 lcdCustom=2 lcdFore=18 lcdBack=19"},
+     "noLcdFont=14 showLights=16 lcdCustom=2 lcdFore=18 lcdBack=2147483653"},
     {SettingsFile::Orvwin7,
      "\"rip, all\"\r\n\"2\"\r\n\"3\"\r\n\"4\"\r\n\"5\"\r\n\"6\"\r\n\"7\"\r\n\"8\"\r\n\"9\"\r\n\"10\"\r\n\"11\"\r\n\"12\"\r\n\"13\"\r\n"
      "\"14\"\r\n\"15\"\r\n\"16\"\r\n\"17\"\r\n\"18\"\r\n\"19\"\r\n\"20\"\r\n",
@@ -119,6 +119,12 @@ TEST(SettingsFiles, KeepTextsOfAnyScript) {
   readSettings(SettingsFile::Orvwin, files, "/system", back);
   readSettings(SettingsFile::Orvwin7, files, "/data", back);
   EXPECT_EQ(told(back), "appDir=" + folder + " cdProbePath=/\u00fc \u0142/\\tray recordCommand=" + s.recordCommand);
+  Settings alike;
+  alike.fonts[0].fontName = "\"a\"";
+  alike.fonts[1].fontName = "'a'";
+  const FieldWriter both = writtenFields(SettingsFile::Orvwin3, alike);
+  readFields(SettingsFile::Orvwin3, FieldReader(both.bytes(), both.companion()), back);
+  EXPECT_EQ(back.fonts[0].fontName + back.fonts[1].fontName, "\"a\"'a'") << "a text that looks like another's stand-in stays";
 
   // Another program of the family wrote the file meanwhile: its text stands.
   std::string& main = files.files["/SYSTEM/ORVWIN.INI"];

@@ -78,10 +78,10 @@ void glowPiece(Art& art, const QRectF& rect, const forms::Font& font, const std:
                           std::to_string(static_cast<int>(how.align)) + (how.bottom ? "b" : "") + (how.wrap ? "w" : "") + text;
   const QImage* picture = art.glows.find(key);
   if (picture == nullptr) {
-    QImage fresh(size, QImage::Format_ARGB32_Premultiplied);
-    fresh.fill(Qt::transparent);
+    QImage mask(size, QImage::Format_Alpha8);
+    mask.fill(0);
     {
-      QPainter painter(&fresh);
+      QPainter painter(&mask);
       painter.setRenderHint(QPainter::Antialiasing);
       Art inner{
           painter,    art.control, art.fonts,
@@ -90,8 +90,15 @@ void glowPiece(Art& art, const QRectF& rect, const forms::Font& font, const std:
           art.h,      art.windowX, art.windowY};
       letters(inner, rect, font, text, colour, how);
     }
-    blur(fresh, sigma);
-    picture = &art.glows.keep(key, std::move(fresh));
+    blur(mask, sigma);
+    QImage light(size, QImage::Format_ARGB32_Premultiplied);
+    light.fill(colour);
+    {
+      QPainter painter(&light);
+      painter.setCompositionMode(QPainter::CompositionMode_DestinationIn);
+      painter.drawImage(0, 0, mask);
+    }
+    picture = &art.glows.keep(key, std::move(light));
   }
   art.painter.save();
   art.painter.setWorldTransform(art.plain);

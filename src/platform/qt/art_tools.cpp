@@ -50,28 +50,24 @@ void fill(QPainter& painter, const QRectF& rect, const QBrush& brush, double rad
 }
 
 /// Three box filters in a row are a bell curve to the eye.
-void blur(QImage& picture, double sigma) {
+void blur(QImage& mask, double sigma) {
   const int width = std::max(1, static_cast<int>(std::lround(sigma * 1.88)) | 1);
   const int reach = width / 2;
-  std::vector<std::array<int, 4>> line(static_cast<size_t>(std::max(picture.width(), picture.height())));
-  const auto at = [&](int i) -> std::array<int, 4>& { return line[static_cast<size_t>(i)]; };
+  std::vector<int> line(static_cast<size_t>(std::max(mask.width(), mask.height())));
+  const auto at = [&](int i) -> int& { return line[static_cast<size_t>(i)]; };
   const auto pass = [&](uchar* first, qsizetype step, int count) {
     for (int round = 0; round < 3; ++round) {
-      for (int i = 0; i < count; ++i) {
-        for (size_t c = 0; c < 4; ++c) at(i)[c] = first[i * step + static_cast<qsizetype>(c)];
-      }
-      std::array<int, 4> sum{};
+      for (int i = 0; i < count; ++i) at(i) = first[i * step];
+      int sum = 0;
       for (int i = -reach; i < count; ++i) {
-        for (size_t c = 0; c < 4; ++c) {
-          if (i + reach < count) sum[c] += at(i + reach)[c];
-          if (i - reach - 1 >= 0) sum[c] -= at(i - reach - 1)[c];
-          if (i >= 0) first[i * step + static_cast<qsizetype>(c)] = static_cast<uchar>(sum[c] / width);
-        }
+        if (i + reach < count) sum += at(i + reach);
+        if (i - reach - 1 >= 0) sum -= at(i - reach - 1);
+        if (i >= 0) first[i * step] = static_cast<uchar>(sum / width);
       }
     }
   };
-  for (int y = 0; y < picture.height(); ++y) pass(picture.scanLine(y), 4, picture.width());
-  for (int x = 0; x < picture.width(); ++x) pass(picture.bits() + qsizetype{x} * 4, picture.bytesPerLine(), picture.height());
+  for (int y = 0; y < mask.height(); ++y) pass(mask.scanLine(y), 1, mask.width());
+  for (int x = 0; x < mask.width(); ++x) pass(mask.bits() + x, mask.bytesPerLine(), mask.height());
 }
 
 bool ownPicture(Art& art, bool round) {

@@ -40,8 +40,8 @@ void aluminium(QPainter& painter, const QRectF& rect, double radius, bool presse
 void graphite(QPainter& painter, const QRectF& rect, double radius, bool pressed);
 /// A shadow or shine that fades out over `blur` around a rounded rectangle.
 void soft(QPainter& painter, const QRectF& rect, double radius, const QColor& colour, double blur);
-/// Softens a picture, as much as `sigma` pixels.
-void blur(QImage& picture, double sigma);
+/// Softens a picture of one byte a pixel, as much as `sigma` pixels.
+void blur(QImage& mask, double sigma);
 /// The user's picture over the control, when there is one that can be read; a round key shows a round one.
 bool ownPicture(Art& art, bool round = false);
 /// A small lamp in its hole, lit or dark.

@@ -38,6 +38,19 @@ def pss(pid):
     return next(int(line.split()[1]) / 1024 for line in text_of(f"/proc/{pid}/smaps_rollup").splitlines() if line.startswith("Pss:"))
 
 
+def mapped_files(pid):
+    return {line.split(maxsplit=5)[5] for line in text_of(f"/proc/{pid}/maps").splitlines() if len(line.split(maxsplit=5)) == 6}
+
+
+def forget(files):
+    """Out of the system's memory: read from the disk when next used."""
+    for name in files:
+        with contextlib.suppress(OSError):
+            file = os.open(name, os.O_RDONLY)
+            os.posix_fadvise(file, 0, 0, os.POSIX_FADV_DONTNEED)
+            os.close(file)
+
+
 class Rig:
     """Every second of every track has a level of its own, so that a skip can be heard to the sample."""
 
@@ -106,6 +119,7 @@ class Player:
         self.rig, self.name, self.command, self.disc = rig, name, command, disc
         self.env = rig.home_of(name.split()[0])
         self.process = None
+        self.files = set()
         if name == "vlc" and os.geteuid() == 0:
             os.chown(self.env["XDG_RUNTIME_DIR"], 65534, 65534)
             self.command = ["setpriv", "--reuid=65534", "--regid=65534", "--clear-groups", *command]

@@ -3,7 +3,7 @@
 #include <cstdio>
 #include <vector>
 
-#include "platform/linux/image_drive.h"
+#include "platform/disc/image_drive.h"
 
 int main(int argc, char** argv) {
   constexpr int kChunk = 25;

@@ -1,7 +1,7 @@
 // The CUE reader and the layout: any bytes give a good disc or a reason, never anything else.
 #include <cstdlib>
 
-#include "platform/linux/disc_layout.h"
+#include "platform/disc/disc_layout.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size);
 

@@ -2,8 +2,8 @@
 #include <algorithm>
 #include <cstdlib>
 
-#include "platform/linux/iso_root.h"
-#include "platform/linux/toc.h"
+#include "platform/disc/iso_root.h"
+#include "platform/disc/toc.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size);
 

@@ -1,8 +1,8 @@
 // level.dat and tray.dat: what anybody left there.
 #include <cstdlib>
 
-#include "platform/linux/image_drive.h"
-#include "platform/linux/stream_volume.h"
+#include "platform/disc/image_drive.h"
+#include "platform/sound/stream_volume.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size);
 

@@ -2,8 +2,8 @@
 #include <cstdlib>
 
 #include "base/text.h"
-#include "platform/linux/play_on.h"
-#include "platform/linux/play_on_talk.h"
+#include "platform/disc/play_on.h"
+#include "platform/disc/play_on_talk.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size);
 

@@ -4,8 +4,8 @@
 #include <cstdlib>
 #include <vector>
 
-#include "platform/linux/image_file.h"
-#include "platform/linux/toc.h"
+#include "platform/disc/image_file.h"
+#include "platform/disc/toc.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size);
 

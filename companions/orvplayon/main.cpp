@@ -8,14 +8,14 @@
 #include <memory>
 
 #include "base/log.h"
-#include "platform/linux/cdrom_drive.h"
+#include "platform/disc/cdrom_drive.h"
+#include "platform/disc/image_drive.h"
+#include "platform/disc/play_on.h"
+#include "platform/disc/play_on_talk.h"
 #include "platform/linux/host_files.h"
-#include "platform/linux/image_drive.h"
 #include "platform/linux/local_socket.h"
-#include "platform/linux/play_on.h"
-#include "platform/linux/play_on_talk.h"
-#include "platform/linux/sound_choice.h"
-#include "platform/linux/stream_volume.h"
+#include "platform/sound/sound_choice.h"
+#include "platform/sound/stream_volume.h"
 
 namespace orvanta {
 namespace {

@@ -1,12 +1,11 @@
 // The real drive's logic over a fake of the kernel's calls.
-#include "platform/linux/cdrom_drive.h"
+#include "platform/disc/cdrom_drive.h"
 
 #include <gtest/gtest.h>
-#include <linux/cdrom.h>
 
 #include <atomic>
 
-#include "platform/linux/player.h"
+#include "platform/disc/player.h"
 #include "tests/support/stepped_output.h"
 #include "tests/support/test_discs.h"
 
@@ -15,7 +14,7 @@ namespace {
 
 /// A drive of which the test holds the other end.
 struct FakeState {
-  std::atomic<int> status{CDS_DISC_OK};
+  std::atomic<CdromStatus> status{CdromStatus::Disc};
   std::vector<int> starts{0, 400, 800};  ///< blocks; the last may be data
   int leadOut = 1200;
   bool lastIsData = false;
@@ -31,7 +30,7 @@ class FakeCalls : public CdromCalls {
   explicit FakeCalls(FakeState& state) : s_(state) {}
   bool reopen() override { return ++s_.opens > 0; }
   bool lock() override { return true; }
-  int driveStatus() override { return s_.status; }
+  CdromStatus driveStatus() override { return s_.status; }
   std::optional<int> lastTrack() override {
     std::this_thread::sleep_for(std::chrono::milliseconds(s_.tableDelay));
     return static_cast<int>(s_.starts.size());
@@ -43,7 +42,7 @@ class FakeCalls : public CdromCalls {
   bool readAudio(int block, int count, int16_t* samples) override {
     ++s_.reads;
     s_.most = std::max(s_.most.load(), count);
-    if (s_.status != CDS_DISC_OK || block + count > s_.leadOut || block + count > s_.badFrom) return false;
+    if (s_.status != CdromStatus::Disc || block + count > s_.leadOut || block + count > s_.badFrom) return false;
     for (int i = 0; i < count; ++i) {
       const auto one = frameSamples(block + i + kFirstFrame);
       std::copy(one.begin(), one.end(), samples + ptrdiff_t{i} * kShortsPerFrame);
@@ -52,8 +51,8 @@ class FakeCalls : public CdromCalls {
   }
   bool readBlock(int /*block*/, unsigned char* /*bytes*/) override { return false; }
   void setSpeed(int /*speed*/) override {}
-  void eject() override { s_.status = CDS_TRAY_OPEN; }
-  void closeTray() override { s_.status = CDS_DISC_OK; }
+  void eject() override { s_.status = CdromStatus::TrayOpen; }
+  void closeTray() override { s_.status = CdromStatus::Disc; }
 
  private:
   FakeState& s_;
@@ -92,17 +91,17 @@ TEST(Cdrom, TheSoundOfAnEnhancedDiscEndsBeforeItsSession) {
 
 TEST(Cdrom, DiscsComeAndGo) {
   FakeState state;
-  state.status = CDS_DRIVE_NOT_READY;
+  state.status = CdromStatus::NotReady;
   RealDeck deck(state);
   EXPECT_EQ(deck.player.toc().count(), 0);
   EXPECT_EQ(deck.player.firstEntry(), "");
-  state.status = CDS_DISC_OK;
+  state.status = CdromStatus::Disc;
   ASSERT_TRUE(becomes([&] { return deck.player.toc().count() == 3; }));
   const int opens = state.opens;
   deck.player.eject();
   EXPECT_EQ(deck.player.firstEntry(), "") << "at once, before the tray has moved";
   ASSERT_TRUE(becomes([&] { return deck.player.settled(); }));
-  EXPECT_EQ(state.status, CDS_TRAY_OPEN);
+  EXPECT_EQ(state.status, CdromStatus::TrayOpen);
   state.starts = {0};
   deck.player.closeTray();
   ASSERT_TRUE(becomes([&] { return deck.player.toc().count() == 1; }));
@@ -119,7 +118,7 @@ TEST(Cdrom, ATrayPulledWhilePlayingStopsThePlay) {
   deck.player.play(150, 1350);
   ASSERT_TRUE(becomes([&] { return deck.outputs.open(); }));
   deck.outputs.hear(100 * size_t{kSamplesPerFrame});
-  state.status = CDS_TRAY_OPEN;
+  state.status = CdromStatus::TrayOpen;
   ASSERT_TRUE(becomes([&] { return deck.player.toc().count() == 0; }));
   EXPECT_EQ(deck.player.state(), PlayState::Stopped);
   ASSERT_TRUE(becomes([&] { return !deck.outputs.open(); }));
@@ -157,7 +156,7 @@ TEST(Cdrom, ATableThatIsBeingReadIsWaitedFor) {
 
 TEST(Cdrom, AProcessStartedForADiscWaitsWhileTheDriveSettles) {
   FakeState state;
-  state.status = CDS_DRIVE_NOT_READY;
+  state.status = CdromStatus::NotReady;
   CdromDrive drive(std::make_unique<FakeCalls>(state));
   SteppedOutputs outputs;
   Player player(drive, outputs);
@@ -165,7 +164,7 @@ TEST(Cdrom, AProcessStartedForADiscWaitsWhileTheDriveSettles) {
   EXPECT_EQ(player.toc().count(), 0);
   std::thread spinUp([&] {
     std::this_thread::sleep_for(std::chrono::milliseconds(100));
-    state.status = CDS_DISC_OK;
+    state.status = CdromStatus::Disc;
   });
   EXPECT_TRUE(player.waitForDisc(1000, 5000));
   spinUp.join();

@@ -4,8 +4,8 @@
 
 #include <memory>
 
-#include "platform/linux/image_drive.h"
-#include "platform/linux/player.h"
+#include "platform/disc/image_drive.h"
+#include "platform/disc/player.h"
 #include "tests/support/sim_device.h"
 #include "tests/support/stepped_output.h"
 #include "tests/support/test_discs.h"

@@ -1,9 +1,9 @@
 // The player without a window: what it answers the deck.
-#include "platform/linux/play_on_talk.h"
+#include "platform/disc/play_on_talk.h"
 
 #include <gtest/gtest.h>
 
-#include "platform/linux/play_on.h"
+#include "platform/disc/play_on.h"
 #include "tests/support/sim_device.h"
 
 namespace orvanta::test {

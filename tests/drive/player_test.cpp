@@ -1,5 +1,5 @@
 // The player over real images: every sample, every frame, and what happens when things break.
-#include "platform/linux/player.h"
+#include "platform/disc/player.h"
 
 #include <gtest/gtest.h>
 
@@ -8,9 +8,9 @@
 #include <filesystem>
 #include <functional>
 
-#include "platform/linux/clocked_output.h"
-#include "platform/linux/image_drive.h"
-#include "platform/linux/wav_file.h"
+#include "platform/disc/image_drive.h"
+#include "platform/sound/clocked_output.h"
+#include "platform/sound/wav_file.h"
 #include "tests/support/places.h"
 #include "tests/support/stepped_output.h"
 #include "tests/support/test_discs.h"

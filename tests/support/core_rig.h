@@ -2,7 +2,7 @@
 #pragma once
 
 #include "app/orvanta.h"
-#include "platform/linux/drive_tray.h"
+#include "platform/disc/drive_tray.h"
 #include "state/settings_files.h"
 #include "tests/support/fake_net.h"
 #include "tests/support/fakes.h"

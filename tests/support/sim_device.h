@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/linux/mci_device.h"
+#include "platform/disc/mci_device.h"
 #include "tests/support/virtual_clock.h"
 
 namespace orvanta::test {

@@ -8,8 +8,8 @@
 #include <thread>
 #include <vector>
 
-#include "platform/linux/sound_output.h"
-#include "platform/linux/toc.h"
+#include "platform/disc/toc.h"
+#include "platform/sound/sound_output.h"
 
 namespace orvanta::test {
 

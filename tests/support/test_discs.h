@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/linux/toc.h"
+#include "platform/disc/toc.h"
 
 namespace orvanta::test {
 

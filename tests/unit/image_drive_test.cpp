@@ -1,5 +1,5 @@
 // Disc images, good and bad: sheets, layouts, files that are not what they should be.
-#include "platform/linux/image_drive.h"
+#include "platform/disc/image_drive.h"
 
 #include <gtest/gtest.h>
 #include <sndfile.h>

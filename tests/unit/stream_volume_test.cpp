@@ -1,5 +1,5 @@
 // The level that outlives the process: what is written, and when.
-#include "platform/linux/stream_volume.h"
+#include "platform/sound/stream_volume.h"
 
 #include <gtest/gtest.h>
 

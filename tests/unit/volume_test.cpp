@@ -3,8 +3,8 @@
 
 #include <cmath>
 
-#include "platform/linux/level.h"
-#include "platform/linux/mixer_stand_in.h"
+#include "platform/sound/level.h"
+#include "platform/sound/mixer_stand_in.h"
 #include "tests/support/core_rig.h"
 
 namespace orvanta::test {

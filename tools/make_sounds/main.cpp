@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/linux/wav_file.h"
+#include "platform/sound/wav_file.h"
 
 namespace {
 

@@ -35,13 +35,12 @@ class KernelCdrom : public CdromCalls {
     return true;
   }
 
-  int driveStatus() override {
-    if (!fd_ && !reopen()) return CDS_NO_INFO;
+  CdromStatus driveStatus() override {
+    if (!fd_ && !reopen()) return CdromStatus::Gone;
     const int status = ::ioctl(fd_.get(), CDROM_DRIVE_STATUS, CDSL_CURRENT);
-    if (status >= 0) return status;
     // The handle of a drive that was unplugged is dead for good.
-    fd_ = UniqueFd();
-    return CDS_NO_INFO;
+    if (status < 0) fd_ = UniqueFd();
+    return status >= CDS_NO_DISC && status <= CDS_DISC_OK ? static_cast<CdromStatus>(status) : CdromStatus::Gone;
   }
 
   std::optional<int> lastTrack() override {

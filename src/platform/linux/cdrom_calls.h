@@ -13,6 +13,9 @@ struct CdromEntry {
   bool data = false;
 };
 
+/// As the kernel numbers them.
+enum class CdromStatus { Gone, NoDisc, TrayOpen, NotReady, Disc };
+
 class CdromCalls {
  public:
   static constexpr int kLeadOut = 0xAA;
@@ -24,8 +27,7 @@ class CdromCalls {
   virtual bool reopen() = 0;
   /// One try for the lock that players hold on a drive; kept until the end.
   virtual bool lock() = 0;
-  /// CDS_NO_DISC, CDS_TRAY_OPEN, CDS_DRIVE_NOT_READY, CDS_DISC_OK; CDS_NO_INFO when the drive is gone.
-  virtual int driveStatus() = 0;
+  virtual CdromStatus driveStatus() = 0;
   /// Last track number, of tracks numbered from 1; nullopt when it cannot be read, as for the entries.
   virtual std::optional<int> lastTrack() = 0;
   virtual std::optional<CdromEntry> entry(int track) = 0;

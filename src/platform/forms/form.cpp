@@ -253,6 +253,8 @@ void Form::dragged(int newLeft, int newTop) {
 
 void Form::fileDropped(const std::string& path) { events_->fileDropped(path); }
 
-void Form::closeAsked() { events_->closeAsked(); }
+void Form::closeAsked() {
+  if (enabled) events_->closeAsked();
+}
 
 }  // namespace orvanta::forms

@@ -51,7 +51,7 @@ QRadioButton::indicator { border-radius: 7p; }
 QCheckBox::indicator:checked, QRadioButton::indicator:checked { background: #50E678; border: 3p solid #101315; }
 QCheckBox:focus, QRadioButton:focus { color: #FFC247; }
 QCheckBox:disabled, QRadioButton:disabled, QLabel:disabled { color: #6A7078; }
-QLineEdit:disabled { background: #24272B; color: #6A7078; }
+QLineEdit:disabled, QPlainTextEdit:disabled, QComboBox:disabled, QTreeWidget:disabled { background: #24272B; color: #6A7078; }
 QScrollBar:vertical { background: #15181B; width: 12p; margin: 0; }
 QScrollBar::handle:vertical { background: #565B62; border-radius: 4p; min-height: 24p; margin: 2p; }
 QScrollBar::add-line:vertical, QScrollBar::sub-line:vertical { height: 0; }

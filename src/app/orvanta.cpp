@@ -35,6 +35,8 @@ Orvanta::Orvanta(Ports& ports)
       print_(ports, editor),
       cdData_(ports, genres_, html_, print_, display_, editor, form, state, *this),
       cddb_(ports, cdData_, editor, cddbForm, form, state, *this),
+      mail_(ports, editor, mailForm),
+      submitter_(ports, cdData_, cddb_, mail_, editor, categoryForm, state),
       playlist_(ports, engine_, modes_, display_, playlistForm, form, state),
       info_(ports, engine_, modes_, infoForm, form, state, *this),
       drawer_(ports, engine_, looks_, sounds_, form, state, *this),

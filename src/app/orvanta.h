@@ -8,6 +8,8 @@
 #include "app/second_start.h"
 #include "app/start_up.h"
 #include "cddb/cddb_window.h"
+#include "cddb/mail_window.h"
+#include "cddb/submitter.h"
 #include "cddb/upward.h"
 #include "faceplate/drawer.h"
 #include "faceplate/faceplate.h"
@@ -57,6 +59,8 @@ class Orvanta : private PlaybackUpward, private LibraryUpward, private CddbUpwar
   cdplist playlistForm;
   cdartext infoForm;
   cddbmain cddbForm;
+  cddbcatg categoryForm;
+  cddbmail mailForm;
   SharedState state;
 
  private:
@@ -64,7 +68,7 @@ class Orvanta : private PlaybackUpward, private LibraryUpward, private CddbUpwar
   void exitProgram() override;
   void exitWhenFree() override;
   bool restartWaits() const override {
-    return cdData_.openForPerson() || cddb_.openForPerson() || playlistForm.loaded() || ports_.dialogs.open();
+    return cdData_.openForPerson() || cddb_.openForPerson() || mailForm.loaded() || playlistForm.loaded() || ports_.dialogs.open();
   }
   void everyTick() override;
   void closeDrawer() override { drawer_.closedrawer(); }
@@ -88,8 +92,10 @@ class Orvanta : private PlaybackUpward, private LibraryUpward, private CddbUpwar
   void closeTrackList() override { info_.close(); }
   void closeDiscWindows() override;
   void openCddb() override { cddb_.open(); }
+  void submitToCddb() override { submitter_.open(); }
+  bool mailSenderKnown() const override { return storedCddbSettings(ports_.files, state.settings.appDir).senderKnown(); }
   void automaticLookup() override { cddb_.discKnown(); }
-  bool lookupMayStart() const override { return discIn() && !playlistForm.loaded() && !ports_.dialogs.open(); }
+  bool lookupMayStart() const override { return discIn() && !mailForm.loaded() && !playlistForm.loaded() && !ports_.dialogs.open(); }
   void readTextsAgain() override;
   void hideFaceplate() override { form.hide(); }
 
@@ -100,8 +106,6 @@ class Orvanta : private PlaybackUpward, private LibraryUpward, private CddbUpwar
   void showHelp(int /*topic*/) override {}
   void showMenu() override {}
   void launchEnhancedDisc() override {}
-  void submitToCddb() override {}
-  bool mailSenderKnown() const override { return false; }
   void lookForLyrics() override {}
   void showPage(const std::string& /*address*/) override {}
 
@@ -131,6 +135,8 @@ class Orvanta : private PlaybackUpward, private LibraryUpward, private CddbUpwar
   RecordPrint print_;
   CdData cdData_;
   CddbWindow cddb_;
+  MailWindow mail_;
+  Submitter submitter_;
   Playlist playlist_;
   CdInfo info_;
   Drawer drawer_;

@@ -14,9 +14,6 @@ constexpr const char* kTitle = "Orvanta CDDB Online Retrieval";
 constexpr const char* kNotFound =
     "Information for the Audio CD in your drive not found in the CDDB, this may be a great time to make a submission!";
 
-/// The told words, and what the server or the system said as a paragraph of its own.
-std::string withReason(const std::string& text, const std::string& reason) { return reason.empty() ? text : text + "\n\n" + reason; }
-
 std::string noHost(bool cddbp) {
   return std::string("Unable to communicate with host ") + (cddbp ? "CDDBP" : "HTTP") +
          " server; either you are not connected to the Internet or the host server is busy.";
@@ -41,7 +38,7 @@ void CddbWindow::Command8_Click() {
     wait(false);
     box(BoxStyle::Critical, "Orvanta CDDB Online Search",
         "Unable to continue... All required information in the setup tab has not been input");
-    if (automatic()) endSession();
+    if (byItself()) endSession();
     return;
   }
   session_.reset();
@@ -49,18 +46,28 @@ void CddbWindow::Command8_Click() {
   wait(true);
   form_.inetstatus.caption = "Attempting to Connect to CDDB Server...";
   form_.inetstatus.refresh();
-  session_ = startSession(ports_.net, settings_, trackTable(), Purpose::Lookup, *this);
+  session_ = startSession(ports_.net, settings_, trackTable(), submitting() ? Purpose::DiscId : Purpose::Lookup, *this);
 }
 
 void CddbWindow::sessionStatus(const std::string& text) {
   form_.inetstatus.caption = text;
   form_.inetstatus.refresh();
+  if (!submitting() || text != kCheckingDiscId) return;
+  editor_.Label25.caption = text;
+  editor_.Label25.refresh();
+}
+
+/// The mail has its own window by now, which stays on top.
+void CddbWindow::discIdKnown(const std::string& discId) {
+  if (cdData_.openForPerson()) taker_->discIdArrived(discId);
+  if (session_ != nullptr) session_->leave();
+  endSession();
 }
 
 void CddbWindow::tableRefused(const std::string& serverLine) {
   wait(false);
   box(BoxStyle::Critical, "Orvanta", withReason("Unable to connect to the Internet", serverLine));
-  if (automatic()) endSession();
+  if (byItself()) endSession();
 }
 
 void CddbWindow::discNotFound(const std::string& serverLine) {
@@ -139,10 +146,10 @@ void CddbWindow::showRecord(const std::string& serverLine) {
   form_.Command7.enabled = record_.tellsAnything();
 }
 
-/// An empty page: nothing to tell a person, but an automatic lookup must not wait for ever.
+/// An empty page: nothing to tell a person, but what nobody sees must not wait for ever.
 void CddbWindow::nothingArrived() {
   wait(false);
-  if (automatic()) sessionFailed("");
+  if (byItself()) sessionFailed("");
 }
 
 void CddbWindow::sessionFailed(const std::string& reason) {

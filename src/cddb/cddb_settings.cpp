@@ -69,8 +69,13 @@ bool writeFile(Files& files, const std::string& path, const Field (&fields)[N], 
 
 }  // namespace
 
-bool CddbSettings::complete() const {
-  return !trim(cddbServer).empty() && cddbPort > 0 && !trim(emailUser).empty() && !trim(emailDomain).empty();
+bool CddbSettings::complete() const { return !trim(cddbServer).empty() && cddbPort > 0 && senderKnown(); }
+
+bool CddbSettings::senderKnown() const { return !trim(emailUser).empty() && !trim(emailDomain).empty(); }
+
+std::string CddbSettings::submissionsTo() const {
+  if (startsWithNoCase(cddbServer, "FREEDB")) return cddb_defaults::kFreedbSubmissions;
+  return submitAddress.empty() ? cddb_defaults::kSubmissions : submitAddress;
 }
 
 bool readCddbSettings(Files& files, const std::string& appDir, CddbSettings& settings) {
@@ -87,6 +92,16 @@ bool readMailSettings(Files& files, const std::string& appDir, CddbSettings& set
 
 bool writeMailSettings(Files& files, const std::string& appDir, const CddbSettings& settings) {
   return writeFile(files, joinPath(appDir, kMailFile), kMailFields, settings);
+}
+
+CddbSettings storedCddbSettings(Files& files, const std::string& appDir) {
+  constexpr size_t kShortestUser = 2;
+  CddbSettings settings;
+  readCddbSettings(files, appDir, settings);
+  readMailSettings(files, appDir, settings);
+  settings.smtpPort = mailPort(settings.smtpPort);
+  if (trim(settings.proxyUser).size() < kShortestUser) settings.proxyUser.clear();
+  return settings;
 }
 
 int mailPort(int port) { return port < 1 || port > 9999 ? 25 : port; }

@@ -2,6 +2,7 @@
 // the data folder, shared with other programs of the family.
 #pragma once
 
+#include <cstdint>
 #include <string>
 
 namespace orvanta {
@@ -10,6 +11,9 @@ class Files;
 
 inline constexpr const char* kOnlineFile = "cddbol.dat";
 inline constexpr const char* kMailFile = "cddbml.dat";
+
+/// Where servers of old called back; nothing is read there.
+inline constexpr uint16_t kListenPort = 1001;
 
 /// Addresses of our own, in one place.
 namespace cddb_defaults {
@@ -41,6 +45,9 @@ struct CddbSettings {
 
   /// Server, port and address are all there: a lookup can begin.
   bool complete() const;
+  bool senderKnown() const;
+  /// Where submissions go: what was entered, the usual address without it, or that of the server's own people.
+  std::string submissionsTo() const;
 };
 
 /// What "cddbol.dat" holds; false without the file. Fields that it lacks keep what they were.
@@ -49,6 +56,9 @@ bool writeCddbSettings(Files& files, const std::string& appDir, const CddbSettin
 
 bool readMailSettings(Files& files, const std::string& appDir, CddbSettings& settings);
 bool writeMailSettings(Files& files, const std::string& appDir, const CddbSettings& settings);
+
+/// Both files, with what no file may say put right.
+CddbSettings storedCddbSettings(Files& files, const std::string& appDir);
 
 /// A port that mail can go to: 25 for one below 1 or above 9999.
 int mailPort(int port);

@@ -37,15 +37,7 @@ Address addressIn(const std::string& text) {
 }  // namespace
 
 /// As they are stored: what was chosen here and cancelled is forgotten.
-void CddbWindow::readSettings() {
-  constexpr size_t kShortestUser = 2;
-  settings_ = {};
-  readCddbSettings(ports_.files, state_.settings.appDir, settings_);
-  readMailSettings(ports_.files, state_.settings.appDir, settings_);
-  settings_.smtpPort = mailPort(settings_.smtpPort);
-  if (trim(settings_.proxyUser).size() < kShortestUser) settings_.proxyUser.clear();
-  if (startsWithNoCase(settings_.cddbServer, "FREEDB")) settings_.submitAddress = cddb_defaults::kFreedbSubmissions;
-}
+void CddbWindow::readSettings() { settings_ = storedCddbSettings(ports_.files, state_.settings.appDir); }
 
 ServerLists CddbWindow::lists() const { return {ports_.files, state_.settings.appDir}; }
 

@@ -16,7 +16,6 @@ namespace {
 
 constexpr int kLookInterval = 100;  ///< milliseconds
 constexpr int kOutOfSight = 100;    ///< twips past the screen's right edge
-constexpr uint16_t kListenPort = 1001;
 constexpr const char* kReadyText =
     "Establish your Internet Connection, then select \"Start Search\" below to find the Audio CD in the CDDB Online.";
 
@@ -38,8 +37,20 @@ CddbWindow::CddbWindow(Ports& ports, CdData& cdData, acdtabs& editor, cddbmain& 
 }
 
 void CddbWindow::open() {
-  if (automatic()) endSession();
+  if (byItself()) endSession();
   form_.show(ports_.desktop);
+}
+
+void CddbWindow::checkDiscId(DiscIdTaker& taker) {
+  endSession();
+  taker_ = &taker;
+  state_.library.cddbMode = kSubmission;
+  form_.load(ports_.desktop);
+  Command8_Click();
+}
+
+void CddbWindow::giveUpDiscId() {
+  if (submitting()) endSession();
 }
 
 // ---- the automatic lookup
@@ -55,6 +66,8 @@ void CddbWindow::timer1_timer() {
   } else if (automatic() && !boxOpen_ && session_ == nullptr && ready(form_)) {
     form_.Command8.enabled = true;
     Command8_Click();
+  } else if (submitting() && !boxOpen_ && !cdData_.openForPerson()) {
+    endSession();
   }
 }
 
@@ -82,7 +95,7 @@ void CddbWindow::lookUpWhenFree() {
 
 /// With CD Data open it is that window's disc that is looked up, where its user sees it.
 void CddbWindow::cddbdnld() {
-  if (form_.loaded()) return;
+  if (openForPerson() || automatic()) return;
   if (cdData_.openForPerson()) {
     open();
   } else {
@@ -98,7 +111,7 @@ void CddbWindow::cddbcanz() {
 // ---- load and close
 
 void CddbWindow::load() {
-  unseen_ = automatic();
+  unseen_ = byItself();
   sitesUpdate_ = false;
   record_ = {};
   readSettings();
@@ -115,9 +128,9 @@ void CddbWindow::load() {
   }
   // Without settings that are complete there is nothing to search with.
   const bool known = settings_.complete();
-  form_.CommandT[Online].enabled = known || automatic();
+  form_.CommandT[Online].enabled = known || unseen_;
   form_.Command10.visible = known;
-  showTab(known || automatic() ? Online : Setup);
+  showTab(known || unseen_ ? Online : Setup);
   Timer1_->setInterval(kLookInterval);
 }
 
@@ -144,6 +157,7 @@ void CddbWindow::endSession() {
   sitesUpdate_ = false;
   session_.reset();
   const bool wasAutomatic = automatic();
+  if (submitting()) editor_.Label25.visible = false;
   state_.library.cddbMode = kResting;
   form_.unload();
   ports_.screen.setPointer(Pointer::Normal);
@@ -155,7 +169,9 @@ void CddbWindow::endSession() {
 
 void CddbWindow::backToEditor() {
   endSession();
-  if (cdData_.openForPerson()) editor_.show(ports_.desktop);
+  if (!cdData_.openForPerson()) return;
+  cdData_.updateSubmitKey();
+  editor_.show(ports_.desktop);
 }
 
 void CddbWindow::Command3_Click() {

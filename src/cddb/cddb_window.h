@@ -25,7 +25,14 @@ class CddbUpward;
 struct Ports;
 
 /// Why the window runs: values of LibraryState::cddbMode.
-enum CddbMode : int16_t { kFromFaceplate = 0, kResting = 1, kAutomatic = 3 };
+enum CddbMode : int16_t { kFromFaceplate = 0, kResting = 1, kAutomatic = 3, kSubmission = 33 };
+
+/// Who wants a disc's id, to submit the disc under it.
+class DiscIdTaker {
+ public:
+  virtual ~DiscIdTaker() = default;
+  virtual void discIdArrived(const std::string& discId) = 0;
+};
 
 class CddbWindow : public forms::FormEvents, private SessionEvents {
  public:
@@ -40,6 +47,10 @@ class CddbWindow : public forms::FormEvents, private SessionEvents {
   /// Cancels an automatic lookup; nothing without one.
   void cddbcanz();
   bool openForPerson() const { return form_.loaded() && !unseen_; }
+  /// Asks the server, out of sight, for the id of the disc in CD Data. A failure is told to the user, not to the taker.
+  void checkDiscId(DiscIdTaker& taker);
+  /// That question, if one is under way, is over.
+  void giveUpDiscId();
 
   // Handlers by their given names.
   void Command1_Click();
@@ -73,6 +84,9 @@ class CddbWindow : public forms::FormEvents, private SessionEvents {
   void backToEditor();
   void box(BoxStyle style, const char* title, const std::string& text);
   bool automatic() const { return state_.library.cddbMode == kAutomatic; }
+  bool submitting() const { return state_.library.cddbMode == kSubmission; }
+  /// No person opened the window.
+  bool byItself() const { return automatic() || submitting(); }
   void timer1_timer();
   void lookUpWhenFree();
 
@@ -80,7 +94,7 @@ class CddbWindow : public forms::FormEvents, private SessionEvents {
   void wait(bool due);
   TrackTable trackTable() const;
   void sessionStatus(const std::string& text) override;
-  void discIdKnown(const std::string& /*discId*/) override {}
+  void discIdKnown(const std::string& discId) override;
   void tableRefused(const std::string& serverLine) override;
   void discNotFound(const std::string& serverLine) override;
   void matchesFound(const QueryReply& reply) override;
@@ -121,6 +135,7 @@ class CddbWindow : public forms::FormEvents, private SessionEvents {
   std::unique_ptr<Session> session_;
   std::unique_ptr<Connection> listener_;
   std::unique_ptr<Timer> Timer1_;
+  DiscIdTaker* taker_ = nullptr;  ///< of a submission
   DiscRecord record_;
   std::string matchCategory_;
   std::string proxyKept_;  ///< while the field is empty, since the protocol knows no proxies

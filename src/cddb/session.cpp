@@ -21,7 +21,7 @@ std::string Session::joined(std::initializer_list<std::string_view> words) const
 
 void Session::askDiscId() {
   const auto alive = alive_;
-  events_.sessionStatus("Checking Disc ID...");
+  events_.sessionStatus(kCheckingDiscId);
   if (*alive) ask(SessionState::DiscIdDue, joined({"discid", cddbQueryArgs_}));
 }
 

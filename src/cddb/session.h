@@ -15,6 +15,9 @@ namespace orvanta {
 
 class Net;
 
+/// The status while the server works a disc's id out.
+inline constexpr const char* kCheckingDiscId = "Checking Disc ID...";
+
 /// A session may be dropped in any of these. Server's lines are text to be shown, "" for none.
 class SessionEvents {
  public:

@@ -29,6 +29,8 @@ std::string fromWire(std::string_view bytes) {
 
 std::string lineAsText(std::string_view line) { return std::string(trim(withoutControls(fromWire(line)))); }
 
+std::string withReason(const std::string& text, const std::string& reason) { return reason.empty() ? text : text + "\n\n" + reason; }
+
 std::string toWire(std::string_view text) { return toWindows1252(trim(withoutControls(text))); }
 
 std::string_view cleanStart(std::string_view line) {

@@ -13,6 +13,9 @@ std::string fromWire(std::string_view bytes);
 /// A server's line to be shown: without its line end and other control characters.
 std::string lineAsText(std::string_view line);
 
+/// Words for a box, and what the server or the system said as a paragraph of its own.
+std::string withReason(const std::string& text, const std::string& reason);
+
 /// A value for a protocol line, in the code page. Control characters become blanks, so that nothing
 /// typed can begin a command of its own.
 std::string toWire(std::string_view text);

@@ -44,6 +44,7 @@ void CdData::edited(forms::Control& control) {
   }
   state_.library.dataDirty = kOn;
   if (oneOf(kAsking, control.name())) state_.library.askOnCancel = kOn;
+  if (&control == &form_.Text2 || &control == &form_.Text4) updateSubmitKey();
 }
 
 void CdData::gotFocus(forms::Control& control) {

@@ -120,18 +120,12 @@ void CdData::clear() {
   changed_ = true;
 }
 
-/// Lyrics go along from their rows' fourth character on; from row 10 on that is the TAB, which receivers know.
 void CdData::submit() {
   if (disc_.trackCount > kMostToSubmit) {
     ports_.dialogs.message(BoxStyle::Critical, "Orvanta", "Unable To Submit - Track Limit Exceeded For CDDB Submission From Orvanta");
     return;
   }
   for (forms::TextBox* box : {&form_.Text2, &form_.Text4}) box->caption = withoutControls(box->caption.get());
-  ports_.screen.setPointer(Pointer::Hourglass);
-  for (int row = 0; row < form_.List2.count() && row < 50; ++row) {
-    const std::string& text = form_.List2.row(row);
-    if (!text.empty()) disc_.extraInfo[static_cast<size_t>(row) + 13] = trim(text.size() > 3 ? text.substr(3) : "");
-  }
   upward_.submitToCddb();
 }
 

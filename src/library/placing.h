@@ -44,6 +44,13 @@ inline forms::Place besideDeck(forms::Place window, const forms::Place& deck, co
   return best;
 }
 
+/// In the middle of the window that it belongs to.
+inline forms::Place amidst(forms::Place window, const forms::Place& owner, const forms::Place& screen) {
+  window.left = owner.left + (owner.width - window.width) / 2;
+  window.top = owner.top + (owner.height - window.height) / 2;
+  return ontoScreen(window, screen);
+}
+
 inline forms::Place placeOf(const forms::Form& form) { return {form.left, form.top, form.width, form.height}; }
 
 }  // namespace orvanta

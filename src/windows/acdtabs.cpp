@@ -106,6 +106,7 @@ constexpr forms::GridRow kEditorGrid[] = {
     {"Label12", kNoIndex, "Facts", {0, 3, 1, 1}, "", "", false, true, "", "value"},
     {"Label11", kNoIndex, "Facts", {0, 4, 1, 1}, "Total Time", ""},
     {"Label13", kNoIndex, "Facts", {0, 5, 1, 1}, "", "", false, true, "", "value"},
+    {"Label25", kNoIndex, "Facts", {1, 0, 1, 7}, "Submitting...", "", false, false, "", "value:text"},
     {"Command4", kNoIndex, "Keys", {0, 0, 1, 1}, "&Print", "", true},
     {"Command7", kNoIndex, "Keys", {0, 1, 1, 1}, "Save Data  as HTML", "", true},
     {"Command13", kNoIndex, "Keys", {0, 2, 1, 1}, "User Defined", "", true},

@@ -85,6 +85,7 @@ struct acdtabs : forms::Form {
   Label Label12{*this, "Label12"};  ///< track count
   Label Label11{*this, "Label11"};
   Label Label13{*this, "Label13"};  ///< total time
+  Label Label25{*this, "Label25"};  ///< shown from a submission's start on: how far it is, then why it was refused
 
   // Keys
   Panel Keys{*this, "Keys"};

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <deque>
+#include <map>
 
 #include "platform/ports/net.h"
 #include "tests/support/cddb_data.h"
@@ -19,10 +20,11 @@ class FakeNet : public Net {
   std::unique_ptr<Connection> connect(const std::string& host, uint16_t port, ConnectionEvents& events) override {
     tape.push_back("connect " + host + " " + std::to_string(port));
     auto connection = std::make_unique<Line>(*this, events);
-    later(connection->alive, [this, &events, line = connection.get()] {
+    later(connection->alive, [this, &events, port, line = connection.get()] {
       if (refuses) return events.failed("Connection refused");
       line->open = true;
-      say(*line, script.empty() ? "" : script.front().answered, !script.empty() && script.front().closes);
+      const Exchanged greeting = greetings.contains(port) ? greetings.at(port) : script.empty() ? Exchanged{} : script.front();
+      say(*line, greeting.answered, greeting.closes);
       events.connected();
     });
     return connection;
@@ -42,9 +44,10 @@ class FakeNet : public Net {
     return question;
   }
 
-  std::vector<Exchanged> script;    ///< the first is the banner
-  size_t piece = 0;                 ///< bytes an arrival; 0: each answer in one
-  size_t most = std::string::npos;  ///< bytes that are said at all, upon which `end` comes
+  std::vector<Exchanged> script;            ///< the first is the banner
+  std::map<uint16_t, Exchanged> greetings;  ///< of other servers, by port
+  size_t piece = 0;                         ///< bytes an arrival; 0: each answer in one
+  size_t most = std::string::npos;          ///< bytes that are said at all, upon which `end` comes
   End end = End::Close;
   bool refuses = false;
   int status = 200;

@@ -3,91 +3,10 @@
 
 #include <gtest/gtest.h>
 
-#include "cddb/cddb_settings.h"
-#include "tests/support/core_rig.h"
+#include "tests/support/cddb_rig.h"
 
 namespace orvanta::test {
 namespace {
-
-const std::string kDiscId = "200 Disc ID is 1f032a03\r\n";
-const std::string kExact = "200 misc 1f032a03 Some Artist / Some Title\r\n";
-const std::string kLines =
-    "# xmcd\r\nDISCID=1f032a03\r\nDTITLE=Some Artist / Some Title\r\nTTITLE0=One\r\nTTITLE1=Two\r\nTTITLE2=Three\r\n"
-    "EXTD=\r\nEXTT0=\r\nEXTT1=\r\nEXTT2=\r\nPLAYORDER=\r\n.\r\n";
-const std::string kRecord = "210 misc 1f032a03 CD database entry follows (until terminating `.')\r\n" + kLines;
-const std::string kCdPath = "/data/datacd/19443766.CD";
-const std::string kNotFound =
-    "Orvanta CDDB Online Retrieval: Information for the Audio CD in your drive not found in the CDDB, this may be a great time to make a "
-    "submission!";
-const std::string kNoHost =
-    "Orvanta CDDB Online Retrieval: Unable to communicate with host CDDBP server; either you are not connected to the Internet or the host "
-    "server is busy.";
-
-/// Over TCP, line by line.
-std::vector<Exchanged> cddbp() {
-  return {{"", "201 ready\r\n", false},
-          {"cddb hello user domain Orvanta 10.0\r\n", "200 Hello and welcome user@domain\r\n", false},
-          {"discid 3 150 18627 41002 812\r\n", kDiscId, false},
-          {"cddb query 1f032a03 3 150 18627 41002 812\r\n", kExact, false},
-          {"cddb read misc 1f032a03\r\n", kRecord, false}};
-}
-
-std::vector<Exchanged> http() {
-  const std::string hello = "&hello=user+domain+Orvanta+10.0&proto=4";
-  return {{"cmd=discid+3+150+18627+41002+812+" + hello, kDiscId, false},
-          {"cmd=cddb+query+1f032a03+3+150+18627+41002+812+" + hello, kExact, false},
-          {"cmd=cddb+read+misc+1f032a03" + hello, kRecord, false}};
-}
-
-struct Cddb : CoreRig {
-  Cddb() {
-    store.cddbServer = "server";
-    store.cddbSiteName = "Site";
-    store.cddbPort = 8880;
-    store.emailUser = "user";
-    store.emailDomain = "domain";
-    store.useCddbp = store.autoConnect = true;
-    net.script = cddbp();
-  }
-  /// With disc A in the drive and these settings stored.
-  void begin() {
-    install();
-    writeCddbSettings(files, "/data", store);
-    files.write("/data/datacd/srvcddbp.txt", "server 8880 Site\r\nother 888 N1 Other\r\n");
-    files.write("/data/datacd/srvhttp.txt", "http://server/cddb.cgi 80 Web, site\r\n");
-    player.insert(discA());
-    start();
-  }
-  void byHand() {
-    store.autoConnect = false;
-    begin();
-    clock.advance(500);
-    press(form.Image10[1]);
-    press(orvanta.editor.Command11);
-  }
-  bool ended() const {
-    return !cddb.loaded() && !orvanta.editor.loaded() && !form.Image14.visible && state.library.cddbMode == 1 &&
-           screen.pointer == Pointer::Normal;
-  }
-  void press(forms::Control& control) {
-    gate.enter([&] { control.form().press(control); });
-  }
-  void type(forms::Control& control, const std::string& text) {
-    gate.enter([&] { control.form().userText(control, text); });
-  }
-  void enter(forms::Control& control) {
-    gate.enter([&] {
-      control.form().setFocus(control);
-      control.form().keyDown({forms::key::kEnter});
-      control.form().keyUp({forms::key::kEnter});
-    });
-  }
-  std::string cd() const { return files.read(kCdPath).value_or("absent"); }
-
-  CddbSettings store;
-  cddbmain& cddb = orvanta.cddbForm;
-  acdtabs& editor = orvanta.editor;
-};
 
 std::string emptyLines(int lines) {
   std::string all;

@@ -34,7 +34,7 @@ until_true() {
 start_deck() {
   until_true 15 xdotool getdisplaygeometry
   "$build/bin/lxinit" "$data" "$home/drive"
-  ORVANTA_LOG=sound,device "$build/bin/orvanlx" "$@" 2>"$home/log" &
+  ORVANTA_LOG=sound,device,cddb "$build/bin/orvanlx" "$@" 2>"$home/log" &
   deck=$!
   pids="$pids $deck"
   window=$(xdotool search --sync --onlyvisible --name '^Orvanta LX$' | head -1)

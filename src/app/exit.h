@@ -1,15 +1,15 @@
 // The power button: the one way out.
 #pragma once
 
+#include "app/ports.h"
 #include "faceplate/volume.h"
-#include "platform/ports/ports.h"
 #include "playback/key_looks.h"
 
 namespace orvanta {
 
 class Exit {
  public:
-  Exit(Ports& ports, KeyLooks& looks, Volume& volume, InterfaceSounds& sounds, CDForm& form, SharedState& state)
+  Exit(const LifePorts& ports, KeyLooks& looks, Volume& volume, InterfaceSounds& sounds, CDForm& form, SharedState& state)
       : ports_(ports), looks_(looks), volume_(volume), sounds_(sounds), form_(form), state_(state) {}
   /// Saves, stops the disc unless option 5 leaves it playing, and ends the process.
   [[noreturn]] void exitProgram();
@@ -21,7 +21,7 @@ class Exit {
  private:
   [[noreturn]] void leave();
 
-  Ports& ports_;
+  LifePorts ports_;
   KeyLooks& looks_;
   Volume& volume_;
   InterfaceSounds& sounds_;

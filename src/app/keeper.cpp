@@ -11,7 +11,8 @@ constexpr int kLook = 1000;  ///< milliseconds
 
 }  // namespace
 
-Keeper::Keeper(Ports& ports, const SharedState& state) : ports_(ports), state_(state), timer_(ports.clock.makeTimer([this] { look(); })) {}
+Keeper::Keeper(const LifePorts& ports, const SharedState& state)
+    : ports_(ports), state_(state), timer_(ports.clock.makeTimer([this] { look(); })) {}
 
 std::string Keeper::now() const { return writtenFields(SettingsFile::SettingsDat, state_.settings).bytes(); }
 

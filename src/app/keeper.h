@@ -4,15 +4,15 @@
 #include <memory>
 #include <string>
 
+#include "app/ports.h"
 #include "platform/ports/clock.h"
-#include "platform/ports/ports.h"
 #include "state/shared_state.h"
 
 namespace orvanta {
 
 class Keeper {
  public:
-  Keeper(Ports& ports, const SharedState& state);
+  Keeper(const LifePorts& ports, const SharedState& state);
   /// From here on; what stands now was just read.
   void start();
 
@@ -20,7 +20,7 @@ class Keeper {
   void look();
   std::string now() const;
 
-  Ports& ports_;
+  LifePorts ports_;
   const SharedState& state_;
   std::string kept_;  ///< as last written, or tried to be
   std::unique_ptr<Timer> timer_;

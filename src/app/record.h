@@ -1,10 +1,10 @@
 // The record key: the disc goes to the recorder, and this program ends.
 #pragma once
 
+#include "app/ports.h"
 #include "app/restart.h"
 #include "faceplate/position.h"
 #include "faceplate/volume.h"
-#include "platform/ports/ports.h"
 #include "platform/ports/processes.h"
 #include "playback/key_looks.h"
 #include "state/shared_state.h"
@@ -14,7 +14,8 @@ namespace orvanta {
 
 class RecorderLaunch {
  public:
-  RecorderLaunch(Ports& ports, KeyLooks& looks, Position& position, Volume& volume, Restart& restart, CDForm& form, SharedState& state)
+  RecorderLaunch(const LifePorts& ports, KeyLooks& looks, Position& position, Volume& volume, Restart& restart, CDForm& form,
+                 SharedState& state)
       : ports_(ports), looks_(looks), position_(position), volume_(volume), restart_(restart), form_(form), state_(state) {}
   /// There is a recorder to be started; else the user is told.
   bool ready();
@@ -29,7 +30,7 @@ class RecorderLaunch {
   void tellNotStarted();
   void letGo();
 
-  Ports& ports_;
+  LifePorts ports_;
   KeyLooks& looks_;
   Position& position_;
   Volume& volume_;

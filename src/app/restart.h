@@ -3,15 +3,15 @@
 
 #include <functional>
 
+#include "app/ports.h"
 #include "faceplate/volume.h"
-#include "platform/ports/ports.h"
 #include "state/shared_state.h"
 
 namespace orvanta {
 
 class Restart {
  public:
-  Restart(Ports& ports, Volume& volume, SharedState& state) : ports_(ports), volume_(volume), state_(state) {}
+  Restart(const LifePorts& ports, Volume& volume, SharedState& state) : ports_(ports), volume_(volume), state_(state) {}
 
   /// Saves, starts a new process and ends this one once the new one has taken the hand-over file
   /// away. Comes back when the new one died before that, or cannot be started.
@@ -19,7 +19,7 @@ class Restart {
   void forDisc(const std::function<void()>& meanwhile = {});
 
  private:
-  Ports& ports_;
+  LifePorts ports_;
   Volume& volume_;
   SharedState& state_;
 };

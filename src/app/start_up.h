@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "platform/ports/ports.h"
+#include "app/ports.h"
 #include "state/shared_state.h"
 
 namespace orvanta {
@@ -30,7 +30,7 @@ bool setUpFirstStart(const Files& files, Processes& processes, const System& sys
 
 class StartUp {
  public:
-  StartUp(Ports& ports, SharedState& state) : ports_(ports), state_(state) {}
+  StartUp(const LifePorts& ports, SharedState& state) : ports_(ports), state_(state) {}
   /// Reads everything that the faceplate's load needs; ends the process where a setup is due first.
   void run(const HostOptions& options);
   /// This start was told its data folder.
@@ -47,7 +47,7 @@ class StartUp {
   [[noreturn]] void runSetup(const std::string& folder);
   void readSettingsFiles();
 
-  Ports& ports_;
+  LifePorts ports_;
   SharedState& state_;
   bool dataFolderGiven_ = false;
 };

@@ -1,7 +1,7 @@
 // Colours of the faceplate's display and grid.
 #pragma once
 
-#include "platform/ports/ports.h"
+#include "faceplate/ports.h"
 #include "playback/display.h"
 #include "playback/key_looks.h"
 #include "state/shared_state.h"
@@ -20,7 +20,7 @@ void paintLevelBars(CDForm& form, const Settings& settings);
 
 class DisplayColours {
  public:
-  DisplayColours(Ports& ports, Display& display, KeyLooks& looks, Layout& layout, CDForm& form, SharedState& state)
+  DisplayColours(const FaceplatePorts& ports, Display& display, KeyLooks& looks, Layout& layout, CDForm& form, SharedState& state)
       : files_(ports.files),
         screen_(ports.screen),
         tray_(ports.tray),

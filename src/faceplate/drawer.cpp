@@ -5,11 +5,10 @@
 
 #include "base/text.h"
 #include "faceplate/interface_sounds.h"
+#include "faceplate/upward.h"
 #include "platform/ports/clock.h"
 #include "platform/ports/files.h"
-#include "platform/ports/ports.h"
 #include "platform/ports/screen.h"
-#include "playback/upward.h"
 #include "state/marker_files.h"
 
 namespace orvanta {
@@ -49,8 +48,8 @@ void bevels(forms::Panel& panel, int style) {
 
 }  // namespace
 
-Drawer::Drawer(Ports& ports, Engine& engine, KeyLooks& looks, InterfaceSounds& sounds, CDForm& form, SharedState& state,
-               PlaybackUpward& upward)
+Drawer::Drawer(const FaceplatePorts& ports, Engine& engine, KeyLooks& looks, InterfaceSounds& sounds, CDForm& form, SharedState& state,
+               FaceplateUpward& upward)
     : clock_(ports.clock),
       files_(ports.files),
       screen_(ports.screen),

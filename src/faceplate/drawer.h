@@ -3,6 +3,7 @@
 
 #include <memory>
 
+#include "faceplate/ports.h"
 #include "playback/engine.h"
 #include "state/shared_state.h"
 #include "windows/cdform.h"
@@ -12,7 +13,7 @@ namespace orvanta {
 class Clock;
 class Files;
 class InterfaceSounds;
-class PlaybackUpward;
+class FaceplateUpward;
 class Screen;
 class Timer;
 
@@ -22,7 +23,8 @@ constexpr int kOpenTrayLowerTop = 1570;
 
 class Drawer {
  public:
-  Drawer(Ports& ports, Engine& engine, KeyLooks& looks, InterfaceSounds& sounds, CDForm& form, SharedState& state, PlaybackUpward& upward);
+  Drawer(const FaceplatePorts& ports, Engine& engine, KeyLooks& looks, InterfaceSounds& sounds, CDForm& form, SharedState& state,
+         FaceplateUpward& upward);
   ~Drawer();
 
   /// Masks, marker and state at once; the door slides on by a timer. Nothing when it stands open or opens. With
@@ -52,7 +54,7 @@ class Drawer {
   InterfaceSounds& sounds_;
   CDForm& form_;
   SharedState& state_;
-  PlaybackUpward& upward_;
+  FaceplateUpward& upward_;
   bool leaving_ = false;  ///< option 2 has been acted on
   std::unique_ptr<Timer> timer_;
   Motion motion_ = Motion::None;

@@ -1,81 +1,47 @@
-// Behaviour of CDForm: its load, and the road from its events to the handlers.
+// The room of the deck's face: how it looks, how it is worked, its sounds and its door.
 #pragma once
 
-#include <optional>
-
-#include "faceplate/display_colours.h"
-#include "faceplate/interface_sounds.h"
-#include "faceplate/layout.h"
-#include "faceplate/position.h"
-#include "faceplate/pressed_look.h"
-#include "faceplate/volume.h"
-#include "platform/forms/form.h"
-#include "playback/buttons.h"
-#include "playback/clock.h"
+#include "faceplate/drawer.h"
+#include "faceplate/faceplate_events.h"
 
 namespace orvanta {
 
-/// The parts of the core that the faceplate's events reach.
-struct FaceplateParts {
-  DiscLoad& discLoad;
-  DeviceLayer& layer;
-  KeyLooks& looks;
-  Engine& engine;
-  Modes& modes;
-  PlaybackClock& clock;
-  Buttons& buttons;
-  DisplayColours& colours;
-  Position& position;
-  Layout& layout;
-  Volume& volume;
-  InterfaceSounds& sounds;
-};
+struct Faceplate {
+  Faceplate(const FaceplatePorts& ports, Playback& playback, CDForm& form, SharedState& state, FaceplateUpward& upward)
+      : position(ports.files, ports.screen, form, state),
+        layout(ports.screen, position, playback.looks, form, state),
+        sounds(ports, state),
+        mixer(ports, form, state),
+        volume(ports, layout, mixer, sounds, form, state),
+        colours(ports, playback.display, playback.looks, layout, form, state),
+        drawer(ports, playback.engine, playback.looks, sounds, form, state, upward),
+        choice(ports, state),
+        buttons(playback.engine, playback.modes, playback.display, playback.looks, form, state, upward),
+        entry(buttons, playback.display, form, state),
+        actions({playback.looks, playback.engine, playback.modes, buttons, layout, volume, sounds, choice, form, state, upward},
+                playback.status),
+        title(form),
+        keyboard(actions, entry, volume, form),
+        load(ports, playback, colours, layout, volume, sounds, form, state),
+        events(load, actions, keyboard, volume, layout, position, choice, title, form, state) {
+    playback.status.watch([this](const DeckStatus& now) { title.show(now); });
+  }
 
-class Faceplate : public forms::FormEvents {
- public:
-  Faceplate(Ports& ports, const FaceplateParts& parts, CDForm& form, SharedState& state, PlaybackUpward& upward);
-
-  void load() override;
-  void activate() override;
-  void unload() override;
-  void mouseDown(forms::Control* control, const forms::Mouse& mouse) override;
-  void mouseMove(forms::Control* control, const forms::Mouse& mouse) override;
-  void mouseUp(forms::Control* control, const forms::Mouse& mouse) override;
-  void wheel(forms::Control& control, int notches) override;
-  void textChanged(forms::Control& control) override;
-  void doubleClick(forms::Control* control) override;
-  void dragged() override;
-  bool keyDown(const forms::KeyPress& key) override;
-  bool takesFile(const std::string& path) const override;
-  void fileDropped(const std::string& path) override;
-  void closeAsked() override;
-
-  /// Plays the track of the start's words; a number above the disc's tracks is passed over.
-  void playTrackOfCommandLine();
-
- private:
-  void setPlayState();
-  void pressed(forms::Control& control);
-  void released(const std::string& name, size_t index, const forms::Mouse& mouse);
-  bool panelReleased(const std::string& name, size_t index);
-  void rightReleased(const forms::Control& control);
-  void letGo(const forms::Control& control);
-  bool sliderKey(const forms::KeyPress& key);
-  void askForDisc();
-  /// The drawer is open, or nothing lies in it.
-  bool discWanted() const;
-
-  CdDevice& device_;
-  DiscTray& tray_;
-  Dialogs& dialogs_;
-  Files& files_;
-  FaceplateParts on_;
-  PressedLook look_;
-  CDForm& form_;
-  SharedState& state_;
-  PlaybackUpward& upward_;
-  bool keyTaken_ = false;
-  std::optional<forms::Mouse> grip_;  ///< where the metal was taken hold of
+  Position position;
+  Layout layout;
+  InterfaceSounds sounds;
+  MixerDriver mixer;
+  Volume volume;
+  DisplayColours colours;
+  Drawer drawer;
+  DiscChoice choice;
+  Buttons buttons;
+  TrackEntry entry;
+  Actions actions;
+  TaskTitle title;
+  Keyboard keyboard;
+  FaceplateLoad load;
+  FaceplateEvents events;
 };
 
 }  // namespace orvanta

@@ -6,7 +6,6 @@
 #include "base/text.h"
 #include "platform/ports/dialogs.h"
 #include "platform/ports/files.h"
-#include "platform/ports/ports.h"
 #include "platform/ports/processes.h"
 #include "platform/ports/sounds.h"
 

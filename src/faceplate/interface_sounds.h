@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
+#include "faceplate/ports.h"
 #include "launch/known_applications.h"
-#include "platform/ports/ports.h"
 #include "state/shared_state.h"
 
 namespace orvanta {
@@ -15,7 +15,7 @@ enum class Sound { Click, Minimise, Unused, Click1, Mixer, OpenDrawer };
 
 class InterfaceSounds {
  public:
-  InterfaceSounds(Ports& ports, SharedState& state) : ports_(ports), known_(ports.dialogs, ports.processes), state_(state) {}
+  InterfaceSounds(const FaceplatePorts& ports, SharedState& state) : ports_(ports), known_(ports.dialogs, ports.processes), state_(state) {}
 
   /// Silent when the user wants it so, and on the small faceplate.
   void play(Sound sound);
@@ -30,7 +30,7 @@ class InterfaceSounds {
   std::vector<std::string> mixer() const;
   void start(const std::vector<std::string>& mixer);
 
-  Ports& ports_;
+  FaceplatePorts ports_;
   KnownApplications known_;
   SharedState& state_;
 };

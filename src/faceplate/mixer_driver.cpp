@@ -7,7 +7,6 @@
 #include "base/text.h"
 #include "platform/ports/files.h"
 #include "platform/ports/mixer_application.h"
-#include "platform/ports/ports.h"
 
 namespace orvanta {
 

@@ -1,16 +1,15 @@
 // The other way to the level: the system's mixer program, started hidden and worked by key texts.
 #pragma once
 
+#include "faceplate/ports.h"
 #include "state/shared_state.h"
 #include "windows/cdform.h"
 
 namespace orvanta {
 
-struct Ports;
-
 class MixerDriver {
  public:
-  MixerDriver(Ports& ports, CDForm& form, SharedState& state) : ports_(ports), form_(form), state_(state) {}
+  MixerDriver(const FaceplatePorts& ports, CDForm& form, SharedState& state) : ports_(ports), form_(form), state_(state) {}
 
   /// At the faceplate's first activation: balance to the middle, volume to the half, mute off.
   void prepare();
@@ -26,7 +25,7 @@ class MixerDriver {
   void send(std::initializer_list<const char*> keys);
   void close();
 
-  Ports& ports_;
+  FaceplatePorts ports_;
   CDForm& form_;
   SharedState& state_;
 };

@@ -10,7 +10,6 @@
 #include "faceplate/display_colours.h"
 #include "platform/ports/aux_volume.h"
 #include "platform/ports/dialogs.h"
-#include "platform/ports/ports.h"
 
 namespace orvanta {
 
@@ -45,7 +44,7 @@ uint32_t packedVolume(int32_t left, int32_t right) {
   return (static_cast<uint32_t>(right) & 0xFFFFU) << 16U | (static_cast<uint32_t>(left) & 0xFFFFU);
 }
 
-Volume::Volume(Ports& ports, Layout& layout, MixerDriver& mixer, InterfaceSounds& sounds, CDForm& form, SharedState& state)
+Volume::Volume(const FaceplatePorts& ports, Layout& layout, MixerDriver& mixer, InterfaceSounds& sounds, CDForm& form, SharedState& state)
     : aux_(ports.auxVolume),
       dialogs_(ports.dialogs),
       layout_(layout),

@@ -4,6 +4,7 @@
 #include "faceplate/interface_sounds.h"
 #include "faceplate/layout.h"
 #include "faceplate/mixer_driver.h"
+#include "faceplate/ports.h"
 #include "platform/forms/input.h"
 #include "state/shared_state.h"
 #include "windows/cdform.h"
@@ -18,7 +19,7 @@ uint32_t packedVolume(int32_t left, int32_t right);
 
 class Volume {
  public:
-  Volume(Ports& ports, Layout& layout, MixerDriver& mixer, InterfaceSounds& sounds, CDForm& form, SharedState& state);
+  Volume(const FaceplatePorts& ports, Layout& layout, MixerDriver& mixer, InterfaceSounds& sounds, CDForm& form, SharedState& state);
 
   /// At each activation of the faceplate.
   void activate();
@@ -43,6 +44,8 @@ class Volume {
   /// 1 mutes, 0 brings the sound back.
   void Image2_MouseUp(size_t index);
   void Image9_MouseUp(size_t index);
+  void toggleLink() { Image9_MouseUp(linked() ? 1 : 0); }
+  bool linked() const { return form_.Image9[1].visible; }
   /// The right mouse button takes the sliders away, or back.
   void SSPanel1_RightClick();
   void Command3D16_RightClick();
@@ -68,7 +71,6 @@ class Volume {
 
   Channel& other(const Channel& channel) { return &channel == &left_ ? right_ : left_; }
   Channel* channelOf(const forms::Control& control);
-  bool linked() const { return form_.Image9[1].visible; }
   void press(Channel& channel, const forms::Control& part, const forms::Mouse& mouse);
   void moveTo(Channel& channel, int y);
   void put(Channel& channel, int place);

@@ -12,7 +12,6 @@
 #include "library/upward.h"
 #include "platform/ports/cd_device.h"
 #include "platform/ports/files.h"
-#include "platform/ports/ports.h"
 #include "platform/ports/screen.h"
 #include "records/disc_files.h"
 #include "records/sheet.h"
@@ -42,17 +41,9 @@ std::string enteredText(const std::optional<FileTime>& time) {
 
 }  // namespace
 
-CdData::CdData(Ports& ports, Genres& genres, HtmlExport& html, RecordPrint& print, Display& display, acdtabs& form, const CDForm& faceplate,
-               SharedState& state, LibraryUpward& upward)
-    : ports_(ports),
-      genres_(genres),
-      html_(html),
-      print_(print),
-      display_(display),
-      form_(form),
-      faceplate_(faceplate),
-      state_(state),
-      upward_(upward) {
+CdData::CdData(const LibraryPorts& ports, const CdDataParts& parts, acdtabs& form, const CDForm& faceplate, SharedState& state,
+               LibraryUpward& upward)
+    : ports_(ports), on_(parts), form_(form), faceplate_(faceplate), state_(state), upward_(upward) {
   form.setEvents(this);
 }
 
@@ -80,12 +71,11 @@ void CdData::openUnseen() {
 // ---- load
 
 void CdData::load() {
-  byPerson_ = state_.library.editorFromFaceplate == kOn && state_.library.cddbMode != kUnseen;
-  tookPlace_ = byPerson_ && state_.settings.editorFromFaceplate == kOn;
-  fresh_ = true;
-  changed_ = false;
-  if (tookPlace_) upward_.hideFaceplate();
-  if (!byPerson_) form_.Command11.visible = form_.Command12.visible = false;
+  visit_ = {};
+  visit_.byPerson = state_.library.editorFromFaceplate == kOn && state_.library.cddbMode != kUnseen;
+  visit_.tookPlace = visit_.byPerson && state_.settings.editorFromFaceplate == kOn;
+  if (visit_.tookPlace) upward_.hideFaceplate();
+  if (!visit_.byPerson) form_.Command11.visible = form_.Command12.visible = false;
   disc_ = state_.disc;
   state_.library.trackLyrics.fill("");
   const std::string path(trim(disc_.cdFilePath));
@@ -94,7 +84,6 @@ void CdData::load() {
   if (trim(disc_.extraInfo[kMediaType]).empty()) disc_.extraInfo[kMediaType] = "Audio CD";
   place();
   form_.Text5.caption = std::to_string(disc_.timeCorrection);
-  currentTab_ = MusicInfo;
   form_.SSFrame1.top = kTabTop;
   form_.SSFrame4.top = form_.Frame3D1.top = kTabAway;
   DiscFiles(ports_.files, disc_.cdFilePath).readTexts(disc_);
@@ -107,7 +96,7 @@ void CdData::load() {
   lyrics_.reset();
   fillTrackList(form_.List1, disc_);
   fillLyricsList(form_.List2, disc_, state_.library);
-  genres_.readUserCaptions();
+  on_.genres.readUserCaptions();
   showUserCaptions();
   markPlaying();
 }
@@ -125,7 +114,7 @@ void CdData::place() {
   }
   const forms::Place screen{0, 0, ports_.screen.widthTwips(), ports_.screen.heightTwips()};
   forms::Place window = placeOf(form_);
-  if (tookPlace_) {
+  if (visit_.tookPlace) {
     window.left = (screen.width - window.width) / 2;
     window.top = (screen.height - window.height) / 2;
     window = ontoScreen(window, screen);
@@ -186,8 +175,8 @@ void CdData::showUserCaptions() {
 
 /// What a first sight resets is reset once: a person who comes back from the deck finds all as it was.
 void CdData::activate() {
-  if (!std::exchange(fresh_, false)) return;
-  listMouseDown_ = false;
+  if (!std::exchange(visit_.fresh, false)) return;
+  visit_.listMouseDown = false;
   ports_.screen.setPointer(Pointer::Normal);
   updateSubmitKey();
   if (form_.activeControl() == nullptr) form_.setFocus(form_.Text2);
@@ -202,7 +191,7 @@ void CdData::markPlaying() {
 /// Its disc is the one that the deck shows.
 bool CdData::onDeck() const {
   const DiscState& disc = state_.disc;
-  return disc.discKey == disc_.discKey && disc.noDiscState == 0 && disc.drawerOpen == kOff && disc.trackCount > 0;
+  return disc.discKey == disc_.discKey && disc.in();
 }
 
 /// It wants artist, title, and a first row with something in it.
@@ -215,7 +204,7 @@ void CdData::updateSubmitKey() {
 }
 
 void CdData::unload() {
-  if (tookPlace_) upward_.showFaceplate();
+  if (visit_.tookPlace) upward_.showFaceplate();
 }
 
 void CdData::close() {

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "library/genres.h"
+#include "library/ports.h"
 #include "library/row_entry.h"
 #include "platform/forms/form.h"
 #include "playback/display.h"
@@ -19,12 +20,19 @@ namespace orvanta {
 class HtmlExport;
 class LibraryUpward;
 class RecordPrint;
-struct Ports;
+
+/// Whom the window's keys reach.
+struct CdDataParts {
+  Genres& genres;
+  HtmlExport& html;
+  RecordPrint& print;
+  Display& display;
+};
 
 class CdData : public forms::FormEvents {
  public:
-  CdData(Ports& ports, Genres& genres, HtmlExport& html, RecordPrint& print, Display& display, acdtabs& form, const CDForm& faceplate,
-         SharedState& state, LibraryUpward& upward);
+  CdData(const LibraryPorts& ports, const CdDataParts& parts, acdtabs& form, const CDForm& faceplate, SharedState& state,
+         LibraryUpward& upward);
 
   /// By a person, from the faceplate; nothing without a disc.
   void openFromFaceplate();
@@ -34,7 +42,7 @@ class CdData : public forms::FormEvents {
   bool Command1_Click();
 
   /// It stands, and a person opened it.
-  bool openForPerson() const { return form_.loaded() && byPerson_; }
+  bool openForPerson() const { return form_.loaded() && visit_.byPerson; }
   /// Before an exit by the user: asks where something was typed. True when nothing, or nothing of worth, would be lost.
   bool mayBeLost();
   /// At an end that cannot wait: what was typed is kept beside the disc's files, and offered when the window opens next.
@@ -71,6 +79,15 @@ class CdData : public forms::FormEvents {
 
  private:
   enum Tab : int16_t { MusicInfo, AdditionalInfo, Advanced };
+  /// From one load to the next.
+  struct Visit {
+    bool byPerson = false;
+    bool tookPlace = false;  ///< the faceplate is hidden for it
+    bool fresh = true;       ///< loaded, and not yet activated
+    bool changed = false;    ///< by a person since the load
+    int16_t tab = MusicInfo;
+    bool listMouseDown = false;  ///< the next focus of an input box leaves its text unselected
+  };
   // Tops of the tab that shows and of the others.
   static constexpr int kTabTop = 96;
   static constexpr int kTabAway = 100000;
@@ -121,24 +138,16 @@ class CdData : public forms::FormEvents {
   void takeUp(const Draft& draft);
   bool takeUpRow(const std::string& name, const std::string& text);
 
-  Ports& ports_;
-  Genres& genres_;
-  HtmlExport& html_;
-  RecordPrint& print_;
-  Display& display_;
+  LibraryPorts ports_;
+  CdDataParts on_;
   acdtabs& form_;
   const CDForm& faceplate_;
   SharedState& state_;
   LibraryUpward& upward_;
   DiscState disc_;
-  int16_t currentTab_ = MusicInfo;
+  Visit visit_;
   RowEntry titles_{form_.List1, form_.Text1};
   RowEntry lyrics_{form_.List2, form_.Text8};
-  bool byPerson_ = false;
-  bool tookPlace_ = false;      ///< the faceplate is hidden for it
-  bool fresh_ = false;          ///< loaded, and not yet activated
-  bool changed_ = false;        ///< by a person since the load
-  bool listMouseDown_ = false;  ///< the next focus of an input box leaves its text unselected
 };
 
 }  // namespace orvanta

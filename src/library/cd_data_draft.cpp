@@ -7,7 +7,6 @@
 #include "library/list_text.h"
 #include "platform/ports/dialogs.h"
 #include "platform/ports/files.h"
-#include "platform/ports/ports.h"
 
 namespace orvanta {
 
@@ -22,7 +21,7 @@ std::string rowName(const forms::ListBox& list, int row) { return list.name() + 
 std::string CdData::draftPath() const { return joinPath(state_.settings.appDir, disc_.discKey + ".draft"); }
 
 void CdData::keepDraft() {
-  if (!openForPerson() || !changed_) return;
+  if (!openForPerson() || !visit_.changed) return;
   takeEntry(titles_);
   takeEntry(lyrics_);
   Draft draft;
@@ -63,7 +62,7 @@ void CdData::takeUp(const Draft& draft) {
     edited(*control);
   }
   state_.library.dataDirty = kOn;
-  changed_ = true;
+  visit_.changed = true;
   updateSubmitKey();
 }
 

@@ -37,7 +37,7 @@ bool oneOf(std::span<const std::string_view> names, const std::string& name) {
 }  // namespace
 
 void CdData::edited(forms::Control& control) {
-  changed_ = true;
+  visit_.changed = true;
   if (oneOf(kInputs, control.name())) {
     entryOf(control).typed();
     return;
@@ -51,8 +51,8 @@ void CdData::gotFocus(forms::Control& control) {
   auto* box = dynamic_cast<forms::TextBox*>(&control);
   if (box == nullptr || !oneOf(kInputs, control.name())) return;
   // A press in the list has just put a title there: the mouse sets the cursor.
-  if (!listMouseDown_) box->selectAll();
-  listMouseDown_ = false;
+  if (!visit_.listMouseDown) box->selectAll();
+  visit_.listMouseDown = false;
 }
 
 bool CdData::keyDown(const forms::KeyPress& key) {
@@ -97,17 +97,17 @@ bool CdData::enterInRow(forms::Control& control) {
 /// A field on another tab brings its tab up, so that the cursor is never out of sight.
 void CdData::focusOn(forms::Control& control) {
   const int16_t tab = control.parent == &form_.SSFrame1 ? MusicInfo : control.parent == &form_.SSFrame4 ? AdditionalInfo : Advanced;
-  if (control.parent != &form_.Keys && tab != currentTab_) showTab(tab);
+  if (control.parent != &form_.Keys && tab != visit_.tab) showTab(tab);
   form_.setFocus(control);
 }
 
 void CdData::showTab(int16_t tab) {
   forms::Panel* frames[] = {&form_.SSFrame1, &form_.SSFrame4, &form_.Frame3D1};
-  frames[currentTab_]->top = kTabAway;
-  form_.CommandT[static_cast<size_t>(currentTab_)].visible = true;
+  frames[visit_.tab]->top = kTabAway;
+  form_.CommandT[static_cast<size_t>(visit_.tab)].visible = true;
   form_.CommandT[static_cast<size_t>(tab)].visible = false;
   frames[tab]->top = kTabTop;
-  currentTab_ = tab;
+  visit_.tab = tab;
   if (tab != MusicInfo) return;
   // No row is under edit from here on; what was typed for one goes there first.
   for (RowEntry* entry : {&titles_, &lyrics_}) {
@@ -141,7 +141,7 @@ void CdData::editRow(forms::ListBox& list) {
   if (list.row(list.listIndex()).empty()) return;
   chosen(list);
   forms::TextBox& box = entryOf(list).box();
-  listMouseDown_ = false;
+  visit_.listMouseDown = false;
   form_.setFocus(box);
   box.selectAll();
 }

@@ -5,7 +5,6 @@
 #include "library/print_record.h"
 #include "library/upward.h"
 #include "platform/ports/dialogs.h"
-#include "platform/ports/ports.h"
 #include "platform/ports/processes.h"
 #include "platform/ports/screen.h"
 
@@ -19,7 +18,7 @@ constexpr int kClearedRows = 50;
 }  // namespace
 
 void CdData::mouseDown(forms::Control* control, const forms::Mouse& /*mouse*/) {
-  if (control == &form_.List1 || control == &form_.List2) listMouseDown_ = true;
+  if (control == &form_.List1 || control == &form_.List2) visit_.listMouseDown = true;
 }
 
 void CdData::mouseUp(forms::Control* control, const forms::Mouse& mouse) {
@@ -39,13 +38,13 @@ void CdData::pressed(const std::string& name) {
   } else if (name == "Command3") {
     upward_.showHelp(kHelpTopic);
   } else if (name == "Command4") {
-    print_.run(disc_);
+    on_.print.run(disc_);
   } else if (name == "Command5") {
     clear();
   } else if (name == "Command6") {
     ports_.processes.start({{joinPath(state_.process.windowsDir, "orvlib"), "LX"}, state_.settings.appDir, WindowStyle::Normal});
   } else if (name == "Command7") {
-    html_.run(disc_);
+    on_.html.run(disc_);
   } else if (name == "Command11") {
     disc_.trackLengths[101] = trim(form_.Label13.caption.get());
     upward_.openCddb();
@@ -62,16 +61,16 @@ void CdData::pressed(const std::string& name) {
 }
 
 void CdData::addGenre() {
-  const auto genre = genres_.addGenre();
+  const auto genre = on_.genres.addGenre();
   if (!genre) return;
   state_.library.askOnCancel = state_.library.dataDirty = kOn;
-  changed_ = true;
-  genres_.fillGenres(form_.cat);
+  visit_.changed = true;
+  on_.genres.fillGenres(form_.cat);
   form_.cat.caption = *genre;
 }
 
 void CdData::askCaptions() {
-  genres_.askUserCaptions();
+  on_.genres.askUserCaptions();
   showUserCaptions();
 }
 
@@ -96,7 +95,7 @@ void CdData::cancel() {
   close();
 }
 
-bool CdData::mayBeLost() { return !openForPerson() || !changed_ || askLoseChanges(); }
+bool CdData::mayBeLost() { return !openForPerson() || !visit_.changed || askLoseChanges(); }
 
 void CdData::clear() {
   beginFill();
@@ -117,7 +116,7 @@ void CdData::clear() {
   for (auto& field : disc_.extraInfo) field.clear();
   state_.library.trackLyrics.fill("");
   state_.library.dataDirty = state_.library.askOnCancel = kOn;
-  changed_ = true;
+  visit_.changed = true;
 }
 
 void CdData::submit() {

@@ -3,7 +3,6 @@
 #include "library/cd_data.h"
 #include "library/cd_data_fields.h"
 #include "library/list_text.h"
-#include "platform/ports/ports.h"
 #include "platform/ports/screen.h"
 #include "records/disc_files.h"
 #include "state/not_written.h"
@@ -30,7 +29,7 @@ bool CdData::Command1_Click() {
   if (failed.any()) {
     ports_.screen.setPointer(Pointer::Normal);
     tellNotWritten(ports_.dialogs, failed.path, failed.reason);
-    if (byPerson_) return false;
+    if (visit_.byPerson) return false;
   }
   // The deck takes the texts up even when they could not be kept.
   static_cast<DiscTexts&>(state_.disc) = disc_;
@@ -78,6 +77,6 @@ void CdData::savetimes() {
 }
 
 /// The new texts show at once: the disc's, and that of the track on display.
-void CdData::updateFaceplate() { display_.showHeader(); }
+void CdData::updateFaceplate() { on_.display.showHeader(); }
 
 }  // namespace orvanta

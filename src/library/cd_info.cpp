@@ -6,7 +6,6 @@
 #include "library/list_text.h"
 #include "library/placing.h"
 #include "library/upward.h"
-#include "platform/ports/ports.h"
 #include "platform/ports/screen.h"
 
 namespace orvanta {
@@ -20,7 +19,8 @@ constexpr int kLowHeight = 2500;  ///< where the faceplate stands too low for a 
 
 }  // namespace
 
-CdInfo::CdInfo(Ports& ports, Engine& engine, Modes& modes, cdartext& form, CDForm& faceplate, SharedState& state, LibraryUpward& upward)
+CdInfo::CdInfo(const LibraryPorts& ports, Engine& engine, Modes& modes, cdartext& form, CDForm& faceplate, SharedState& state,
+               LibraryUpward& upward)
     : ports_(ports), engine_(engine), modes_(modes), form_(form), faceplate_(faceplate), state_(state), upward_(upward) {
   form.setEvents(this);
 }

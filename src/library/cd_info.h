@@ -1,6 +1,7 @@
 // Behaviour of cdartext, the CD Info window.
 #pragma once
 
+#include "library/ports.h"
 #include "platform/forms/form.h"
 #include "playback/modes.h"
 #include "state/shared_state.h"
@@ -10,11 +11,11 @@
 namespace orvanta {
 
 class LibraryUpward;
-struct Ports;
 
 class CdInfo : public forms::FormEvents {
  public:
-  CdInfo(Ports& ports, Engine& engine, Modes& modes, cdartext& form, CDForm& faceplate, SharedState& state, LibraryUpward& upward);
+  CdInfo(const LibraryPorts& ports, Engine& engine, Modes& modes, cdartext& form, CDForm& faceplate, SharedState& state,
+         LibraryUpward& upward);
 
   void open();
   void close() { form_.unload(); }
@@ -28,7 +29,7 @@ class CdInfo : public forms::FormEvents {
  private:
   void place();
 
-  Ports& ports_;
+  LibraryPorts ports_;
   Engine& engine_;
   Modes& modes_;
   cdartext& form_;

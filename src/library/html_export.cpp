@@ -10,7 +10,6 @@
 #include "library/record_rows.h"
 #include "platform/ports/dialogs.h"
 #include "platform/ports/files.h"
-#include "platform/ports/ports.h"
 #include "state/not_written.h"
 
 namespace orvanta {
@@ -50,9 +49,6 @@ std::string closeTable() { return std::string("</table>") + kEnd + "<p>&nbsp;</p
 std::string endRow() { return std::string("</tr>") + kEnd; }
 
 }  // namespace
-
-HtmlExport::HtmlExport(Ports& ports, acdtabs& form, const Settings& settings)
-    : files_(ports.files), dialogs_(ports.dialogs), form_(form), settings_(settings) {}
 
 void HtmlExport::run(const DiscState& disc) {
   std::string name = form_.Text2.caption.get() + " - " + form_.Text4.caption.get() + ".htm";

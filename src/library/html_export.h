@@ -10,11 +10,11 @@ namespace orvanta {
 
 class Dialogs;
 class Files;
-struct Ports;
 
 class HtmlExport {
  public:
-  HtmlExport(Ports& ports, acdtabs& form, const Settings& settings);
+  HtmlExport(Files& files, Dialogs& dialogs, acdtabs& form, const Settings& settings)
+      : files_(files), dialogs_(dialogs), form_(form), settings_(settings) {}
 
   /// Asks where to, and writes the page of the window's disc. A cancel is silent.
   void run(const DiscState& disc);

@@ -8,7 +8,6 @@
 #include "library/list_text.h"
 #include "library/placing.h"
 #include "platform/ports/dialogs.h"
-#include "platform/ports/ports.h"
 #include "platform/ports/screen.h"
 #include "state/not_written.h"
 
@@ -22,7 +21,8 @@ constexpr size_t kProgramEntries = 100;
 
 }  // namespace
 
-Playlist::Playlist(Ports& ports, Engine& engine, Modes& modes, Display& display, cdplist& form, CDForm& faceplate, SharedState& state)
+Playlist::Playlist(const LibraryPorts& ports, Engine& engine, Modes& modes, Display& display, cdplist& form, CDForm& faceplate,
+                   SharedState& state)
     : ports_(ports), engine_(engine), modes_(modes), display_(display), form_(form), faceplate_(faceplate), state_(state) {
   form.setEvents(this);
 }

@@ -3,8 +3,9 @@
 
 #include <vector>
 
+#include "library/ports.h"
 #include "platform/forms/form.h"
-#include "playback/buttons.h"
+#include "playback/modes.h"
 #include "records/disc_files.h"
 #include "state/shared_state.h"
 #include "windows/cdform.h"
@@ -12,11 +13,9 @@
 
 namespace orvanta {
 
-struct Ports;
-
 class Playlist : public forms::FormEvents {
  public:
-  Playlist(Ports& ports, Engine& engine, Modes& modes, Display& display, cdplist& form, CDForm& faceplate, SharedState& state);
+  Playlist(const LibraryPorts& ports, Engine& engine, Modes& modes, Display& display, cdplist& form, CDForm& faceplate, SharedState& state);
 
   /// Nothing without tracks.
   void open();
@@ -49,7 +48,7 @@ class Playlist : public forms::FormEvents {
   void append(int track);
   DiscFiles discFiles() const;
 
-  Ports& ports_;
+  LibraryPorts ports_;
   Engine& engine_;
   Modes& modes_;
   Display& display_;

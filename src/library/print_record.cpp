@@ -4,7 +4,6 @@
 #include "base/text.h"
 #include "library/list_text.h"
 #include "library/record_rows.h"
-#include "platform/ports/ports.h"
 #include "platform/ports/printer.h"
 
 namespace orvanta {
@@ -21,8 +20,6 @@ constexpr size_t kNotes = 74;
 constexpr size_t kSlice = 100;
 
 }  // namespace
-
-RecordPrint::RecordPrint(Ports& ports, const acdtabs& form) : printer_(ports.printer), form_(form) {}
 
 void RecordPrint::run(const DiscState& disc) {
   if (!printer_.ask()) return;

@@ -7,11 +7,10 @@
 namespace orvanta {
 
 class Printer;
-struct Ports;
 
 class RecordPrint {
  public:
-  RecordPrint(Ports& ports, const acdtabs& form);
+  RecordPrint(Printer& printer, const acdtabs& form) : printer_(printer), form_(form) {}
   /// Asks for a printer and prints the window's disc; a cancel is silent.
   void run(const DiscState& disc);
 

@@ -10,6 +10,7 @@
 #include "platform/ports/files.h"
 #include "platform/ports/screen.h"
 #include "playback/upward.h"
+#include "records/disc_files.h"
 #include "records/sheet.h"
 
 namespace orvanta {
@@ -48,6 +49,7 @@ bool DiscLoad::probe() {
   disc.trackCount = 1;
   if (layer_.openDevice()) loadDisc();
   if (device_.length() == 0) totalFromTracks();
+  readOwn();
   return true;
 }
 
@@ -78,11 +80,27 @@ void DiscLoad::loadDisc() {
 }
 
 void DiscLoad::readTexts() {
-  if (!upward_.readCdRecord(state_.disc.cdFilePath)) {
-    clearTexts();
-    return;
-  }
+  DiscState& disc = state_.disc;
+  DiscFiles(files_, disc.cdFilePath).readTexts(disc);
+  // A record that knows fewer tracks than the drive takes the drive's count.
+  if (leadingNumber(disc.discInfo[kTrackCount]) < disc.trackCount) disc.discInfo[kTrackCount] = std::to_string(disc.trackCount);
   display_.showHeader();
+}
+
+void DiscLoad::readTextsAgain() {
+  if (files_.exists(state_.disc.cdFilePath)) {
+    readTexts();
+  } else {
+    display_.showHeader();
+  }
+}
+
+/// What else the user keeps of the disc: a program, and by how much its table is wrong.
+void DiscLoad::readOwn() {
+  const DiscFiles own(files_, state_.disc.cdFilePath);
+  const auto program = own.program();
+  state_.program.pgmStored = program && !program->empty() && program->front() >= 1 ? kOn : kOff;
+  state_.disc.timeCorrection = own.timeCorrection();
 }
 
 /// The user has written nothing about this disc: it may tell of itself.

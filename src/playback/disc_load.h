@@ -4,6 +4,7 @@
 #include "playback/device.h"
 #include "playback/display.h"
 #include "playback/key_looks.h"
+#include "playback/ports.h"
 
 namespace orvanta {
 
@@ -14,12 +15,12 @@ class Screen;
 
 class DiscLoad {
  public:
-  DiscLoad(CdDevice& device, DeviceLayer& layer, Files& files, Screen& screen, Display& display, KeyLooks& looks, CDForm& form,
-           SharedState& state, PlaybackUpward& upward)
-      : device_(device),
+  DiscLoad(const PlaybackPorts& ports, DeviceLayer& layer, Display& display, KeyLooks& looks, CDForm& form, SharedState& state,
+           PlaybackUpward& upward)
+      : device_(ports.device),
         layer_(layer),
-        files_(files),
-        screen_(screen),
+        files_(ports.files),
+        screen_(ports.screen),
         display_(display),
         looks_(looks),
         form_(form),
@@ -34,12 +35,16 @@ class DiscLoad {
   /// disc's type, and the automatic lookup.
   void deferredTable();
 
+  /// The disc's texts out of its files, where it has any, once more; then on the display.
+  void readTextsAgain();
+
   /// Does what clearDiscRequest asks for.
   void clearOnRequest();
 
  private:
   void loadDisc();
   void readTexts();
+  void readOwn();
   void clearTexts();
   void totalFromTracks();
   void showDiscType();

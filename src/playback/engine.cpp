@@ -16,7 +16,7 @@
 
 namespace orvanta {
 
-Engine::Engine(Ports& ports, DeviceLayer& layer, Display& display, KeyLooks& looks, CDForm& form, SharedState& state,
+Engine::Engine(const PlaybackPorts& ports, DeviceLayer& layer, Display& display, KeyLooks& looks, CDForm& form, SharedState& state,
                PlaybackUpward& upward)
     : device_(ports.device),
       clock_(ports.clock),
@@ -163,10 +163,6 @@ void Engine::adoptRunningDisc() {
   showState();
 }
 
-void Engine::playCompleted(int16_t error) {
-  if (error == device_error::kHardware) device_.command("Close");
-}
-
 // ---- places
 
 void Engine::showPlace(int16_t track, std::string_view timeText) {
@@ -291,7 +287,6 @@ void Engine::mmcontrol1_EjectClick() {
   device_.command("Eject");
   device_.command("Close");
   form_.SSPanel3.backColor = colours::kYellow;
-  upward_.closeTrackList();
   screen_.setPointer(Pointer::Normal);
 }
 

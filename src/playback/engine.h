@@ -4,10 +4,10 @@
 
 #include <optional>
 
-#include "platform/ports/ports.h"
 #include "playback/device.h"
 #include "playback/display.h"
 #include "playback/key_looks.h"
+#include "playback/ports.h"
 #include "state/shared_state.h"
 
 namespace orvanta {
@@ -24,7 +24,8 @@ constexpr int kBarMargin = 84;
 
 class Engine {
  public:
-  Engine(Ports& ports, DeviceLayer& layer, Display& display, KeyLooks& looks, CDForm& form, SharedState& state, PlaybackUpward& upward);
+  Engine(const PlaybackPorts& ports, DeviceLayer& layer, Display& display, KeyLooks& looks, CDForm& form, SharedState& state,
+         PlaybackUpward& upward);
 
   /// Plays the current track from its start, resumes a pause, or makes a program's next step.
   void MMControl1_PlayClick();
@@ -34,9 +35,6 @@ class Engine {
   void MMControl1_NextClick(int16_t& value);
   void MMControl1_PrevClick();
   void mmcontrol1_EjectClick();
-
-  /// The device's play-completed event.
-  void playCompleted(int16_t error);
 
   // What the transport keys do on their release.
   void previousKey();
@@ -101,7 +99,7 @@ class Engine {
   void startOfTrack();
 
  private:
-  bool asleep() const { return state_.disc.noDiscState > 0 || state_.disc.drawerOpen == kOn; }
+  bool asleep() const { return state_.disc.asleep(); }
   bool canStep(int16_t track) const;
   std::string_view lengthOf(int track) const;
   void resume();

@@ -7,19 +7,19 @@
 #include "platform/ports/clock.h"
 #include "platform/ports/screen.h"
 #include "playback/tracks.h"
-#include "playback/upward.h"
+#include "records/disc_files.h"
 
 namespace orvanta {
 
-Modes::Modes(Ports& ports, Engine& engine, Display& display, KeyLooks& looks, CDForm& form, SharedState& state, PlaybackUpward& upward)
+Modes::Modes(const PlaybackPorts& ports, Engine& engine, Display& display, KeyLooks& looks, CDForm& form, SharedState& state)
     : clock_(ports.clock),
+      files_(ports.files),
       screen_(ports.screen),
       engine_(engine),
       display_(display),
       looks_(looks),
       form_(form),
-      state_(state),
-      upward_(upward) {}
+      state_(state) {}
 
 void Modes::Image4_MouseUp(size_t mode) {
   if (asleep()) return;
@@ -154,7 +154,7 @@ void Modes::rclpgm() {
   program.pgmCount = 0;
   // A pause of the disc before has nothing to resume in the program.
   state_.transport.pausePosition = 0;
-  const auto values = upward_.readProgram();
+  const auto values = DiscFiles(files_, state_.disc.cdFilePath).program();
   if (!values) return;
   program.pgmList.fill(0);
   for (size_t i = 0; i < values->size() && i < 100; ++i) {

@@ -2,14 +2,13 @@
 #pragma once
 
 #include "playback/engine.h"
+#include "playback/ports.h"
 
 namespace orvanta {
 
-enum ModeKey : size_t { PgmKey, OneKey, ContKey, IntroKey };
-
 class Modes {
  public:
-  Modes(Ports& ports, Engine& engine, Display& display, KeyLooks& looks, CDForm& form, SharedState& state, PlaybackUpward& upward);
+  Modes(const PlaybackPorts& ports, Engine& engine, Display& display, KeyLooks& looks, CDForm& form, SharedState& state);
 
   /// A mode key's release.
   void Image4_MouseUp(size_t mode);
@@ -32,7 +31,7 @@ class Modes {
   void lampTick();
 
  private:
-  bool asleep() const { return state_.disc.noDiscState > 0 || state_.disc.drawerOpen == kOn; }
+  bool asleep() const { return state_.disc.asleep(); }
   void leaveOne();
   void enterPgm();
   void enterOne();
@@ -46,13 +45,13 @@ class Modes {
   double placeOnBar() const;
 
   Clock& clock_;
+  Files& files_;
   Screen& screen_;
   Engine& engine_;
   Display& display_;
   KeyLooks& looks_;
   CDForm& form_;
   SharedState& state_;
-  PlaybackUpward& upward_;
   int64_t lastBlink_ = 0;
 };
 

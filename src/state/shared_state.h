@@ -39,6 +39,10 @@ struct DiscState : DiscTexts {
   int16_t trackTableDone = kOff;
   int16_t enhancedCd = kOff;
   int16_t clearDiscRequest = kOff;  ///< the clock clears the disc's texts
+
+  /// Without a disc at the start, or with the drawer open: no key of the play is heard.
+  bool asleep() const { return noDiscState > 0 || drawerOpen == kOn; }
+  bool in() const { return !asleep() && trackCount > 0; }
 };
 
 struct TransportState {

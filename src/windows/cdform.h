@@ -7,6 +7,10 @@ namespace orvanta {
 
 /// Indices of the transport row's arrays.
 enum TransportKey : size_t { Previous, Next, Play, Pause, Stop, Record };
+/// Of the scan row's, of the small keys, and of the mode keys.
+enum ScanKey : size_t { ScanBack, TimeKey, AbKey, ScanForward };
+enum SmallKey : size_t { Above20, Shuffle, Repeat, Rip, Info };
+enum ModeKey : size_t { PgmKey, OneKey, ContKey, IntroKey };
 
 struct CDForm : forms::Form {
   template <class T, size_t N>

@@ -45,6 +45,7 @@ Control* Form::find(std::string_view controlName, int index) const {
 
 void Form::propertyChanged(Change change) {
   if (view_) view_->formChanged(change);
+  if (change == Change::Visibility && loaded()) events_->minimisedChanged();
 }
 
 void Form::load(Desktop& desktop) {

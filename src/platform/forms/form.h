@@ -58,6 +58,8 @@ class FormEvents {
   virtual void dragged() {}
   virtual bool takesFile(const std::string& /*path*/) const { return false; }
   virtual void fileDropped(const std::string& /*path*/) {}
+  /// The window was minimised by program, or came back.
+  virtual void minimisedChanged() {}
   /// The system asks to close the window.
   virtual void closeAsked() {}
 };

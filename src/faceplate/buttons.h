@@ -1,20 +1,17 @@
-// The keys of CDForm: transport and scan rows, number, small and mode keys, the bar, the keyboard.
+// The keys of CDForm by their given names: transport and scan rows, number and small keys, the bar.
 #pragma once
 
 #include <optional>
 
-#include "platform/forms/input.h"
 #include "playback/modes.h"
 
 namespace orvanta {
 
-/// Indices of the scan row and of the small keys.
-enum ScanKey : size_t { ScanBack, TimeKey, AbKey, ScanForward };
-enum SmallKey : size_t { Above20, Shuffle, Repeat, Rip, Info };
+class FaceplateUpward;
 
 class Buttons {
  public:
-  Buttons(Engine& engine, Modes& modes, Display& display, KeyLooks& looks, CDForm& form, SharedState& state, PlaybackUpward& upward)
+  Buttons(Engine& engine, Modes& modes, Display& display, KeyLooks& looks, CDForm& form, SharedState& state, FaceplateUpward& upward)
       : engine_(engine), modes_(modes), display_(display), looks_(looks), form_(form), state_(state), upward_(upward) {}
 
   /// A person's press of a transport key: ends Intro and what a tick would find ended, whether or not the key
@@ -33,22 +30,14 @@ class Buttons {
   /// Number keys 1 to 20, by index from 0.
   void Image17_MouseUp(size_t key);
   void Image16_MouseUp(size_t key);
-  void Label9_Click();
   /// `x` twips along the bar.
   void CDStatusBar_Click(int x);
-
-  /// The key table; true when the key is one of it.
-  bool keyDown(const forms::KeyPress& key);
+  /// What the number keys do.
+  void jumpTo(int track);
 
  private:
-  bool asleep() const { return state_.disc.noDiscState > 0 || state_.disc.drawerOpen == kOn; }
-  void pressed(size_t key);
-  void jumpTo(int track);
+  bool asleep() const { return state_.disc.asleep(); }
   void timeMode();
-  bool entryKey(const forms::KeyPress& key);
-  void closeEntry();
-  bool transportKey(int code);
-  bool otherKey(int code);
 
   Engine& engine_;
   Modes& modes_;
@@ -56,7 +45,7 @@ class Buttons {
   KeyLooks& looks_;
   CDForm& form_;
   SharedState& state_;
-  PlaybackUpward& upward_;
+  FaceplateUpward& upward_;
   std::optional<size_t> down_;  ///< the transport key whose face has given way
 };
 

@@ -1,74 +1,44 @@
-// The clock's slower side: auto-start, setup, and discs that come and go.
-#include <utility>
+// Looking for discs once a second or so: a new one is another process.
+#include "playback/disc_watch.h"
 
 #include "base/text.h"
-#include "platform/ports/dialogs.h"
-#include "platform/ports/disc_tray.h"
+#include "platform/ports/cd_device.h"
 #include "platform/ports/screen.h"
-#include "playback/clock.h"
-#include "playback/tracks.h"
 #include "playback/upward.h"
 
 namespace orvanta {
 
-/// An image was put on the deck: with another disc still in, the tray opens for it first. One that
-/// cannot be played leaves everything as it was.
-void PlaybackClock::answerOffer() {
-  const TrayOffer offer = tray_.takeAnswer();
-  if (offer.answer == TrayOffer::Answer::Refused || offer.answer == TrayOffer::Answer::Notice) {
-    refusal_ = offer.refusal;
-    refusalBox_->setInterval(1);
-  } else if (offer.answer == TrayOffer::Answer::Accepted) {
-    if (state_.disc.drawerOpen == kOff) {
-      state_.process.playNext = state_.transport.playingFlag;
-      engine_.mmcontrol1_EjectClick();
-    }
-    tray_.close();
-  }
+DiscWatch::DiscWatch(const PlaybackPorts& ports, Engine& engine, Modes& modes, TrayAnswers& answers, Display& display, CDForm& form,
+                     SharedState& state, PlaybackUpward& upward)
+    : clock_(ports.clock),
+      device_(ports.device),
+      screen_(ports.screen),
+      engine_(engine),
+      modes_(modes),
+      answers_(answers),
+      display_(display),
+      form_(form),
+      state_(state),
+      upward_(upward) {}
+
+void DiscWatch::start() {
+  timer3_ = clock_.makeTimer([this] { timer3_timer(); });
+  timer3_->setInterval(kTimer3Interval);
 }
 
-void PlaybackClock::tellRefusal() {
-  refusalBox_->setInterval(0);
-  const std::string refusal = std::exchange(refusal_, {});
-  dialogs_.message(BoxStyle::Warning, "Orvanta", refusal);
-  // Another one was refused while the box was open.
-  if (!refusal_.empty()) refusalBox_->setInterval(1);
+void DiscWatch::timer3_timer() {
+  tick();
+  upward_.afterTick();
 }
 
-void PlaybackClock::autoStart() {
-  ProcessState& process = state_.process;
-  if (process.commandWord == "RUNRIPPER") {
-    form_.minimised = false;
-    screen_.setPointer(Pointer::Normal);
-    process.autoStartDone = kOn;
-    process.commandWord.clear();
-    buttons_.icntla_MouseDown(Record);
-    buttons_.icntla_MouseUp(Record);
-    return;
-  }
-  process.autoStartDone = kOn;
-  if (state_.program.pgmStored == kOn) {
-    modes_.Label30_Click();
-    return;
-  }
-  state_.transport.curTrack = firstTrack(state_.disc);
-  engine_.playKey();
-  if (process.commandWord == "ORVLITE") {
-    form_.minimised = true;
-    screen_.setPointer(Pointer::Normal);
-    process.commandWord.clear();
-  }
-}
-
-void PlaybackClock::timer3_timer() {
+void DiscWatch::tick() {
   DiscState& disc = state_.disc;
-  upward_.everyTick();
   if (state_.process.setupWanted == kOn) {
     // Cleared first: the timer must not find it again while the setup program is open.
     state_.process.setupWanted = kOff;
     upward_.runSetup();
   }
-  answerOffer();
+  answers_.take();
   modes_.introTick();
   if (disc.drawerOpen == kOn) {
     drawerIsOpen();
@@ -81,7 +51,7 @@ void PlaybackClock::timer3_timer() {
 }
 
 /// The way back from an open drawer: a disc that the drive can name.
-void PlaybackClock::drawerIsOpen() {
+void DiscWatch::drawerIsOpen() {
   if (device_.directoryEntry().empty()) {
     restartFailed_ = false;
     return;
@@ -104,7 +74,7 @@ void PlaybackClock::drawerIsOpen() {
 
 /// The drive was not ready at the start and has a disc now. Audio takes the road of a new disc; a
 /// disc of data stays where it is.
-bool PlaybackClock::discCameLater() {
+bool DiscWatch::discCameLater() {
   const std::string entry = device_.directoryEntry();
   if (entry.empty()) return false;
   if (endsWithNoCase(entry, ".CDA")) drawerIsOpen();
@@ -112,7 +82,7 @@ bool PlaybackClock::discCameLater() {
 }
 
 /// The disc has ended, or was stopped at track 0. True when it was ejected for that.
-bool PlaybackClock::afterTheEnd() {
+bool DiscWatch::afterTheEnd() {
   if (display_.number() != 0) return false;
   if (state_.settings.timeMode == Time) {
     device_.command("stop");
@@ -127,7 +97,7 @@ bool PlaybackClock::afterTheEnd() {
 }
 
 /// Somebody took the disc out by the drive's own button, or there was none from the start.
-void PlaybackClock::discGone() {
+void DiscWatch::discGone() {
   device_.command("stop");
   device_.command("close");
   state_.transport.playingFlag = state_.transport.pausedFlag = kOff;

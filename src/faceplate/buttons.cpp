@@ -1,8 +1,7 @@
-// Presses and releases of the faceplate's keys, and the keyboard's that stand for them.
-#include "playback/buttons.h"
+// Presses and releases of the faceplate's keys.
+#include "faceplate/buttons.h"
 
-#include "base/text.h"
-#include "playback/upward.h"
+#include "faceplate/upward.h"
 
 namespace orvanta {
 
@@ -11,7 +10,6 @@ namespace {
 /// Where the pressed plateau lies on a face, and how far a pressed face goes right and down.
 constexpr int kPlateauLeft = 54;
 constexpr int kPlateauTop = 70;
-constexpr int kHelpTopic = 15;
 
 int pressDepth(const SharedState& state) { return state.process.smallFonts == kOn ? 10 : 12; }
 
@@ -102,10 +100,6 @@ void Buttons::timeMode() {
   looks_.timeLegend();
 }
 
-void Buttons::Label9_Click() {
-  if (!asleep()) timeMode();
-}
-
 void Buttons::CDStatusBar_Click(int x) {
   engine_.settle();
   engine_.CDStatusBar_Click(x);
@@ -114,7 +108,7 @@ void Buttons::CDStatusBar_Click(int x) {
 // ---- number and small keys
 
 void Buttons::Image17_MouseUp(size_t key) {
-  if (asleep() || form_.Label34[key].foreColor == colours::kGrey) return;
+  if (asleep()) return;
   jumpTo(static_cast<int>(key) + 1);
 }
 
@@ -129,91 +123,15 @@ void Buttons::jumpTo(int track) {
 void Buttons::Image16_MouseUp(size_t key) {
   switch (key) {
     case Above20:
-      if (asleep() || form_.Label44.foreColor == colours::kGrey) return;
+      if (asleep()) return;
       form_.Image16[Above20].visible = form_.Label44.visible = false;
       form_.Text1.caption = "";
       form_.Text1.visible = true;
       form_.setFocus(form_.Text1);
       break;
     case Shuffle: modes_.shuffle(); break;
-    case Repeat: modes_.repeatKey(); break;
-    case Rip: pressed(Record); break;
-    default:
-      if (form_.Image16[Info].enabled) upward_.showTrackList();
-      break;
+    default: modes_.repeatKey(); break;
   }
-}
-
-void Buttons::closeEntry() {
-  form_.Text1.visible = false;
-  form_.Text1.caption = "";
-  form_.Image16[Above20].visible = form_.Label44.visible = true;
-}
-
-/// While the entry for a track above 20 is open, it takes the keys.
-bool Buttons::entryKey(const forms::KeyPress& key) {
-  const std::string text = form_.Text1.caption;
-  if (key.code >= '0' && key.code <= '9' && text.size() < 2) {
-    form_.Text1.caption = text + static_cast<char>(key.code);
-  } else if (key.code == forms::key::kBackspace) {
-    form_.Text1.caption = text.substr(0, text.empty() ? 0 : text.size() - 1);
-  } else if (key.code == forms::key::kEscape) {
-    closeEntry();
-  } else if (key.code == forms::key::kEnter) {
-    const int track = static_cast<int>(leadingNumber(text));
-    closeEntry();
-    if (asleep() || track < 21 || track > state_.disc.trackCount) return true;
-    jumpTo(track);
-    if (state_.settings.repeatOn == kOff) display_.lamps(20, kLcdDim);
-  }
-  return true;
-}
-
-// ---- keyboard
-
-void Buttons::pressed(size_t key) {
-  if (pressStarts(key)) pressEnds(key);
-}
-
-bool Buttons::keyDown(const forms::KeyPress& key) {
-  if (key.control || key.alt) return false;
-  if (form_.Text1.visible) return entryKey(key);
-  return transportKey(key.code) || otherKey(key.code);
-}
-
-bool Buttons::transportKey(int code) {
-  static constexpr std::string_view kKeys = "ASDFGH";
-  static constexpr TransportKey kStandFor[] = {Previous, Next, Play, Pause, Stop, Record};
-  const auto at = code > 0 && code < 128 ? kKeys.find(static_cast<char>(code)) : std::string_view::npos;
-  if (at == std::string_view::npos) return false;
-  pressed(kStandFor[at]);
-  return true;
-}
-
-bool Buttons::otherKey(int code) {
-  using namespace forms::key;  // NOLINT(google-build-using-namespace): the table below reads as one
-  switch (code) {
-    case kEscape: upward_.exitProgram(); break;
-    case kF1:
-    case kHelp: upward_.showHelp(kHelpTopic); break;
-    case kF1 + 1: upward_.showMenu(); break;
-    case kF1 + 3: upward_.muteKey(); break;
-    case kF1 + 4: upward_.volumeKey(true); break;
-    case kF1 + 5: upward_.volumeKey(false); break;
-    case kF1 + 6: upward_.showPlaylist(); break;
-    case 'J': engine_.mmcontrol1_EjectClick(); break;
-    case 'L': upward_.showCdData(); break;
-    case 'M': upward_.runMixer(); break;
-    case 'N': upward_.launchEnhancedDisc(); break;
-    case 'R': modes_.repeatKey(); break;
-    case 'E': modes_.shuffle(); break;
-    case 'T': scntla_MouseUp(TimeKey); break;
-    case 'W': scntla_MouseUp(AbKey); break;
-    case 'Y': modes_.nextMode(); break;
-    case 'I': Image16_MouseUp(Info); break;
-    default: return false;
-  }
-  return true;
 }
 
 }  // namespace orvanta

@@ -1,0 +1,30 @@
+// The room of the process's own life: start, exit, the change to another process, the recorder.
+#pragma once
+
+#include "app/exit.h"
+#include "app/keeper.h"
+#include "app/record.h"
+#include "app/restart.h"
+#include "app/setup_program.h"
+#include "app/start_up.h"
+
+namespace orvanta {
+
+struct Life {
+  Life(const LifePorts& ports, Playback& playback, Faceplate& faceplate, CDForm& form, SharedState& state)
+      : startUp(ports, state),
+        keeper(ports, state),
+        exit(ports, playback.looks, faceplate.volume, faceplate.sounds, form, state),
+        restart(ports, faceplate.volume, state),
+        record(ports, playback.looks, faceplate.position, faceplate.volume, restart, form, state),
+        setup(ports, startUp, faceplate, form, state) {}
+
+  StartUp startUp;
+  Keeper keeper;
+  Exit exit;
+  Restart restart;
+  RecorderLaunch record;
+  SetupProgram setup;
+};
+
+}  // namespace orvanta

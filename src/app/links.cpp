@@ -1,0 +1,110 @@
+// From room to room.
+#include "app/links.h"
+
+#include "app/orvanta.h"
+#include "platform/ports/dialogs.h"
+
+namespace orvanta {
+
+// ---- the door, discs and processes
+
+/// A lookup of the disc that goes is over, and so is the list of its tracks.
+void Links::openDrawer() {
+  core_.cddb_.window.cddbcanz();
+  core_.faceplate_.drawer.opendrawer();
+  closeTrackList();
+}
+
+void Links::closeDrawer() { core_.faceplate_.drawer.closedrawer(); }
+
+void Links::showNoDisc() { core_.faceplate_.colours.disabledLook(); }
+
+void Links::restartForDisc() {
+  core_.life_.restart.forDisc([this] { core_.faceplate_.drawer.follow(); });
+}
+
+void Links::restartWhenFree() {
+  constexpr int kLook = 500;  // milliseconds
+  restartLater_ = clock_.makeTimer([this] {
+    if (restartWaits()) return;
+    restartLater_->setInterval(0);
+    restartForDisc();
+  });
+  restartLater_->setInterval(kLook);
+}
+
+bool Links::restartWaits() const {
+  return core_.library_.cdData.openForPerson() || core_.cddb_.window.openForPerson() || core_.mailForm.loaded() ||
+         core_.playlistForm.loaded() || dialogs_.open();
+}
+
+void Links::runSetup() { core_.life_.setup.run(); }
+
+void Links::record() {
+  if (core_.life_.record.ready() && core_.library_.cdData.mayBeLost()) core_.life_.record.run();
+}
+
+void Links::exitProgram() {
+  if (core_.library_.cdData.mayBeLost()) core_.life_.exit.exitProgram();
+}
+
+void Links::exitWhenFree() {
+  exitWanted_ = true;
+  exitIfWanted();
+}
+
+void Links::exitIfWanted() {
+  if (exitWanted_ && !restartWaits()) core_.life_.exit.exitProgram();
+}
+
+void Links::afterTick() {
+  core_.playback_.status.tell();
+  exitIfWanted();
+}
+
+// ---- windows
+
+void Links::showFaceplate() { core_.showFaceplate(); }
+
+void Links::hideFaceplate() { core_.form.hide(); }
+
+/// The track list's window makes room for the editor.
+void Links::showCdData() {
+  CdData& editor = core_.library_.cdData;
+  if (!core_.state.disc.in() && !editor.openForPerson()) return;
+  core_.cddb_.window.cddbcanz();
+  closeTrackList();
+  editor.openFromFaceplate();
+}
+
+void Links::showPlaylist() {
+  if (core_.state.disc.in()) core_.library_.playlist.open();
+}
+
+void Links::showTrackList() { core_.library_.info.open(); }
+
+void Links::closeTrackList() { core_.library_.info.close(); }
+
+void Links::closeDiscWindows() {
+  core_.cddb_.window.cddbcanz();
+  closeTrackList();
+  if (!core_.library_.cdData.openForPerson()) core_.editor.unload();
+}
+
+// ---- the CDDB
+
+void Links::openCddb() { core_.cddb_.window.open(); }
+
+void Links::automaticLookup() { core_.cddb_.window.discKnown(); }
+
+void Links::submitToCddb() { core_.cddb_.submitter.open(); }
+
+bool Links::mailSenderKnown() const { return storedCddbSettings(core_.ports_.files, core_.state.settings.appDir).senderKnown(); }
+
+bool Links::lookupMayStart() const {
+  return core_.state.disc.in() && !core_.mailForm.loaded() && !core_.playlistForm.loaded() && !dialogs_.open();
+}
+
+void Links::readTextsAgain() { core_.playback_.load.readTextsAgain(); }
+
+}  // namespace orvanta

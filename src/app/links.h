@@ -1,0 +1,70 @@
+// What the rooms ask of those above them, and who does it.
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "cddb/upward.h"
+#include "faceplate/upward.h"
+#include "library/upward.h"
+#include "platform/ports/clock.h"
+#include "playback/upward.h"
+
+namespace orvanta {
+
+class Dialogs;
+class Orvanta;
+
+class Links : public PlaybackUpward, public FaceplateUpward, public LibraryUpward, public CddbUpward {
+ public:
+  Links(Orvanta& core, Clock& clock, const Dialogs& dialogs) : core_(core), clock_(clock), dialogs_(dialogs) {}
+
+  // The door, discs and processes.
+  void openDrawer() override;
+  void closeDrawer() override;
+  void showNoDisc() override;
+  void restartForDisc() override;
+  /// A restart closes the window's data: it waits until the user has closed them.
+  void restartWhenFree();
+  bool restartWaits() const override;
+  void runSetup() override;
+  void record() override;
+  void exitProgram() override;
+  void exitWhenFree() override;
+  void afterTick() override;
+
+  // Windows.
+  void showFaceplate() override;
+  void hideFaceplate() override;
+  void showCdData() override;
+  void showPlaylist() override;
+  void showTrackList() override;
+  void closeTrackList() override;
+  void closeDiscWindows() override;
+
+  // The CDDB.
+  void openCddb() override;
+  void automaticLookup() override;
+  void submitToCddb() override;
+  bool mailSenderKnown() const override;
+  bool lookupMayStart() const override;
+  void readTextsAgain() override;
+
+  // Windows and programs that are still to come aboard; their keys do nothing yet.
+  void showHelp(int /*topic*/) override {}
+  void showMenu() override {}
+  void launchEnhancedDisc() override {}
+  void lookForLyrics() override {}
+  void showPage(const std::string& /*address*/) override {}
+
+ private:
+  void exitIfWanted();
+
+  Orvanta& core_;
+  Clock& clock_;
+  const Dialogs& dialogs_;
+  bool exitWanted_ = false;
+  std::unique_ptr<Timer> restartLater_;
+};
+
+}  // namespace orvanta

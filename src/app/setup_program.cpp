@@ -1,0 +1,34 @@
+// To the setup and back.
+#include "app/setup_program.h"
+
+#include "base/text.h"
+#include "platform/ports/dialogs.h"
+#include "platform/ports/processes.h"
+#include "state/settings_files.h"
+
+namespace orvanta {
+
+void SetupProgram::run() {
+  form_.minimised = true;
+  const Settings& settings = state_.settings;
+  ProcessRequest request{{joinPath(state_.process.windowsDir, "orvsetup"), "ACTIVELX"}, settings.appDir, WindowStyle::Normal};
+  if (startUp_.dataFolderGiven()) request.arguments.insert(request.arguments.end(), {"--data", settings.appDir});
+  const int how = ports_.processes.runAndWait(request);
+  takeUp();
+  form_.minimised = false;
+  if (how < 0) ports_.dialogs.message(BoxStyle::Warning, "Orvanta", "The setup program " + request.arguments[0] + " could not be run.");
+}
+
+void SetupProgram::takeUp() {
+  Settings& settings = state_.settings;
+  for (const auto file : {SettingsFile::Orvwin1, SettingsFile::Orvwin3, SettingsFile::Orvwin4, SettingsFile::Orvwin7}) {
+    readSettings(file, ports_.files, settings.appDir, settings);
+  }
+  faceplate_.colours.loadorvanta1();
+  faceplate_.colours.loadorvanta1b();
+  if (settings.smallFaceplate != kOn) faceplate_.layout.sizeLarge();
+  faceplate_.volume.activate();
+  if (!state_.disc.asleep()) faceplate_.colours.loadorvanta1a();
+}
+
+}  // namespace orvanta

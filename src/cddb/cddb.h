@@ -1,0 +1,28 @@
+// The room of the CDDB: looking a disc up, and submitting it.
+#pragma once
+
+#include "cddb/cddb_window.h"
+#include "cddb/mail_window.h"
+#include "cddb/submitter.h"
+
+namespace orvanta {
+
+/// Its windows.
+struct CddbForms {
+  cddbmain& online;
+  cddbcatg& category;
+  cddbmail& mail;
+};
+
+struct Cddb {
+  Cddb(Ports& ports, CdData& cdData, acdtabs& editor, const CddbForms& forms, CDForm& faceplate, SharedState& state, CddbUpward& upward)
+      : window(ports, cdData, editor, forms.online, faceplate, state, upward),
+        mail(ports, editor, forms.mail),
+        submitter(ports, cdData, window, mail, editor, forms.category, state) {}
+
+  CddbWindow window;
+  MailWindow mail;
+  Submitter submitter;
+};
+
+}  // namespace orvanta

@@ -1,0 +1,90 @@
+// Mouse, wheel and window.
+#include "faceplate/faceplate_events.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+#include "faceplate/routes.h"
+
+namespace orvanta {
+
+namespace {
+
+constexpr int kDragStarts = 60;  ///< twips that a hand moves before the window follows it
+
+}  // namespace
+
+FaceplateEvents::FaceplateEvents(FaceplateLoad& load, Actions& actions, Keyboard& keyboard, Volume& volume, Layout& layout,
+                                 Position& position, DiscChoice& choice, TaskTitle& title, CDForm& form, const SharedState& state)
+    : load_(load),
+      actions_(actions),
+      keyboard_(keyboard),
+      volume_(volume),
+      layout_(layout),
+      position_(position),
+      choice_(choice),
+      title_(title),
+      look_(form, state),
+      form_(form) {
+  form.setEvents(this);
+}
+
+void FaceplateEvents::mouseDown(forms::Control* control, const forms::Mouse& mouse) {
+  if (control != nullptr && volume_.mouseDown(*control, mouse)) return;
+  if (mouse.button != forms::MouseButton::Left) return;
+  if (control == nullptr || control == &form_.Image8) {
+    grip_ = mouse;
+    return;
+  }
+  look_.down(*control);
+  if (const auto route = routeOf(*control)) actions_.press(route->action);
+}
+
+/// The window is dragged only once the mouse moves, so that a click, or two, leaves it where it is.
+void FaceplateEvents::mouseMove(forms::Control* control, const forms::Mouse& mouse) {
+  if (grip_ && std::max(std::abs(mouse.x - grip_->x), std::abs(mouse.y - grip_->y)) >= kDragStarts) {
+    grip_.reset();
+    if (form_.view() != nullptr) form_.view()->drag();
+    return;
+  }
+  if (control != nullptr && form_.pressed() == control) volume_.mouseMove(*control, mouse);
+}
+
+void FaceplateEvents::mouseUp(forms::Control* control, const forms::Mouse& mouse) {
+  look_.up();
+  grip_.reset();
+  if (control == nullptr || volume_.mouseUp(*control)) return;
+  const bool right = mouse.button == forms::MouseButton::Right;
+  const auto route = right ? rightRouteOf(*control) : routeOf(*control);
+  if (!route) return;
+  if (!mouse.over) {
+    // Whoever thinks better of a press slides off the key.
+    actions_.letGo(route->action);
+  } else {
+    actions_.release(route->action, route->action == Action::Seek ? mouse.x : route->argument);
+  }
+}
+
+/// The wheel moves a slider, and the place on the bar.
+void FaceplateEvents::wheel(forms::Control& control, int notches) {
+  constexpr int kStep = 5;  // percent of the track
+  if (volume_.step(control, notches) || &control != &form_.CDStatusBar) return;
+  const int percent = form_.CDStatusBar.floodPercent + notches * kStep;
+  if (percent <= 0 || percent >= 100) return;
+  actions_.run(Action::Seek, By::Person, form_.CDStatusBar.width * percent / 100 + kBarMargin);
+}
+
+void FaceplateEvents::textChanged(forms::Control& control) {
+  if (&control == &form_.Label12) layout_.layTitles();
+}
+
+void FaceplateEvents::doubleClick(forms::Control* control) {
+  if (control != nullptr && control != &form_.Image8) return;
+  // The window has moved away under the hand: what is held of it is no drag.
+  grip_.reset();
+  position_.Form_DblClick();
+}
+
+void FaceplateEvents::dragged() { position_.saveposn1(); }
+
+}  // namespace orvanta

@@ -1,0 +1,51 @@
+// The road from the faceplate's events to what they mean: acts, sliders, the window's own place.
+#pragma once
+
+#include <optional>
+
+#include "faceplate/actions.h"
+#include "faceplate/faceplate_load.h"
+#include "faceplate/keyboard.h"
+#include "faceplate/position.h"
+#include "faceplate/pressed_look.h"
+#include "faceplate/task_title.h"
+#include "platform/forms/form.h"
+
+namespace orvanta {
+
+class FaceplateEvents : public forms::FormEvents {
+ public:
+  FaceplateEvents(FaceplateLoad& load, Actions& actions, Keyboard& keyboard, Volume& volume, Layout& layout, Position& position,
+                  DiscChoice& choice, TaskTitle& title, CDForm& form, const SharedState& state);
+
+  void load() override { load_.load(); }
+  void activate() override { load_.activate(); }
+  void unload() override { load_.unload(); }
+  void mouseDown(forms::Control* control, const forms::Mouse& mouse) override;
+  void mouseMove(forms::Control* control, const forms::Mouse& mouse) override;
+  void mouseUp(forms::Control* control, const forms::Mouse& mouse) override;
+  void wheel(forms::Control& control, int notches) override;
+  void textChanged(forms::Control& control) override;
+  void doubleClick(forms::Control* control) override;
+  void dragged() override;
+  bool keyDown(const forms::KeyPress& key) override { return keyboard_.keyDown(key); }
+  bool takesFile(const std::string& path) const override { return choice_.takesFile(path); }
+  void fileDropped(const std::string& path) override { choice_.offer(path); }
+  void minimisedChanged() override { title_.follow(); }
+  void closeAsked() override { actions_.run(Action::Exit, By::Program); }
+
+ private:
+  FaceplateLoad& load_;
+  Actions& actions_;
+  Keyboard& keyboard_;
+  Volume& volume_;
+  Layout& layout_;
+  Position& position_;
+  DiscChoice& choice_;
+  TaskTitle& title_;
+  PressedLook look_;
+  CDForm& form_;
+  std::optional<forms::Mouse> grip_;  ///< where the metal was taken hold of
+};
+
+}  // namespace orvanta

@@ -1,0 +1,113 @@
+// From a window's data to a deck with its disc on the display.
+#include "faceplate/faceplate_load.h"
+
+#include <algorithm>
+
+#include "base/text.h"
+#include "platform/ports/cd_device.h"
+#include "platform/ports/files.h"
+#include "state/marker_files.h"
+#include "state/settings_files.h"
+
+namespace orvanta {
+
+namespace {
+
+/// Tells the sibling programs that a player runs. A load that ends the process, since another one holds the drive,
+/// takes it away again.
+class RunningMarker {
+ public:
+  RunningMarker(Files& files, const std::string& folder) : files_(files), folder_(folder) { setMarker(files_, folder_, kRunningMarker); }
+  RunningMarker(const RunningMarker&) = delete;
+  RunningMarker& operator=(const RunningMarker&) = delete;
+  ~RunningMarker() {
+    if (!stays_) clearMarker(files_, folder_, kRunningMarker);
+  }
+  void stays() { stays_ = true; }
+
+ private:
+  Files& files_;
+  const std::string& folder_;
+  bool stays_ = false;
+};
+
+}  // namespace
+
+FaceplateLoad::FaceplateLoad(const FaceplatePorts& ports, Playback& playback, DisplayColours& colours, Layout& layout, Volume& volume,
+                             InterfaceSounds& sounds, CDForm& form, SharedState& state)
+    : device_(ports.device),
+      files_(ports.files),
+      playback_(playback),
+      colours_(colours),
+      layout_(layout),
+      volume_(volume),
+      sounds_(sounds),
+      form_(form),
+      state_(state) {}
+
+void FaceplateLoad::load() {
+  if (state_.process.commandWord == "RUNRIPPER") form_.minimised = true;
+  RunningMarker marker(files_, state_.settings.appDir);
+  state_.clearForLoad();
+  form_.firstStop = &form_.icntla[Play];
+  // The title lines are laid out by what they hold.
+  form_.Label12.tellsText = true;
+  colours_.loadorvanta1();
+  if (state_.process.colourCount < kFewColours) {
+    form_.Panel3D2.backColor = form_.Panel3D3.backColor = 0x400000;
+    form_.backColor = 0x400000;
+  }
+  layout_.apply();
+  playback_.looks.reset();
+  const bool disc = playback_.load.probe();
+  setPlayState();
+  colours_.loadorvanta1a();
+  if (disc && device_.mode() == DeviceMode::Playing) {
+    playback_.load.deferredTable();
+    playback_.engine.adoptRunningDisc();
+  }
+  if (disc && leadingNumber(state_.process.commandWord) > 0) {
+    playTrackOfCommandLine();
+  } else if (state_.settings.appOptions[3] == 1) {
+    sounds_.runMixerAtStart();
+  }
+  playback_.start();
+  marker.stays();
+}
+
+void FaceplateLoad::playTrackOfCommandLine() {
+  const auto track = static_cast<int16_t>(leadingNumber(state_.process.commandWord));
+  state_.process.commandWord.clear();
+  state_.process.autoStartMode = kOff;
+  if (track > state_.disc.trackCount) return;
+  state_.disc.discSum = playback_.layer.sumOfTracks();
+  playback_.load.deferredTable();
+  state_.transport.selTrack = static_cast<int16_t>(track - 1);
+  playback_.engine.jump();
+}
+
+void FaceplateLoad::setPlayState() {
+  state_.transport.playMode = Cont;
+  state_.program.pgmList.fill(0);
+  state_.transport.trackGo = 1;
+  state_.transport.curTrack = 1;
+  state_.disc.discStarted = kOff;
+  state_.disc.lampCount = std::min<int16_t>(state_.disc.trackCount, 20);
+  state_.disc.discLoaded = state_.disc.trackCount > 0 ? kOn : kOff;
+}
+
+void FaceplateLoad::activate() {
+  volume_.activate();
+  colours_.loadorvanta1b();
+  if (state_.disc.noDiscState == 0) return;
+  colours_.disabledLook();
+  playback_.looks.show(DeckState::NoDisc);
+}
+
+void FaceplateLoad::unload() {
+  writeSettings(SettingsFile::SettingsDat, files_, state_.settings.appDir, state_.settings);
+  state_.disc.trackTableDone = kOff;
+  clearMarker(files_, state_.settings.appDir, kRunningMarker);
+}
+
+}  // namespace orvanta

@@ -1,0 +1,76 @@
+// Keys and the acts that they stand for.
+#include "faceplate/keyboard.h"
+
+#include <algorithm>
+
+namespace orvanta {
+
+namespace {
+
+struct KeyRow {
+  int code;
+  Action action;
+  bool repeats = false;  ///< held, it goes on; a toggle would flap
+};
+
+using forms::key::kEscape;
+using forms::key::kF1;
+using forms::key::kHelp;
+
+constexpr KeyRow kKeys[] = {
+    {'A', Action::Previous},
+    {'S', Action::Next},
+    {'D', Action::Play},
+    {'F', Action::Pause},
+    {'G', Action::Stop},
+    {'H', Action::Record},
+    {'J', Action::Eject},
+    {'L', Action::CdData},
+    {'M', Action::Mixer},
+    {'N', Action::EnhancedDisc},
+    {'R', Action::Repeat},
+    {'E', Action::Shuffle},
+    {'T', Action::TimeMode},
+    {'W', Action::AbLoop},
+    {'Y', Action::NextMode},
+    {'I', Action::TrackList},
+    {kEscape, Action::Exit},
+    {kF1, Action::Help},
+    {kHelp, Action::Help},
+    {kF1 + 1, Action::Menu},
+    {kF1 + 3, Action::Mute},
+    {kF1 + 4, Action::Louder, true},
+    {kF1 + 5, Action::Softer, true},
+    {kF1 + 6, Action::Playlist},
+};
+
+}  // namespace
+
+bool Keyboard::keyDown(const forms::KeyPress& key) {
+  const auto* row = std::find_if(std::begin(kKeys), std::end(kKeys), [&](const KeyRow& each) { return each.code == key.code; });
+  const bool known = row != std::end(kKeys);
+  if (key.repeats && !(known && row->repeats)) return sliderKey(key);
+  if (!key.control && !key.alt) {
+    // A deck that wants a disc asks for it, whatever else is open.
+    const bool asks = known && row->action == Action::Eject && actions_.enabled(Action::PutIn);
+    if (entry_.open() && !asks) return entry_.keyDown(key);
+    if (known) {
+      actions_.run(row->action);
+      return true;
+    }
+  }
+  return sliderKey(key);
+}
+
+/// Arrows move the slider that has the focus. It is no key: Space and ENTER leave it where it stands.
+bool Keyboard::sliderKey(const forms::KeyPress& key) {
+  const forms::Control* focus = form_.activeControl();
+  if (focus == nullptr) return false;
+  const bool press = key.code == forms::key::kSpace || key.code == forms::key::kEnter;
+  if (press) return focus->with(forms::Role::Percent) != nullptr;
+  const bool up = key.code == forms::key::kUp || key.code == forms::key::kRight;
+  const bool down = key.code == forms::key::kDown || key.code == forms::key::kLeft;
+  return (up || down) && volume_.step(*focus, up ? 1 : -1);
+}
+
+}  // namespace orvanta

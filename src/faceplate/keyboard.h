@@ -1,0 +1,27 @@
+// The keyboard of the faceplate: its table of keys, arrows on a slider, and the entry of a track above twenty.
+#pragma once
+
+#include "faceplate/actions.h"
+#include "faceplate/track_entry.h"
+#include "platform/forms/input.h"
+
+namespace orvanta {
+
+class Keyboard {
+ public:
+  Keyboard(Actions& actions, TrackEntry& entry, Volume& volume, CDForm& form)
+      : actions_(actions), entry_(entry), volume_(volume), form_(form) {}
+
+  /// True when the key is used.
+  bool keyDown(const forms::KeyPress& key);
+
+ private:
+  bool sliderKey(const forms::KeyPress& key);
+
+  Actions& actions_;
+  TrackEntry& entry_;
+  Volume& volume_;
+  CDForm& form_;
+};
+
+}  // namespace orvanta

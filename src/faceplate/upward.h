@@ -1,0 +1,26 @@
+// What the faceplate asks of the layers above it: windows and the ways out of the program.
+#pragma once
+
+namespace orvanta {
+
+class FaceplateUpward {
+ public:
+  virtual ~FaceplateUpward() = default;
+  virtual void showHelp(int topic) = 0;
+  virtual void showMenu() = 0;
+  virtual void showCdData() = 0;
+  virtual void showPlaylist() = 0;
+  virtual void showTrackList() = 0;
+  virtual void closeTrackList() = 0;
+  virtual void launchEnhancedDisc() = 0;
+  /// Hands the disc to the recorder.
+  virtual void record() = 0;
+  /// The power button: saves, stops and ends the process. Comes back when the user would rather keep what was typed.
+  virtual void exitProgram() = 0;
+  /// The same without a question, as soon as no window or box of the user's stands.
+  virtual void exitWhenFree() = 0;
+  /// A window or a box of the user's stands: another process cannot take over yet.
+  virtual bool restartWaits() const = 0;
+};
+
+}  // namespace orvanta

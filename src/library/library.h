@@ -1,0 +1,39 @@
+// The room of a disc's texts: CD Data, playlist and CD Info.
+#pragma once
+
+#include "library/cd_data.h"
+#include "library/cd_info.h"
+#include "library/genres.h"
+#include "library/html_export.h"
+#include "library/playlist.h"
+#include "library/print_record.h"
+#include "playback/playback.h"
+
+namespace orvanta {
+
+/// Its windows.
+struct LibraryForms {
+  acdtabs& editor;
+  cdplist& playlist;
+  cdartext& info;
+};
+
+struct Library {
+  Library(const LibraryPorts& ports, Playback& playback, const LibraryForms& forms, CDForm& faceplate, SharedState& state,
+          LibraryUpward& upward)
+      : genres(ports.files, ports.dialogs, state),
+        html(ports.files, ports.dialogs, forms.editor, state.settings),
+        print(ports.printer, forms.editor),
+        cdData(ports, {genres, html, print, playback.display}, forms.editor, faceplate, state, upward),
+        playlist(ports, playback.engine, playback.modes, playback.display, forms.playlist, faceplate, state),
+        info(ports, playback.engine, playback.modes, forms.info, faceplate, state, upward) {}
+
+  Genres genres;
+  HtmlExport html;
+  RecordPrint print;
+  CdData cdData;
+  Playlist playlist;
+  CdInfo info;
+};
+
+}  // namespace orvanta

@@ -1,0 +1,43 @@
+// The room that plays: from the device to the display and the keys.
+#pragma once
+
+#include "playback/deck_status.h"
+#include "playback/disc_watch.h"
+#include "playback/ticks.h"
+
+namespace orvanta {
+
+struct Playback {
+  Playback(const PlaybackPorts& ports, CDForm& form, SharedState& state, PlaybackUpward& upward)
+      : display(form, state),
+        looks(ports.clock, form, state.settings),
+        layer(ports.device, ports.dialogs, state.disc),
+        load(ports, layer, display, looks, form, state, upward),
+        engine(ports, layer, display, looks, form, state, upward),
+        modes(ports, engine, display, looks, form, state),
+        time(ports.device, layer, engine, display, state),
+        answers(ports, engine, state),
+        ticks(ports, load, engine, modes, time, answers, display, form, state, upward),
+        watch(ports, engine, modes, answers, display, form, state, upward),
+        status(engine, form, state) {}
+
+  /// From the faceplate's load on.
+  void start() {
+    ticks.start();
+    watch.start();
+  }
+
+  Display display;
+  KeyLooks looks;
+  DeviceLayer layer;
+  DiscLoad load;
+  Engine engine;
+  Modes modes;
+  TrackTime time;
+  TrayAnswers answers;
+  Ticks ticks;
+  DiscWatch watch;
+  StatusBoard status;
+};
+
+}  // namespace orvanta

@@ -1,0 +1,46 @@
+// The 100 ms tick: what the play does while nobody touches it.
+#pragma once
+
+#include <memory>
+
+#include "platform/ports/clock.h"
+#include "playback/disc_load.h"
+#include "playback/modes.h"
+#include "playback/ports.h"
+#include "playback/track_time.h"
+#include "playback/tray_answers.h"
+
+namespace orvanta {
+
+class Ticks {
+ public:
+  Ticks(const PlaybackPorts& ports, DiscLoad& load, Engine& engine, Modes& modes, TrackTime& time, TrayAnswers& answers, Display& display,
+        CDForm& form, SharedState& state, PlaybackUpward& upward);
+
+  /// From the faceplate's load on.
+  void start();
+  void timer2_timer();
+
+  static constexpr int kTimer2Interval = 100;  ///< milliseconds
+
+ private:
+  void tick();
+  void scanStep();
+  void startOfNewTrack();
+  void autoStart();
+
+  Clock& clock_;
+  Screen& screen_;
+  DiscLoad& load_;
+  Engine& engine_;
+  Modes& modes_;
+  TrackTime& time_;
+  TrayAnswers& answers_;
+  Display& display_;
+  CDForm& form_;
+  SharedState& state_;
+  PlaybackUpward& upward_;
+  std::unique_ptr<Timer> timer2_;
+};
+
+}  // namespace orvanta

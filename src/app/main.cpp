@@ -46,15 +46,50 @@ constexpr int kLockTime = 3000;   ///< milliseconds for another player to let go
 constexpr int kDiscTime = 10000;  ///< for a drive to tell a disc that this process was started for
 constexpr int kFarewell = 500;
 
+/// What there is before any window: files and processes, where data and drive lie, the socket of second starts.
+struct Host {
+  explicit Host(const Options& options)
+      : system(options.handedOn()),
+        places(findPlaces(options)),
+        folder(HostFiles::actual(places.dataDir)),
+        socket(socketPath("deck", identityOf(folder))),
+        server(socket, folder) {}
+
+  /// "" without a data folder.
+  std::string inData(const char* name) const { return places.dataDir.empty() ? "" : joinPath(places.dataDir, name); }
+
+  Signals wishes;
+  HostFiles files;
+  HostProcesses processes;
+  HostSystem system;
+  Places places;
+  std::string folder;
+  std::string socket;
+  SocketServer server;
+
+ private:
+  Places findPlaces(const Options& options) {
+    if (options.host.dataDir.empty()) setUpFirstStart(files, processes, system);
+    Places found = placesOf(options.host, files, system.systemDir());
+    if (!options.host.dataDir.empty()) files.makeFolder(found.dataDir);
+    return found;
+  }
+};
+
 /// A second start goes to the deck that listens for its data folder. nullopt: there is none, and `server` listens now;
 /// else the code that this process ends with.
-std::optional<int> handedToFirst(SocketServer& server, const std::string& socket, const SecondStart& start) {
+std::optional<int> handedToFirst(const Options& options, Host& host) {
+  // A program on the command line is run in place of a deck, whether or not one is there.
+  const std::string& words = options.host.words;
+  const bool forProgram = classify(words).kind == CommandLine::Kind::Program && host.files.exists(words);
+  if (options.takeOver || forProgram) return std::nullopt;
+  const std::string line = lineOf({options.disc, options.host.drive, words});
   constexpr int kReply = 5000;  // milliseconds
   constexpr int kTries = 100;
   constexpr auto kPause = std::chrono::milliseconds(50);
   for (int tries = 0; tries < kTries; ++tries) {
-    if (server.listen()) return std::nullopt;
-    const Asked asked = askWhoListens(socket, lineOf(start), kReply);
+    if (host.server.listen()) return std::nullopt;
+    const Asked asked = askWhoListens(host.socket, line, kReply);
     if (asked.delivered && !asked.reply) std::fputs("orvanlx: the deck that runs is busy; it takes this start up when it can\n", stderr);
     if (asked.delivered) return 0;
     // It has just started, or is about to end.
@@ -64,25 +99,103 @@ std::optional<int> handedToFirst(SocketServer& server, const std::string& socket
   return 1;
 }
 
+/// The drive that the settings name, and its player. Their thread reads the disc while Qt starts.
+struct Drive {
+  Drive(const Options& options, const Host& host)
+      : path(host.places.drive),
+        real(isDevice(path)),
+        memory(host.inData("tray.dat")),
+        audio(options.audio),
+        images(real ? nullptr : std::make_unique<ImageDrive>(path, options.disc, memory)),
+        discs(real ? std::make_unique<CdromDrive>(kernelCdrom(path)) : nullptr),
+        sound(makeSound(audio)),
+        player(std::make_unique<Player>(real ? static_cast<DiscSource&>(*discs) : *images, *sound.outputs)) {
+    // A drive of real discs says that it takes no images, by the road of all answers.
+    if (real && !options.disc.empty()) player->offer(options.disc);
+  }
+
+  /// A disc that plays on from the last time is taken over where it is. `takeOver`: this process was started for a disc.
+  void takeUp(bool takeOver) {
+    const auto rest = takeBack(path);
+    if (takeOver) {
+      player->waitForDisc(kLockTime, kDiscTime);
+    } else {
+      player->waitUntilKnown(kLockTime);
+    }
+    if (rest && player->holder() == Holder::Us && rest->to <= player->toc().leadOut) player->play(rest->from, rest->to);
+  }
+
+  /// What still plays is handed to a player without a window. False for a drive that hangs.
+  bool leave(const Host& host) {
+    if (player->state() == PlayState::Playing) {
+      handOn(*player, player->playEnd(), path, joinPath(host.system.windowsDir(), "orvplayon"),
+             {path, memory, audio, host.inData("level.dat")});
+    }
+    return player->finish(kFarewell);
+  }
+
+  std::string path;
+  bool real;
+  std::string memory;
+  std::string audio;
+  std::unique_ptr<ImageDrive> images;
+  std::unique_ptr<CdromDrive> discs;
+  SoundSetup sound;
+  std::unique_ptr<Player> player;
+};
+
+/// The adapters that need Qt, and the core over them all.
+struct Deck {
+  Deck(const Options& options, Host& host, Drive& drive)
+      : scale{options.scale > 0 ? options.scale : QtScreen::desktopFactor(), kTwipsPerPixel},
+        device(*drive.player, clock),
+        tray(*drive.player, drive.real ? "" : drive.path),
+        volume(drive.player->level(), host.files, clock, host.inData("level.dat")),
+        deckSound(makeSound(options.audio == "default" ? options.audio : "null")),
+        ports{device, tray, clock, dialogs, host.files, host.processes, screen, host.system, volume, mixer, sounds, printer, net, desktop},
+        orvanta(std::make_unique<Orvanta>(ports)) {
+    gate.setOnEnd([] { QApplication::exit(0); });
+    host.processes.setYield([this] { clock.yield(); });
+  }
+
+  CoreGate gate;
+  Scale scale;
+  QtClock clock{gate};
+  QtScreen screen{scale};
+  QtDialogs dialogs{gate, screen};
+  QtDesktop desktop{gate, scale};
+  LatePrinter printer{gate};
+  LateNet net{gate};
+  MciDevice device;
+  DriveTray tray;
+  StreamVolume volume;
+  std::unique_ptr<MasterVolume> master = systemMasterVolume();
+  MixerStandIn mixer{*master};
+  SoundSetup deckSound;
+  WavePlayer sounds{*deckSound.outputs, [] { QApplication::beep(); }};
+  Ports ports;
+  std::unique_ptr<Orvanta> orvanta;
+};
+
 /// What second starts and the setup program ask of this deck.
-void serve(SocketServer& server, CoreGate& gate, Orvanta& orvanta) {
+void serve(SocketServer& server, Deck& deck) {
   while (const auto request = server.next()) {
     const auto start = secondStartOf(request->line);
     SocketServer::reply(*request, start || request->line == kSettingsChanged ? "ok" : "no");
-    gate.enter([&] {
-      if (start) orvanta.secondStart(*start);
-      if (request->line == kSettingsChanged) orvanta.takeUpSettings();
+    deck.gate.enter([&] {
+      if (start) deck.orvanta->secondStart(*start);
+      if (request->line == kSettingsChanged) deck.orvanta->takeUpSettings();
     });
   }
 }
 
 /// The signals that end a program end it as its exit does; children that have ended are let go of.
-void serveSignals(Signals& wishes, const HostProcesses& processes, CoreGate& gate, Orvanta& orvanta) {
-  for (auto what = wishes.next(); what != Signals::What::None; what = wishes.next()) {
+void serveSignals(Host& host, Deck& deck) {
+  for (auto what = host.wishes.next(); what != Signals::What::None; what = host.wishes.next()) {
     if (what == Signals::What::End) {
-      gate.enter([&] { orvanta.endOfSession(); });
+      deck.gate.enter([&] { deck.orvanta->endOfSession(); });
     } else {
-      processes.reap();
+      host.processes.reap();
     }
   }
 }
@@ -97,115 +210,80 @@ void prepareQt() {
   qputenv("QT_ENABLE_HIGHDPI_SCALING", "0");
 }
 
-int run(int argc, char** argv) {
-  const Options options = readOptions({argv + 1, argv + argc}, std::filesystem::current_path().string());
+/// Listens for second starts. The deck that made way for this one may still do so for a moment.
+class Listener {
+ public:
+  Listener(SocketServer& server, Deck& deck) : server_(server), deck_(deck) {
+    constexpr int kListenAgain = 100;  // milliseconds
+    QObject::connect(&again_, &QTimer::timeout, [this] { listen(); });
+    again_.start(kListenAgain);
+  }
+
+ private:
+  void listen() {
+    if (!server_.listen()) return;
+    again_.stop();
+    notifier_ = std::make_unique<QSocketNotifier>(server_.fd(), QSocketNotifier::Read);
+    QObject::connect(notifier_.get(), &QSocketNotifier::activated, [this] { serve(server_, deck_); });
+    serve(server_, deck_);
+  }
+
+  SocketServer& server_;
+  Deck& deck_;
+  QTimer again_;
+  std::unique_ptr<QSocketNotifier> notifier_;
+};
+
+/// What is said instead of a start; nullopt for one.
+std::optional<int> answered(const Options& options) {
   if (!options.error.empty()) {
     std::fprintf(stderr, "orvanlx: not understood: %s\n%s", options.error.c_str(), helpText().c_str());
     return 2;
   }
   if (options.help) return std::fputs(helpText().c_str(), stdout) < 0 ? 1 : 0;
   if (options.version) return std::fputs("Orvanta LX " ORVANTA_VERSION "\n" ORVANTA_LICENCES, stdout) < 0 ? 1 : 0;
+  return std::nullopt;
+}
 
-  Signals wishes;
-  HostFiles files;
-  HostProcesses processes;
-  HostSystem system(options.handedOn());
-  if (options.host.dataDir.empty()) setUpFirstStart(files, processes, system);
-  // The drive's thread reads the disc while Qt starts.
-  const auto [data, path] = placesOf(options.host, files, system.systemDir());
-  const bool real = isDevice(path);
-  if (!options.host.dataDir.empty()) files.makeFolder(data);
-  const std::string folder = HostFiles::actual(data);
-  const std::string socket = socketPath("deck", identityOf(folder));
-  SocketServer server(socket, folder);
-  // A program on the command line is run in place of a deck, whether or not one is there.
-  const bool forProgram = classify(options.host.words).kind == CommandLine::Kind::Program && files.exists(options.host.words);
-  if (!options.takeOver && !forProgram) {
-    const auto code = handedToFirst(server, socket, {options.disc, options.host.drive, options.host.words});
-    if (code) return *code;
-  }
-  const std::string memory = data.empty() ? "" : joinPath(data, "tray.dat");
-  auto images = real ? nullptr : std::make_unique<ImageDrive>(path, options.disc, memory);
-  auto discs = real ? std::make_unique<CdromDrive>(kernelCdrom(path)) : nullptr;
-  DiscSource& drive = real ? static_cast<DiscSource&>(*discs) : *images;
-  const SoundSetup sound = makeSound(options.audio);
-  auto player = std::make_unique<Player>(drive, *sound.outputs);
-  // A drive of real discs says that it takes no images, by the road of all answers.
-  if (real && !options.disc.empty()) player->offer(options.disc);
+/// From the start-up form to the end of the loop.
+int live(QApplication& application, const Options& options, Host& host, Drive& drive) {
+  Deck deck(options, host, drive);
+  QSocketNotifier signalled(host.wishes.fd(), QSocketNotifier::Read);
+  QObject::connect(&signalled, &QSocketNotifier::activated, [&] { serveSignals(host, deck); });
+  QObject::connect(
+      &application, &QGuiApplication::commitDataRequest, &application, [&] { deck.gate.enter([&] { deck.orvanta->endOfSession(); }); },
+      Qt::DirectConnection);
 
+  // The start-up form first: it takes the hand-over file away, upon which a process that made way for
+  // this one lets go of the drive.
+  deck.gate.enter([&] { deck.orvanta->startUp(options.host); });
+  if (!deck.gate.ended()) drive.takeUp(options.takeOver);
+  deck.gate.enter([&] { deck.orvanta->showFaceplate(); });
+  const Listener listener(host.server, deck);
+  lastWill = [&] { deck.gate.enter([&] { deck.orvanta->displayGone(); }); };
+  std::atexit([] {
+    if (lastWill) lastWill();
+  });
+  const int code = deck.gate.ended() ? 0 : QApplication::exec();
+  lastWill = nullptr;
+  deck.volume.keep();
+  // A drive that hangs must not hold up the end.
+  if (!drive.leave(host)) std::_Exit(code);
+  return code;
+}
+
+int run(int argc, char** argv) {
+  const Options options = readOptions({argv + 1, argv + argc}, std::filesystem::current_path().string());
+  if (const auto code = answered(options)) return *code;
+  Host host(options);
+  if (const auto code = handedToFirst(options, host)) return *code;
+  Drive drive(options, host);
   prepareQt();
   Fonts::warmUp();
   QApplication application(argc, argv);
   QApplication::setApplicationName(QStringLiteral("Orvanta LX"));
   QApplication::setQuitOnLastWindowClosed(false);
-
-  CoreGate gate;
-  gate.setOnEnd([] { QApplication::exit(0); });
-  const Scale scale{options.scale > 0 ? options.scale : QtScreen::desktopFactor(), kTwipsPerPixel};
-  QtClock clock(gate);
-  QtScreen screen(scale);
-  QtDialogs dialogs(gate, screen);
-  QtDesktop desktop(gate, scale);
-  processes.setYield([&clock] { clock.yield(); });
-  LatePrinter printer(gate);
-  LateNet net(gate);
-  MciDevice device(*player, clock);
-  DriveTray tray(*player, real ? "" : path);
-  const std::string level = data.empty() ? "" : joinPath(data, "level.dat");
-  StreamVolume volume(player->level(), files, clock, level);
-  const auto master = systemMasterVolume();
-  MixerStandIn mixer(*master);
-  const SoundSetup deckSound = makeSound(options.audio == "default" ? options.audio : "null");
-  WavePlayer sounds(*deckSound.outputs, [] { QApplication::beep(); });
-  Ports ports{device, tray, clock, dialogs, files, processes, screen, system, volume, mixer, sounds, printer, net, desktop};
-  auto orvanta = std::make_unique<Orvanta>(ports);
-
-  QSocketNotifier signalled(wishes.fd(), QSocketNotifier::Read);
-  QObject::connect(&signalled, &QSocketNotifier::activated, [&] { serveSignals(wishes, processes, gate, *orvanta); });
-  QObject::connect(
-      &application, &QGuiApplication::commitDataRequest, &application, [&] { gate.enter([&] { orvanta->endOfSession(); }); },
-      Qt::DirectConnection);
-
-  // The start-up form first: it takes the hand-over file away, upon which a process that made way for
-  // this one lets go of the drive.
-  gate.enter([&] { orvanta->startUp(options.host); });
-  if (!gate.ended()) {
-    // A disc that plays on from the last time is taken over where it is.
-    const auto rest = takeBack(path);
-    if (options.takeOver) {
-      player->waitForDisc(kLockTime, kDiscTime);
-    } else {
-      player->waitUntilKnown(kLockTime);
-    }
-    if (rest && player->holder() == Holder::Us && rest->to <= player->toc().leadOut) player->play(rest->from, rest->to);
-  }
-  gate.enter([&] { orvanta->showFaceplate(); });
-  // The deck that made way for this one may still listen for a moment.
-  std::unique_ptr<QSocketNotifier> notifier;
-  QTimer listens;
-  const auto listen = [&] {
-    if (!server.listen()) return;
-    listens.stop();
-    notifier = std::make_unique<QSocketNotifier>(server.fd(), QSocketNotifier::Read);
-    QObject::connect(notifier.get(), &QSocketNotifier::activated, [&] { serve(server, gate, *orvanta); });
-    serve(server, gate, *orvanta);
-  };
-  QObject::connect(&listens, &QTimer::timeout, listen);
-  constexpr int kListenAgain = 100;  // milliseconds
-  listens.start(kListenAgain);
-  lastWill = [&] { gate.enter([&] { orvanta->displayGone(); }); };
-  std::atexit([] {
-    if (lastWill) lastWill();
-  });
-  const int code = gate.ended() ? 0 : QApplication::exec();
-  lastWill = nullptr;
-  volume.keep();
-  if (player->state() == PlayState::Playing) {
-    handOn(*player, player->playEnd(), path, joinPath(system.windowsDir(), "orvplayon"), {path, memory, options.audio, level});
-  }
-  // A drive that hangs must not hold up the end.
-  if (!player->finish(kFarewell)) std::_Exit(code);
-  return code;
+  return live(application, options, host, drive);
 }
 
 }  // namespace

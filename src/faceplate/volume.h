@@ -1,10 +1,11 @@
-// The two volume sliders: from a place to percent, attenuation and the device's value.
+// The level: from what the sliders show to attenuation and the device's value; mute, and the mixer in its place.
 #pragma once
 
 #include "faceplate/interface_sounds.h"
 #include "faceplate/layout.h"
 #include "faceplate/mixer_driver.h"
 #include "faceplate/ports.h"
+#include "faceplate/slider_pair.h"
 #include "platform/forms/input.h"
 #include "state/shared_state.h"
 #include "windows/cdform.h"
@@ -26,8 +27,8 @@ class Volume {
   /// Reads the device and sets the sliders. A device that cannot be read takes them away for this session.
   void cdvol();
   /// Bring to the device what PctL or PctR shows.
-  void setVolumeL() { setVolume(left_); }
-  void setVolumeR() { setVolume(right_); }
+  void setVolumeL() { setVolume(SliderPair::Left); }
+  void setVolumeR() { setVolume(SliderPair::Right); }
 
   /// A press, move or release on a slider; `control` is one of its parts. False when it is none.
   bool mouseDown(const forms::Control& control, const forms::Mouse& mouse);
@@ -39,13 +40,13 @@ class Volume {
   void stepBoth(int steps);
 
   /// A click on a percent silences its channel.
-  void PctL_Click() { silence(left_); }
-  void PctR_Click() { silence(right_); }
+  void PctL_Click() { silence(SliderPair::Left); }
+  void PctR_Click() { silence(SliderPair::Right); }
   /// 1 mutes, 0 brings the sound back.
   void Image2_MouseUp(size_t index);
   void Image9_MouseUp(size_t index);
   void toggleLink() { Image9_MouseUp(linked() ? 1 : 0); }
-  bool linked() const { return form_.Image9[1].visible; }
+  bool linked() const { return sliders_.linked(); }
   /// The right mouse button takes the sliders away, or back.
   void SSPanel1_RightClick();
   void Command3D16_RightClick();
@@ -56,27 +57,19 @@ class Volume {
   MixerDriver& mixer() { return mixer_; }
 
  private:
-  /// One channel: its controls and its numbers.
+  using Side = SliderPair::Side;
+  /// One channel's numbers.
   struct Channel {
-    forms::Label& pct;
-    forms::Panel& area;
-    forms::Panel& upper;
-    forms::Panel& lower;
-    forms::Shape& thumb;
-    forms::ControlArray<forms::Line, 2>& lines;
     int32_t& raw;
     int16_t& atten;
     int16_t& attenPrev;
   };
 
-  Channel& other(const Channel& channel) { return &channel == &left_ ? right_ : left_; }
-  Channel* channelOf(const forms::Control& control);
-  void press(Channel& channel, const forms::Control& part, const forms::Mouse& mouse);
-  void moveTo(Channel& channel, int y);
-  void put(Channel& channel, int place);
-  void paintThumb(Channel& channel, Colour colour);
-  void setVolume(Channel& channel);
-  void silence(Channel& channel);
+  Channel channel(Side side);
+  bool byMixer() const { return state_.settings.soundMode == kMixerProgram; }
+  void moved(Side side);
+  void setVolume(Side side);
+  void silence(Side side);
   void unmuted();
   void write();
   bool findDevice();
@@ -90,8 +83,7 @@ class Volume {
   InterfaceSounds& sounds_;
   CDForm& form_;
   SharedState& state_;
-  Channel left_;
-  Channel right_;
+  SliderPair sliders_;
   bool fresh_ = true;  ///< the mixer program is not prepared yet
 };
 

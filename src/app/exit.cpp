@@ -6,7 +6,7 @@
 #include "platform/ports/core_gate.h"
 #include "platform/ports/files.h"
 #include "platform/ports/screen.h"
-#include "state/marker_files.h"
+#include "state/data_folder.h"
 #include "state/settings_files.h"
 
 namespace orvanta {
@@ -30,7 +30,7 @@ void Exit::save() {
 
 void Exit::leave() {
   volume_.mixer().tidyUp();
-  clearMarker(ports_.files, state_.settings.appDir, kRunningMarker);
+  DataFolder(ports_.files, state_.settings.appDir).unmark(DataFile::Running);
   ports_.screen.setPointer(Pointer::Hourglass);
   form_.SSPanel3.backColor = colours::kRed;
   form_.SSPanel3.refresh();

@@ -15,7 +15,6 @@
 #include "app/licences.h"
 #include "app/options.h"
 #include "app/orvanta.h"
-#include "base/text.h"
 #include "platform/disc/cdrom_drive.h"
 #include "platform/disc/drive_tray.h"
 #include "platform/disc/image_drive.h"
@@ -38,6 +37,7 @@
 #include "platform/sound/sound_choice.h"
 #include "platform/sound/stream_volume.h"
 #include "platform/sound/wave_player.h"
+#include "state/data_folder.h"
 
 namespace orvanta {
 namespace {
@@ -56,7 +56,7 @@ struct Host {
         server(socket, folder) {}
 
   /// "" without a data folder.
-  std::string inData(const char* name) const { return places.dataDir.empty() ? "" : joinPath(places.dataDir, name); }
+  std::string inData(DataFile file) { return places.dataDir.empty() ? "" : DataFolder(files, places.dataDir).path(file); }
 
   Signals wishes;
   HostFiles files;
@@ -101,10 +101,10 @@ std::optional<int> handedToFirst(const Options& options, Host& host) {
 
 /// The drive that the settings name, and its player. Their thread reads the disc while Qt starts.
 struct Drive {
-  Drive(const Options& options, const Host& host)
+  Drive(const Options& options, Host& host)
       : path(host.places.drive),
         real(isDevice(path)),
-        memory(host.inData("tray.dat")),
+        memory(host.inData(DataFile::Tray)),
         audio(options.audio),
         images(real ? nullptr : std::make_unique<ImageDrive>(path, options.disc, memory)),
         discs(real ? std::make_unique<CdromDrive>(kernelCdrom(path)) : nullptr),
@@ -126,10 +126,10 @@ struct Drive {
   }
 
   /// What still plays is handed to a player without a window. False for a drive that hangs.
-  bool leave(const Host& host) {
+  bool leave(Host& host) {
     if (player->state() == PlayState::Playing) {
-      handOn(*player, player->playEnd(), path, joinPath(host.system.windowsDir(), "orvplayon"),
-             {path, memory, audio, host.inData("level.dat")});
+      handOn(*player, player->playEnd(), path, host.system.companion("orvplayon"),
+             {path, memory, audio, host.inData(DataFile::Level)});
     }
     return player->finish(kFarewell);
   }
@@ -150,7 +150,7 @@ struct Deck {
       : scale{options.scale > 0 ? options.scale : QtScreen::desktopFactor(), kTwipsPerPixel},
         device(*drive.player, clock),
         tray(*drive.player, drive.real ? "" : drive.path),
-        volume(drive.player->level(), host.files, clock, host.inData("level.dat")),
+        volume(drive.player->level(), host.files, clock, host.inData(DataFile::Level)),
         deckSound(makeSound(options.audio == "default" ? options.audio : "null")),
         ports{device, tray, clock, dialogs, host.files, host.processes, screen, host.system, volume, mixer, sounds, printer, net, desktop},
         orvanta(std::make_unique<Orvanta>(ports)) {

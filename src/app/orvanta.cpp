@@ -23,7 +23,7 @@ FaceplatePorts forFaceplate(const Ports& all) {
 }
 
 LibraryPorts forLibrary(const Ports& all) {
-  return {all.device, all.dialogs, all.files, all.processes, all.screen, all.printer, all.desktop};
+  return {all.device, all.dialogs, all.files, all.processes, all.screen, all.system, all.printer, all.desktop};
 }
 
 LifePorts forLife(const Ports& all) {

@@ -7,8 +7,8 @@
 #include "platform/ports/core_gate.h"
 #include "platform/ports/dialogs.h"
 #include "platform/ports/files.h"
-#include "state/field_file.h"
-#include "state/marker_files.h"
+#include "platform/ports/system.h"
+#include "state/data_folder.h"
 #include "state/not_written.h"
 #include "state/settings_files.h"
 
@@ -24,7 +24,7 @@ ProcessRequest RecorderLaunch::request() const {
   const Settings& settings = state_.settings;
   if (usersOwn())
     return {splitCommand(settings.recordCommand, ports_.files.exists(settings.recordCommand)), settings.appDir, WindowStyle::Normal};
-  return {{joinPath(state_.process.windowsDir, "orvrec"), "2" + settings.appDir}, settings.appDir, WindowStyle::Normal};
+  return {{ports_.system.companion("orvrec"), "2" + settings.appDir}, settings.appDir, WindowStyle::Normal};
 }
 
 void RecorderLaunch::tellNotStarted() {
@@ -42,8 +42,7 @@ bool RecorderLaunch::ready() {
 }
 
 void RecorderLaunch::run() {
-  const std::string& folder = state_.settings.appDir;
-  const std::string file = joinPath(folder, "audiocd.dat");
+  const std::string file = DataFolder(ports_.files, state_.settings.appDir).path(DataFile::RecorderTexts);
   // Nothing is let go of before the recorder can have what it needs.
   if (!usersOwn() && !ports_.files.write(file, texts())) {
     tellNotWritten(ports_.dialogs, ports_.files, file);
@@ -70,7 +69,7 @@ void RecorderLaunch::letGo() {
   ports_.device.command("Stop");
   ports_.device.command("Close");
   form_.minimised = true;
-  clearMarker(ports_.files, settings.appDir, kRunningMarker);
+  DataFolder(ports_.files, settings.appDir).unmark(DataFile::Running);
 }
 
 std::string RecorderLaunch::texts() const {

@@ -8,23 +8,23 @@
 #include "platform/ports/files.h"
 #include "platform/ports/processes.h"
 #include "platform/ports/system.h"
-#include "state/marker_files.h"
+#include "state/data_folder.h"
 #include "state/settings_files.h"
 
 namespace orvanta {
 
 void Restart::forDisc(const std::function<void()>& meanwhile) {
   const std::string& folder = state_.settings.appDir;
-  const std::string handOver = joinPath(folder, kHandOverMarker);
+  const DataFolder data(ports_.files, folder);
   volume_.releaseMute();
   ports_.auxVolume.keep();
   writeSettings(SettingsFile::SettingsDat, ports_.files, folder, state_.settings);
-  setMarker(ports_.files, folder, kHandOverMarker);
-  ProcessRequest request{{joinPath(state_.process.windowsDir, "orvanlx")}, folder, WindowStyle::Normal};
+  data.mark(DataFile::HandOver);
+  ProcessRequest request{{ports_.system.companion("orvanlx")}, folder, WindowStyle::Normal};
   for (const std::string& argument : ports_.system.handedOn()) request.arguments.push_back(argument);
   if (state_.process.playNext == kOn) request.arguments.emplace_back("--play");
   const Processes::Id started = ports_.processes.start(request);
-  while (started != 0 && ports_.files.exists(handOver)) {
+  while (started != 0 && data.marked(DataFile::HandOver)) {
     if (!ports_.processes.running(started)) return;
     if (meanwhile) meanwhile();
     ports_.clock.delaySeconds(0.02);

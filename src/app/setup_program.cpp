@@ -1,9 +1,9 @@
 // To the setup and back.
 #include "app/setup_program.h"
 
-#include "base/text.h"
 #include "platform/ports/dialogs.h"
 #include "platform/ports/processes.h"
+#include "platform/ports/system.h"
 #include "state/settings_files.h"
 
 namespace orvanta {
@@ -11,7 +11,7 @@ namespace orvanta {
 void SetupProgram::run() {
   form_.minimised = true;
   const Settings& settings = state_.settings;
-  ProcessRequest request{{joinPath(state_.process.windowsDir, "orvsetup"), "ACTIVELX"}, settings.appDir, WindowStyle::Normal};
+  ProcessRequest request{{ports_.system.companion("orvsetup"), "ACTIVELX"}, settings.appDir, WindowStyle::Normal};
   if (startUp_.dataFolderGiven()) request.arguments.insert(request.arguments.end(), {"--data", settings.appDir});
   const int how = ports_.processes.runAndWait(request);
   takeUp();

@@ -11,7 +11,7 @@
 #include "platform/ports/processes.h"
 #include "platform/ports/screen.h"
 #include "platform/ports/system.h"
-#include "state/marker_files.h"
+#include "state/data_folder.h"
 #include "state/settings_files.h"
 
 namespace orvanta {
@@ -28,7 +28,7 @@ bool readPlaces(Files& files, const std::string& systemDir, Settings& settings) 
 
 bool setUpFirstStart(const Files& files, Processes& processes, const System& system) {
   if (files.exists(joinPath(system.systemDir(), fileName(SettingsFile::Orvwin)))) return true;
-  const std::string helper = joinPath(system.windowsDir(), "lxinit");
+  const std::string helper = system.companion("lxinit");
   return files.exists(helper) && processes.runAndWait({{helper, system.defaultDataDir()}, "", WindowStyle::Normal}) == 0;
 }
 
@@ -52,7 +52,7 @@ void StartUp::run(const HostOptions& options) {
   state_.process.systemDir = ports_.system.systemDir();
   state_.process.windowsDir = ports_.system.windowsDir();
   findData(options);
-  clearMarker(ports_.files, state_.settings.appDir, kHandOverMarker);
+  DataFolder(ports_.files, state_.settings.appDir).unmark(DataFile::HandOver);
   readSettingsFiles();
   takeWord(options.words);
   if (options.play) state_.process.autoStartMode = kOn;
@@ -98,9 +98,9 @@ void StartUp::findData(const HostOptions& options) {
 void StartUp::askForSetup() {
   ports_.screen.setPointer(Pointer::Normal);
   const std::string usual = ports_.system.defaultDataDir();
-  const std::string helper = joinPath(state_.process.windowsDir, "lxinit");
+  const std::string helper = ports_.system.companion("lxinit");
   if (ports_.files.exists(helper) && setUp(helper, usual)) end();
-  const std::string other = joinPath(state_.process.windowsDir, "orvinit");
+  const std::string other = ports_.system.companion("orvinit");
   for (int tries = 0; tries < 2; ++tries) {
     const auto answer =
         ports_.dialogs.askText("Orvanta LX", "Location of Orvanta LX Data File(s) Not Found, Please Enter Full Path:", usual);
@@ -123,7 +123,7 @@ bool StartUp::setUp(const std::string& program, const std::string& folder) {
 
 /// The settings have gone, with their folder or alone: the setup program makes them anew, in our place.
 void StartUp::runSetup(const std::string& folder) {
-  const std::string program = joinPath(state_.process.windowsDir, "orvsetup");
+  const std::string program = ports_.system.companion("orvsetup");
   if (ports_.processes.start({{program, "INITSETUPLX"}, folder, WindowStyle::Normal}) == 0) {
     ports_.dialogs.message(BoxStyle::Critical, "Orvanta LX Setup Wizard",
                            "The settings in " + folder + " have gone, and " + program + " could not be started.");
@@ -140,8 +140,8 @@ void StartUp::readSettingsFiles() {
     readSettings(file, ports_.files, folder, settings);
   }
   // A mixer beside the programs, or in their subfolder, serves where none was chosen.
-  std::string mixer = joinPath(state_.process.windowsDir, "sndvol32.exe");
-  if (!ports_.files.exists(mixer)) mixer = joinPath(state_.process.windowsDir, "system32/sndvol32.exe");
+  std::string mixer = ports_.system.companion("sndvol32.exe");
+  if (!ports_.files.exists(mixer)) mixer = ports_.system.companion("system32/sndvol32.exe");
   if (settings.mixerPath.empty()) settings.mixerPath = ports_.files.exists(mixer) ? mixer : ports_.system.mixerProgram();
 }
 

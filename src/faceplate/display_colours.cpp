@@ -11,6 +11,7 @@
 #include "platform/ports/disc_tray.h"
 #include "platform/ports/files.h"
 #include "platform/ports/screen.h"
+#include "state/data_folder.h"
 
 namespace orvanta {
 
@@ -121,7 +122,7 @@ void DisplayColours::background() {
 void DisplayColours::pictures() {
   if (state_.process.smallFonts != kOn) return;
   const auto load = [this](forms::Image& image, const char* name) {
-    const std::string path = joinPath(joinPath(state_.settings.appDir, "system"), name);
+    const std::string path = DataFolder(files_, state_.settings.appDir).own(name);
     image.picture = files_.exists(path) ? path : std::string();
     return !image.picture.get().empty();
   };

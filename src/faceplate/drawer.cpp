@@ -7,9 +7,7 @@
 #include "faceplate/interface_sounds.h"
 #include "faceplate/upward.h"
 #include "platform/ports/clock.h"
-#include "platform/ports/files.h"
 #include "platform/ports/screen.h"
-#include "state/marker_files.h"
 
 namespace orvanta {
 
@@ -51,7 +49,7 @@ void bevels(forms::Panel& panel, int style) {
 Drawer::Drawer(const FaceplatePorts& ports, Engine& engine, KeyLooks& looks, InterfaceSounds& sounds, CDForm& form, SharedState& state,
                FaceplateUpward& upward)
     : clock_(ports.clock),
-      files_(ports.files),
+      data_(ports.files, state.settings.appDir),
       screen_(ports.screen),
       engine_(engine),
       looks_(looks),
@@ -76,7 +74,7 @@ void Drawer::opendrawer() {
   looks_.show(DeckState::DoorOpen);
   form_.Image11.enabled = false;
   // Stays until the next process has started: that is how the old one knows.
-  setMarker(files_, state_.settings.appDir, kHandOverMarker);
+  data_.mark(DataFile::HandOver);
   if (state_.settings.appOptions[2] == 1 && state_.disc.discLoaded == kOn && !leaving_) {
     // Eject opens the drawer, and the open drawer ejects: once round is enough.
     leaving_ = true;

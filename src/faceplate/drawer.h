@@ -5,13 +5,13 @@
 
 #include "faceplate/ports.h"
 #include "playback/engine.h"
+#include "state/data_folder.h"
 #include "state/shared_state.h"
 #include "windows/cdform.h"
 
 namespace orvanta {
 
 class Clock;
-class Files;
 class InterfaceSounds;
 class FaceplateUpward;
 class Screen;
@@ -47,7 +47,7 @@ class Drawer {
   void standOpen();
 
   Clock& clock_;
-  Files& files_;
+  DataFolder data_;
   Screen& screen_;
   Engine& engine_;
   KeyLooks& looks_;

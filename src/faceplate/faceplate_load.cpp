@@ -6,7 +6,7 @@
 #include "base/text.h"
 #include "platform/ports/cd_device.h"
 #include "platform/ports/files.h"
-#include "state/marker_files.h"
+#include "state/data_folder.h"
 #include "state/settings_files.h"
 
 namespace orvanta {
@@ -17,17 +17,16 @@ namespace {
 /// takes it away again.
 class RunningMarker {
  public:
-  RunningMarker(Files& files, const std::string& folder) : files_(files), folder_(folder) { setMarker(files_, folder_, kRunningMarker); }
+  explicit RunningMarker(const DataFolder& data) : data_(data) { data_.mark(DataFile::Running); }
   RunningMarker(const RunningMarker&) = delete;
   RunningMarker& operator=(const RunningMarker&) = delete;
   ~RunningMarker() {
-    if (!stays_) clearMarker(files_, folder_, kRunningMarker);
+    if (!stays_) data_.unmark(DataFile::Running);
   }
   void stays() { stays_ = true; }
 
  private:
-  Files& files_;
-  const std::string& folder_;
+  const DataFolder& data_;
   bool stays_ = false;
 };
 
@@ -47,7 +46,8 @@ FaceplateLoad::FaceplateLoad(const FaceplatePorts& ports, Playback& playback, Di
 
 void FaceplateLoad::load() {
   if (state_.process.commandWord == "RUNRIPPER") form_.minimised = true;
-  RunningMarker marker(files_, state_.settings.appDir);
+  const DataFolder data(files_, state_.settings.appDir);
+  RunningMarker marker(data);
   state_.clearForLoad();
   form_.firstStop = &form_.icntla[Play];
   // The title lines are laid out by what they hold.
@@ -107,7 +107,7 @@ void FaceplateLoad::activate() {
 void FaceplateLoad::unload() {
   writeSettings(SettingsFile::SettingsDat, files_, state_.settings.appDir, state_.settings);
   state_.disc.trackTableDone = kOff;
-  clearMarker(files_, state_.settings.appDir, kRunningMarker);
+  DataFolder(files_, state_.settings.appDir).unmark(DataFile::Running);
 }
 
 }  // namespace orvanta

@@ -8,6 +8,7 @@
 #include "platform/ports/files.h"
 #include "platform/ports/processes.h"
 #include "platform/ports/sounds.h"
+#include "state/data_folder.h"
 
 namespace orvanta {
 
@@ -31,7 +32,7 @@ constexpr const char* kNoMixer =
 void InterfaceSounds::play(Sound sound) {
   if (state_.process.osFamily > 1) return;
   if (state_.settings.soundsOff == kOn || state_.display.quietOnce == kOn || state_.settings.smallFaceplate == kOn) return;
-  ports_.sounds.play(joinPath(joinPath(state_.settings.appDir, "system"), kFiles[static_cast<size_t>(sound)]));
+  ports_.sounds.play(DataFolder(ports_.files, state_.settings.appDir).own(kFiles[static_cast<size_t>(sound)]));
 }
 
 void InterfaceSounds::beep() { ports_.sounds.beep(); }

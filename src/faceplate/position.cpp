@@ -5,8 +5,6 @@
 #include <optional>
 
 #include "base/text.h"
-#include "platform/ports/files.h"
-#include "state/record_file.h"
 
 namespace orvanta {
 
@@ -36,9 +34,7 @@ void Position::put(const WorkArea& area, int left, int top) {
   form_.top = area.twips.top + top;
 }
 
-std::string Position::path() const {
-  return joinPath(state_.settings.appDir, state_.settings.smallFaceplate == kOn ? "SMPOS1.DAT" : "CDPOSN.DAT");
-}
+DataFile Position::file() const { return state_.settings.smallFaceplate == kOn ? DataFile::SmallPlace : DataFile::LargePlace; }
 
 /// Left and top; behind them the name of a screen that is not the primary one.
 void Position::saveposn1() {
@@ -52,11 +48,11 @@ void Position::saveposn1() {
   out.number(left);
   out.number(top);
   if (!on.screen.empty()) out.text(on.screen);
-  writeRecordFile(files_, path(), out);
+  data_.save(file(), out);
 }
 
 void Position::posfp1() {
-  const RecordBytes record = readRecordFile(files_, path()).value_or(RecordBytes{});
+  const RecordBytes record = data_.read(file()).value_or(RecordBytes{});
   FieldReader reader = record.reader();
   const auto left = reader.next();
   const auto top = reader.next();
@@ -71,7 +67,7 @@ void Position::posfp1() {
 
 void Position::Form_DblClick() {
   centre();
-  removeRecordFile(files_, path());
+  data_.remove(file());
 }
 
 void Position::centre() {

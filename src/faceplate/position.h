@@ -1,9 +1,8 @@
 // Where the faceplate stands on the screen; each of its two sizes has a place of its own.
 #pragma once
 
-#include <string>
-
 #include "platform/ports/screen.h"
+#include "state/data_folder.h"
 #include "state/shared_state.h"
 #include "windows/cdform.h"
 
@@ -13,7 +12,7 @@ class Files;
 
 class Position {
  public:
-  Position(Files& files, Screen& screen, CDForm& form, SharedState& state) : files_(files), screen_(screen), form_(form), state_(state) {}
+  Position(Files& files, Screen& screen, CDForm& form, SharedState& state) : data_(files, state.settings.appDir), screen_(screen), form_(form), state_(state) {}
 
   /// Pulls the window onto the screen and stores its place.
   void saveposn1();
@@ -23,14 +22,15 @@ class Position {
   void Form_DblClick();
 
  private:
-  std::string path() const;
+  /// Of its present size.
+  DataFile file() const;
   /// What is free of the screen that the window is on.
   WorkArea area() const;
   /// Places count from the screen's corner.
   void put(const WorkArea& area, int left, int top);
   void centre();
 
-  Files& files_;
+  DataFolder data_;
   Screen& screen_;
   CDForm& form_;
   SharedState& state_;

@@ -7,6 +7,7 @@
 #include "library/list_text.h"
 #include "platform/ports/dialogs.h"
 #include "platform/ports/files.h"
+#include "state/data_folder.h"
 
 namespace orvanta {
 
@@ -18,7 +19,7 @@ std::string rowName(const forms::ListBox& list, int row) { return list.name() + 
 
 }  // namespace
 
-std::string CdData::draftPath() const { return joinPath(state_.settings.appDir, disc_.discKey + ".draft"); }
+std::string CdData::draftPath() const { return DataFolder(ports_.files, state_.settings.appDir).draft(disc_.discKey); }
 
 void CdData::keepDraft() {
   if (!openForPerson() || !visit_.changed) return;

@@ -7,6 +7,7 @@
 #include "platform/ports/dialogs.h"
 #include "platform/ports/processes.h"
 #include "platform/ports/screen.h"
+#include "platform/ports/system.h"
 
 namespace orvanta {
 
@@ -42,7 +43,7 @@ void CdData::pressed(const std::string& name) {
   } else if (name == "Command5") {
     clear();
   } else if (name == "Command6") {
-    ports_.processes.start({{joinPath(state_.process.windowsDir, "orvlib"), "LX"}, state_.settings.appDir, WindowStyle::Normal});
+    ports_.processes.start({{ports_.system.companion("orvlib"), "LX"}, state_.settings.appDir, WindowStyle::Normal});
   } else if (name == "Command7") {
     on_.html.run(disc_);
   } else if (name == "Command11") {

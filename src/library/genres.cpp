@@ -9,7 +9,6 @@
 #include "platform/ports/files.h"
 #include "records/escape.h"
 #include "state/not_written.h"
-#include "state/record_file.h"
 
 namespace orvanta {
 
@@ -119,11 +118,9 @@ bool before(const std::string& a, const std::string& b) { return upper(a) < uppe
 
 }  // namespace
 
-std::string Genres::path(const char* name) const { return joinPath(state_.settings.appDir, name); }
-
 std::vector<std::string> Genres::ownGenres() const {
   std::vector<std::string> own;
-  const RecordBytes record = readRecordFile(files_, path("addcats.dat")).value_or(RecordBytes{});
+  const RecordBytes record = data_.read(DataFile::Genres).value_or(RecordBytes{});
   FieldReader reader = record.reader();
   while (const auto field = reader.next()) {
     const std::string genre(trim(*field));
@@ -153,21 +150,21 @@ std::optional<std::string> Genres::addGenre() {
   std::vector<std::string> own = ownGenres();
   // A list that has grown too long starts anew, as it always has.
   if (own.size() >= kMostOwn) {
-    removeRecordFile(files_, path("addcats.dat"));
+    data_.remove(DataFile::Genres);
     return genre;
   }
   own.push_back(genre);
   FieldWriter out;
   for (const std::string& entry : own) out.text(entry);
-  const std::string file = path("addcats.dat");
+  const std::string file = data_.path(DataFile::Genres);
   // A list that cannot be read is not written over.
   const bool readable = !files_.exists(file) || files_.read(file);
-  if (!readable || !writeRecordFile(files_, file, out)) tellNotWritten(dialogs_, files_, file);
+  if (!readable || !data_.save(DataFile::Genres, out)) tellNotWritten(dialogs_, files_, file);
   return genre;
 }
 
 void Genres::readUserCaptions() {
-  const auto record = readRecordFile(files_, path("userdef.dat"));
+  const auto record = data_.read(DataFile::Captions);
   if (!record) return;
   FieldReader reader = record->reader();
   for (std::string& caption : state_.library.userCaptions) {
@@ -186,7 +183,7 @@ void Genres::askUserCaptions() {
     answers[i] = trim(withoutControls(*answer));
   }
   if (answers[0].empty() && answers[1].empty()) {
-    if (!removeRecordFile(files_, path("userdef.dat"))) tellNotWritten(dialogs_, files_, path("userdef.dat"));
+    if (!data_.remove(DataFile::Captions)) tellNotWritten(dialogs_, files_, data_.path(DataFile::Captions));
     state_.library.userCaptions = {};
     return;
   }
@@ -198,7 +195,7 @@ void Genres::askUserCaptions() {
     out.text(caption);
     state_.library.userCaptions[i] = unescapeField(caption);
   }
-  if (!writeRecordFile(files_, path("userdef.dat"), out)) tellNotWritten(dialogs_, files_, path("userdef.dat"));
+  if (!data_.save(DataFile::Captions, out)) tellNotWritten(dialogs_, files_, data_.path(DataFile::Captions));
 }
 
 }  // namespace orvanta

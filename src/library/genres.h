@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "platform/forms/control.h"
+#include "state/data_folder.h"
 #include "state/shared_state.h"
 
 namespace orvanta {
@@ -15,7 +16,7 @@ class Files;
 
 class Genres {
  public:
-  Genres(Files& files, Dialogs& dialogs, SharedState& state) : files_(files), dialogs_(dialogs), state_(state) {}
+  Genres(Files& files, Dialogs& dialogs, SharedState& state) : files_(files), data_(files, state.settings.appDir), dialogs_(dialogs), state_(state) {}
 
   /// The fixed genres and the user's, sorted, into a combo.
   void fillGenres(forms::Combo& combo) const;
@@ -28,10 +29,10 @@ class Genres {
   void askUserCaptions();
 
  private:
-  std::string path(const char* name) const;
   std::vector<std::string> ownGenres() const;
 
   Files& files_;
+  DataFolder data_;
   Dialogs& dialogs_;
   SharedState& state_;
 };

@@ -10,6 +10,7 @@
 #include "library/record_rows.h"
 #include "platform/ports/dialogs.h"
 #include "platform/ports/files.h"
+#include "state/data_folder.h"
 #include "state/not_written.h"
 
 namespace orvanta {
@@ -54,7 +55,7 @@ void HtmlExport::run(const DiscState& disc) {
   std::string name = form_.Text2.caption.get() + " - " + form_.Text4.caption.get() + ".htm";
   std::replace(name.begin(), name.end(), '/', '-');
   const auto path =
-      dialogs_.askSaveFile({"Save Orvanta CD Data As...", joinPath(settings_.appDir, "datacd"), name, "HTML File (*.htm)|*.htm"});
+      dialogs_.askSaveFile({"Save Orvanta CD Data As...", DataFolder(files_, settings_.appDir).discs(), name, "HTML File (*.htm)|*.htm"});
   if (!path || path->empty()) return;
   if (!files_.writeNamed(*path, encoded(page(disc)))) tellNotWritten(dialogs_, files_, *path);
 }

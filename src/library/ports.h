@@ -9,6 +9,7 @@ class Files;
 class Printer;
 class Processes;
 class Screen;
+class System;
 namespace forms {
 class Desktop;
 }
@@ -19,6 +20,7 @@ struct LibraryPorts {
   Files& files;
   Processes& processes;
   Screen& screen;
+  System& system;
   Printer& printer;
   forms::Desktop& desktop;
 };

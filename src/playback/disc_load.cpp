@@ -12,6 +12,7 @@
 #include "playback/upward.h"
 #include "records/disc_files.h"
 #include "records/sheet.h"
+#include "state/data_folder.h"
 
 namespace orvanta {
 
@@ -70,7 +71,7 @@ void DiscLoad::loadDisc() {
   disc.discSum = layer_.sumOfTracks();
   disc.discKey = keyOf(disc.discSum);
   disc.discLengthText = layer_.discLengthTextOf();
-  disc.cdFilePath = joinPath(joinPath(state_.settings.appDir, "datacd"), disc.discKey + ".CD");
+  disc.cdFilePath = DataFolder(files_, state_.settings.appDir).disc(disc.discKey);
   if (files_.exists(disc.cdFilePath)) {
     readTexts();
   } else {

@@ -8,11 +8,9 @@
 #include "base/times.h"
 #include "platform/ports/cd_device.h"
 #include "platform/ports/clock.h"
-#include "platform/ports/files.h"
 #include "platform/ports/screen.h"
 #include "playback/tracks.h"
 #include "playback/upward.h"
-#include "state/marker_files.h"
 
 namespace orvanta {
 
@@ -20,7 +18,7 @@ Engine::Engine(const PlaybackPorts& ports, DeviceLayer& layer, Display& display,
                PlaybackUpward& upward)
     : device_(ports.device),
       clock_(ports.clock),
-      files_(ports.files),
+      data_(ports.files, state.settings.appDir),
       screen_(ports.screen),
       layer_(layer),
       display_(display),
@@ -260,7 +258,7 @@ void Engine::clrab() {
 void Engine::mmcontrol1_EjectClick() {
   TransportState& transport = state_.transport;
   state_.disc.discLoaded = kOn;
-  clearMarker(files_, state_.settings.appDir, kRunningMarker);
+  data_.unmark(DataFile::Running);
   clrab();
   endScan();
   forgetAdvance();

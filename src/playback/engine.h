@@ -8,13 +8,13 @@
 #include "playback/display.h"
 #include "playback/key_looks.h"
 #include "playback/ports.h"
+#include "state/data_folder.h"
 #include "state/shared_state.h"
 
 namespace orvanta {
 
 class CdDevice;
 class Clock;
-class Files;
 class PlaybackUpward;
 class Screen;
 class Timer;
@@ -113,7 +113,7 @@ class Engine {
 
   CdDevice& device_;
   Clock& clock_;
-  Files& files_;
+  DataFolder data_;
   Screen& screen_;
   DeviceLayer& layer_;
   Display& display_;

@@ -17,10 +17,8 @@
 #include "platform/ports/printer.h"
 #include "platform/ports/processes.h"
 #include "platform/ports/screen.h"
-#include "platform/ports/shell.h"
 #include "platform/ports/sounds.h"
 #include "platform/ports/system.h"
-#include "platform/ports/tray.h"
 
 namespace orvanta::test {
 
@@ -262,33 +260,6 @@ class FakePrinter : public Printer {
   void endDocument() override { tape.emplace_back("end"); }
   bool accepted = true;
   Tape tape;
-};
-
-// ---- ports whose users are still to come
-
-class FakeTray : public Tray {
- public:
-  bool available() const override { return there; }
-  void setEvents(TrayEvents* to) override { events = to; }
-  void show(const std::string& toolTip) override { tape.push_back("show " + toolTip); }
-  void hide() override { tape.emplace_back("hide"); }
-  bool there = true;
-  TrayEvents* events = nullptr;
-  Tape tape;
-};
-
-class FakeShell : public Shell {
- public:
-  std::optional<std::string> programFor(const std::string& mimeType) const override { return in(associations, mimeType); }
-  std::optional<std::string> findProgram(const std::string& name) const override { return in(programs, name); }
-  std::map<std::string, std::string> associations;
-  std::map<std::string, std::string> programs;
-
- private:
-  static std::optional<std::string> in(const std::map<std::string, std::string>& all, const std::string& key) {
-    const auto found = all.find(key);
-    return found == all.end() ? std::nullopt : std::optional(found->second);
-  }
 };
 
 }  // namespace orvanta::test

@@ -14,6 +14,8 @@ class System {
   virtual std::string systemDir() const = 0;
   /// The folder of the installed programs: this one and its companions.
   virtual std::string windowsDir() const = 0;
+  /// The path of a program of the family, whether or not it is installed.
+  std::string companion(const std::string& name) const { return windowsDir() + "/" + name; }
   /// Where data lies unless the settings say otherwise: $XDG_DATA_HOME/orvanta.
   virtual std::string defaultDataDir() const = 0;
   /// The desktop's own mixer program; "" when none is installed.

@@ -96,11 +96,11 @@ QWidget* SettingsWindow::drivePage(bool withDrive) {
 
 QWidget* SettingsWindow::playPage() {
   const auto [page, rows] = newPage();
-  check(rows, tr("Eject at the end of a disc"), settings_.appOptions[1]);
-  check(rows, tr("Quit after the drawer has opened"), settings_.appOptions[2]);
-  check(rows, tr("Start the mixer with the deck"), settings_.appOptions[3]);
-  number(rows, tr("Length of an intro"), settings_.appOptions[4], 2, 30, 7, tr(" s"));
-  check(rows, tr("Play on after the deck was switched off"), settings_.appOptions[5]);
+  check(rows, tr("Eject at the end of a disc"), settings_.appOptions[kEjectAtEnd]);
+  check(rows, tr("Quit after the drawer has opened"), settings_.appOptions[kExitOnEject]);
+  check(rows, tr("Start the mixer with the deck"), settings_.appOptions[kMixerAtStart]);
+  number(rows, tr("Length of an intro"), settings_.appOptions[kIntroLength], 2, 30, 7, tr(" s"));
+  check(rows, tr("Play on after the deck was switched off"), settings_.appOptions[kPlayOn]);
   check(rows, tr("Small window always goes to the tray"), settings_.minToTray);
   check(rows, tr("Open CD Data beside the deck"), settings_.editorFromFaceplate, true);
   return page;
@@ -136,9 +136,9 @@ QWidget* SettingsWindow::displayPage() {
 
 QWidget* SettingsWindow::fontsPage() {
   const auto [page, rows] = newPage();
-  font(rows, tr("Disc line"), settings_.fonts[0]);
-  font(rows, tr("Track line"), settings_.fonts[1]);
-  font(rows, tr("Lists"), settings_.fonts[3]);
+  font(rows, tr("Disc line"), settings_.fonts[kDiscFont]);
+  font(rows, tr("Track line"), settings_.fonts[kTrackFont]);
+  font(rows, tr("Lists"), settings_.fonts[kListFont]);
   return page;
 }
 

@@ -34,11 +34,11 @@ void Exit::leave() {
   ports_.screen.setPointer(Pointer::Hourglass);
   form_.SSPanel3.backColor = colours::kRed;
   form_.SSPanel3.refresh();
-  if (state_.transport.playingFlag == kOn) {
-    state_.transport.playingFlag = kOff;
+  if (state_.transport.playingFlag) {
+    state_.transport.playingFlag = false;
     looks_.show(DeckState::Leaving);
   }
-  if (state_.settings.appOptions[5] != 1) {
+  if (state_.settings.appOptions[kPlayOn] != 1) {
     ports_.device.command("Stop");
     ports_.device.command("Close");
   }

@@ -3,7 +3,7 @@
 
 #include "app/exit.h"
 #include "app/keeper.h"
-#include "app/record.h"
+#include "app/recorder.h"
 #include "app/restart.h"
 #include "app/setup_program.h"
 #include "app/start_up.h"
@@ -16,14 +16,14 @@ struct Life {
         keeper(ports, state),
         exit(ports, playback.looks, faceplate.volume, faceplate.sounds, form, state),
         restart(ports, faceplate.volume, state),
-        record(ports, playback.looks, faceplate.position, faceplate.volume, restart, form, state),
+        recorder(ports, playback.looks, faceplate.place, faceplate.volume, restart, form, state),
         setup(ports, startUp, faceplate, form, state) {}
 
   StartUp startUp;
   Keeper keeper;
   Exit exit;
   Restart restart;
-  RecorderLaunch record;
+  Recorder recorder;
   SetupProgram setup;
 };
 

@@ -41,7 +41,7 @@ bool Links::restartWaits() const {
 void Links::runSetup() { core_.life_.setup.run(); }
 
 void Links::record() {
-  if (core_.life_.record.ready() && core_.library_.cdData.mayBeLost()) core_.life_.record.run();
+  if (core_.life_.recorder.ready() && core_.library_.cdData.mayBeLost()) core_.life_.recorder.run();
 }
 
 void Links::exitProgram() {

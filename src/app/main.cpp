@@ -128,8 +128,7 @@ struct Drive {
   /// What still plays is handed to a player without a window. False for a drive that hangs.
   bool leave(Host& host) {
     if (player->state() == PlayState::Playing) {
-      handOn(*player, player->playEnd(), path, host.system.companion("orvplayon"),
-             {path, memory, audio, host.inData(DataFile::Level)});
+      handOn(*player, player->playEnd(), path, host.system.companion("orvplayon"), {path, memory, audio, host.inData(DataFile::Level)});
     }
     return player->finish(kFarewell);
   }

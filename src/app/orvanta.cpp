@@ -46,7 +46,7 @@ Orvanta::Orvanta(Ports& ports)
 void Orvanta::startUp(const HostOptions& options) { life_.startUp.run(options); }
 
 void Orvanta::showFaceplate() {
-  form.smallFonts = state.process.smallFonts == kOn;
+  form.smallFonts = state.process.smallFonts;
   library_.genres.readUserCaptions();
   form.show(ports_.desktop);
   life_.keeper.start();

@@ -22,7 +22,7 @@ void Restart::forDisc(const std::function<void()>& meanwhile) {
   data.mark(DataFile::HandOver);
   ProcessRequest request{{ports_.system.companion("orvanlx")}, folder, WindowStyle::Normal};
   for (const std::string& argument : ports_.system.handedOn()) request.arguments.push_back(argument);
-  if (state_.process.playNext == kOn) request.arguments.emplace_back("--play");
+  if (state_.process.playNext) request.arguments.emplace_back("--play");
   const Processes::Id started = ports_.processes.start(request);
   while (started != 0 && data.marked(DataFile::HandOver)) {
     if (!ports_.processes.running(started)) return;

@@ -55,7 +55,7 @@ void StartUp::run(const HostOptions& options) {
   DataFolder(ports_.files, state_.settings.appDir).unmark(DataFile::HandOver);
   readSettingsFiles();
   takeWord(options.words);
-  if (options.play) state_.process.autoStartMode = kOn;
+  if (options.play) state_.process.autoStartMode = true;
   ports_.screen.setPointer(Pointer::Normal);
 }
 
@@ -75,7 +75,7 @@ void StartUp::runProgram(const std::string& words) {
 void StartUp::measureScreen() {
   const int width = ports_.screen.widthPixels();
   state_.process.screenClass = static_cast<int16_t>(width < 800 ? 1 : width < 1024 ? 2 : width < 1280 ? 3 : 4);
-  state_.process.smallFonts = ports_.screen.twipsPerPixel() > 14 ? kOn : kOff;
+  state_.process.smallFonts = ports_.screen.twipsPerPixel() > 14;
   state_.process.colourCount = (int64_t{1} << std::clamp(ports_.screen.bitsPerPixel(), 1, 62)) * ports_.screen.planes();
 }
 
@@ -149,12 +149,12 @@ void StartUp::takeWord(const std::string& line) {
   ProcessState& process = state_.process;
   const CommandLine command = classify(line);
   process.commandWord.clear();
-  process.autoStartMode = process.autoStartDone = kOff;
+  process.autoStartMode = process.autoStartDone = false;
   if (command.kind == CommandLine::Kind::TrackFile) {
     if (command.trackNumber > 0) process.commandWord = std::to_string(command.trackNumber);
   } else if (command.word == "RUNRIPPER" || command.word == "ORVLITE") {
     process.commandWord = command.word;
-    process.autoStartMode = kOn;
+    process.autoStartMode = true;
   }
 }
 

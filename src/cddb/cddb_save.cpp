@@ -23,7 +23,7 @@ void CddbWindow::Command7_Click() {
 }
 
 void CddbWindow::fillEditor() {
-  state_.library.dataDirty = state_.library.askOnCancel = kOn;
+  state_.library.dataDirty = state_.library.askOnCancel = true;
   cdData_.beginFill();
   const Naming naming = namingOf(form_.Label24.caption.get());
   editor_.Text2.caption = naming.artist;

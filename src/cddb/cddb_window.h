@@ -24,9 +24,6 @@ class CdData;
 class CddbUpward;
 struct Ports;
 
-/// Why the window runs: values of LibraryState::cddbMode.
-enum CddbMode : int16_t { kFromFaceplate = 0, kResting = 1, kAutomatic = 3, kSubmission = 33 };
-
 /// Who wants a disc's id, to submit the disc under it.
 class DiscIdTaker {
  public:

@@ -16,9 +16,7 @@ bool always(const ActParts& /*on*/, int /*argument*/) { return true; }
 bool awake(const ActParts& on, int /*argument*/) { return !on.state.disc.asleep(); }
 bool discIn(const ActParts& on, int /*argument*/) { return on.state.disc.in(); }
 bool discWanted(const ActParts& on, int /*argument*/) { return on.choice.discWanted(); }
-bool playing(const ActParts& on, int /*argument*/) {
-  return awake(on, 0) && on.state.transport.playingFlag == kOn && on.looks.acceptsScan();
-}
+bool playing(const ActParts& on, int /*argument*/) { return awake(on, 0) && on.state.transport.playingFlag && on.looks.acceptsScan(); }
 bool sliders(const ActParts& on, int /*argument*/) { return on.state.settings.soundMode != kNoSliders; }
 bool off(const ActParts& /*on*/) { return false; }
 
@@ -105,23 +103,23 @@ const Act kActs[] = {
     // action, clicks, who refuses, what it does, may it be done, is it on
     {Action::Previous, kClicks, Refuses::Part, transport<Previous>, accepts<Previous>, off},
     {Action::Next, kClicks, Refuses::Part, transport<Next>, accepts<Next>, off},
-    {Action::Play, kClicks, Refuses::Part, transport<Play>, accepts<Play>, [](P on) { return on.state.transport.playingFlag == kOn; }},
-    {Action::Pause, kClicks, Refuses::Part, transport<Pause>, accepts<Pause>, [](P on) { return on.state.transport.pausedFlag == kOn; }},
+    {Action::Play, kClicks, Refuses::Part, transport<Play>, accepts<Play>, [](P on) { return on.state.transport.playingFlag; }},
+    {Action::Pause, kClicks, Refuses::Part, transport<Pause>, accepts<Pause>, [](P on) { return on.state.transport.pausedFlag; }},
     {Action::Stop, kClicks, Refuses::Part, transport<Stop>, accepts<Stop>, off},
     {Action::Record, kClicks, Refuses::Part, transport<Record>, accepts<Record>, off},
     {Action::ScanBack, kClicks, Refuses::Part, scanRow<ScanBack>, playing, [](P on) { return on.state.transport.scanCount < 0; }},
     {Action::ScanForward, kClicks, Refuses::Part, scanRow<ScanForward>, playing, [](P on) { return on.state.transport.scanCount > 0; }},
-    {Action::TimeMode, kClicks, Refuses::Part, scanRow<TimeKey>,
-     [](P on, int) { return awake(on, 0) && on.state.transport.pausedFlag != kOn; }, off},
-    {Action::AbLoop, kClicks, Refuses::Part, scanRow<AbKey>,
-     [](P on, int) { return awake(on, 0) && on.state.transport.playingFlag == kOn; }, [](P on) { return on.state.transport.abSetA; }},
+    {Action::TimeMode, kClicks, Refuses::Part, scanRow<TimeKey>, [](P on, int) { return awake(on, 0) && !on.state.transport.pausedFlag; },
+     off},
+    {Action::AbLoop, kClicks, Refuses::Part, scanRow<AbKey>, [](P on, int) { return awake(on, 0) && on.state.transport.playingFlag; },
+     [](P on) { return on.state.transport.abSetA; }},
     {Action::Track, kClicks, Refuses::Row, [](P on, By, int track) { on.buttons.Image17_MouseUp(static_cast<size_t>(track - 1)); },
      numberLit, off},
     {Action::Above20, kClicks, Refuses::Row, smallKey<Above20>,
      [](P on, int) { return awake(on, 0) && on.form.Label44.foreColor != colours::kGrey; },
      [](P on) { return on.form.Text1.visible.get(); }},
     {Action::Shuffle, kClicks, Refuses::Part, smallKey<Shuffle>,
-     [](P on, int) { return awake(on, 0) && on.state.transport.pausedFlag != kOn && on.looks.acceptsShuffle(); }, off},
+     [](P on, int) { return awake(on, 0) && !on.state.transport.pausedFlag && on.looks.acceptsShuffle(); }, off},
     {Action::Repeat, kClicks, Refuses::Part, smallKey<Repeat>, [](P on, int) { return on.looks.acceptsRepeat(); },
      [](P on) { return on.state.settings.repeatOn == kOn; }},
     {Action::TrackList, kClicks, Refuses::Row, upward<&FaceplateUpward::showTrackList>,
@@ -133,9 +131,9 @@ const Act kActs[] = {
     {Action::Intro, kClicks, Refuses::Row, mode<IntroKey>, awake, modeIs<IntroKey>},
     {Action::NextMode, kSilent, Refuses::Row, [](P on, By, int) { on.modes.nextMode(); }, awake, off},
     {Action::Recall, kSilent, Refuses::Row, [](P on, By, int) { on.modes.Label30_Click(); },
-     [](P on, int) { return awake(on, 0) && on.state.program.pgmStored == kOn; }, off},
+     [](P on, int) { return awake(on, 0) && on.state.program.pgmStored; }, off},
     {Action::Seek, kSilent, Refuses::Part, [](P on, By, int x) { on.buttons.CDStatusBar_Click(x); }, playing, off},
-    {Action::Eject, kClicks, Refuses::Row, eject, always, [](P on) { return on.state.disc.drawerOpen == kOn; }},
+    {Action::Eject, kClicks, Refuses::Row, eject, always, [](P on) { return on.state.disc.drawerOpen; }},
     {Action::PutIn, kSilent, Refuses::Row, [](P on, By, int) { on.choice.ask(); }, discWanted, off},
     {Action::Mute, kClicks, Refuses::Row, mute, always, [](P on) { return on.volume.muted(); }},
     {Action::Louder, kSilent, Refuses::Row, louder<1>, always, off},

@@ -11,7 +11,7 @@ namespace {
 constexpr int kPlateauLeft = 54;
 constexpr int kPlateauTop = 70;
 
-int pressDepth(const SharedState& state) { return state.process.smallFonts == kOn ? 10 : 12; }
+int pressDepth(const SharedState& state) { return state.process.smallFonts ? 10 : 12; }
 
 }  // namespace
 
@@ -73,7 +73,7 @@ void Buttons::icntla_MouseUp(size_t key) {
 void Buttons::scntla_MouseDown(size_t key) {
   if (asleep() || (key != ScanBack && key != ScanForward)) return;
   engine_.settle();
-  if (state_.transport.playingFlag != kOn || !looks_.acceptsScan()) return;
+  if (!state_.transport.playingFlag || !looks_.acceptsScan()) return;
   looks_.lightScan(key, true);
   state_.transport.scanCount = static_cast<int16_t>(key == ScanForward ? 1 : -1);
 }
@@ -87,12 +87,12 @@ void Buttons::scntla_MouseUp(size_t key) {
 }
 
 void Buttons::timeMode() {
-  if (state_.transport.pausedFlag == kOn) return;
+  if (state_.transport.pausedFlag) return;
   state_.display.lastShownTrack = state_.display.lastShownSec = 0;
   int16_t& mode = state_.settings.timeMode;
   mode = static_cast<int16_t>(mode < Time || mode >= TotRem ? Time : mode + 1);
   display_.showTimeModeLabel();
-  if (state_.transport.playingFlag == kOn && display_.number() > 0) {
+  if (state_.transport.playingFlag && display_.number() > 0) {
     engine_.showPlace();
   } else {
     display_.restTime();

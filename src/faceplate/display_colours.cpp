@@ -40,7 +40,7 @@ void legend(forms::Control& label, Colour ground) {
 
 void paintLevelBars(CDForm& form, const Settings& settings) {
   const bool muted = form.Image2[0].visible;
-  form.VbarbtmL.backColor = form.VbarbtmR.backColor = muted ? colours::kRed : settings.customColor[4];
+  form.VbarbtmL.backColor = form.VbarbtmR.backColor = muted ? colours::kRed : settings.customColor[kCustomBars];
 }
 
 void DisplayColours::loadorvanta1() {
@@ -57,7 +57,7 @@ void DisplayColours::loadorvanta1() {
 
 /// Without the display's font plain digits serve, and the time key's caption goes a little up.
 void DisplayColours::fonts() {
-  const bool coarse = state_.process.smallFonts == kOn;
+  const bool coarse = state_.process.smallFonts;
   if (screen_.hasFont(form_.Label8.font.get().family) && state_.settings.noLcdFont != 1) {
     if (!coarse) return;
     form_.Label24.move(5330, 2320);
@@ -91,7 +91,7 @@ void DisplayColours::legendFonts() {
 
 /// The user's fonts for the two title lines, when the first is named.
 void DisplayColours::titleFonts() {
-  if (state_.settings.fonts[0].fontName.empty()) return;
+  if (state_.settings.fonts[kDiscFont].fontName.empty()) return;
   for (size_t i = 0; i < 2; ++i) {
     const FontGroup& group = state_.settings.fonts[i];
     forms::Label& label = i == 0 ? form_.Label12 : form_.Label13;
@@ -114,13 +114,13 @@ void DisplayColours::background() {
   const bool picture = settings.faceplateBitmapOn > 0 && !settings.faceplateBitmap.empty() && files_.exists(settings.faceplateBitmap);
   form_.Image8.picture = picture ? settings.faceplateBitmap : std::string();
   if (!picture) return;
-  settings.customColor[1] = 0;
+  settings.customColor[kCustomMetal] = 0;
   if (settings.faceplateBorder != 1) form_.Label41.foreColor = kModelOnPicture;
 }
 
 /// Pictures in the data folder's "system" take the place of the deck's own drawings, one by one.
 void DisplayColours::pictures() {
-  if (state_.process.smallFonts != kOn) return;
+  if (!state_.process.smallFonts) return;
   const auto load = [this](forms::Image& image, const char* name) {
     const std::string path = DataFolder(files_, state_.settings.appDir).own(name);
     image.picture = files_.exists(path) ? path : std::string();
@@ -150,12 +150,12 @@ void DisplayColours::loadorvanta1b() {
   };
   // A screen of few colours keeps its plain dark panels.
   const bool enough = state_.process.colourCount >= kFewColours;
-  if (enough && colour[1] + uint64_t{colour[2]} + colour[3] + colour[4] > 0) {
-    for (auto* line : {&form_.Line2, &form_.Line3, &form_.Line4, &form_.Line5}) line->foreColor = colour[0];
-    form_.backColor = colour[1];
-    paint({&form_.Label1, &form_.Label2, &form_.Label3, &form_.Label4, &form_.Label5}, colour[1]);
-    paint({&form_.Panel3D2, &form_.Panel3D6, &form_.Panel3D7, &form_.Panel3D8}, colour[2]);
-    paint({&form_.Panel3D3, &form_.SSPanel1}, colour[3]);
+  if (enough && colour[kCustomMetal] + uint64_t{colour[kCustomDoor]} + colour[kCustomKeypad] + colour[kCustomBars] > 0) {
+    for (auto* line : {&form_.Line2, &form_.Line3, &form_.Line4, &form_.Line5}) line->foreColor = colour[kCustomBorderLines];
+    form_.backColor = colour[kCustomMetal];
+    paint({&form_.Label1, &form_.Label2, &form_.Label3, &form_.Label4, &form_.Label5}, colour[kCustomMetal]);
+    paint({&form_.Panel3D2, &form_.Panel3D6, &form_.Panel3D7, &form_.Panel3D8}, colour[kCustomDoor]);
+    paint({&form_.Panel3D3, &form_.SSPanel1}, colour[kCustomKeypad]);
   } else if (enough) {
     form_.backColor = kMetal;
     ownBack({&form_.Label1, &form_.Label2, &form_.Label3, &form_.Label4, &form_.Label5, &form_.Panel3D6, &form_.Panel3D7, &form_.Panel3D8,
@@ -197,7 +197,7 @@ void DisplayColours::panes() {
 void DisplayColours::loadorvanta1a() {
   display_.calendar();
   looks_.numbers(state_.disc.trackCount);
-  looks_.programStored(state_.program.pgmStored == kOn);
+  looks_.programStored(state_.program.pgmStored);
 }
 
 void DisplayColours::disabledLook() {

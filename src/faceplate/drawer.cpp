@@ -69,13 +69,14 @@ void Drawer::opendrawer() {
   if (motion_ == Motion::Opening || (isOpen() && motion_ == Motion::None)) return;
   if (form_.Panel3D6.visible) sounds_.play(Sound::OpenDrawer);
   // A deck that found no disc has nothing lying in its tray.
-  for (auto* panel : {&form_.Panel3D8, &form_.Panel3D7, &form_.Panel3D9, &form_.Panel3D10}) panel->empty = state_.disc.noDiscState > 0;
+  for (auto* panel : {&form_.Panel3D8, &form_.Panel3D7, &form_.Panel3D9, &form_.Panel3D10})
+    panel->empty = state_.disc.noDiscState != kDiscAtStart;
   start(Motion::Opening);
   looks_.show(DeckState::DoorOpen);
   form_.Image11.enabled = false;
   // Stays until the next process has started: that is how the old one knows.
   data_.mark(DataFile::HandOver);
-  if (state_.settings.appOptions[2] == 1 && state_.disc.discLoaded == kOn && !leaving_) {
+  if (state_.settings.appOptions[kExitOnEject] == 1 && state_.disc.discLoaded && !leaving_) {
     // Eject opens the drawer, and the open drawer ejects: once round is enough.
     leaving_ = true;
     // While a window of the user's holds the exit, the eject that opened the drawer goes its way.
@@ -164,7 +165,7 @@ void Drawer::closeFrame(int frame) {
     form_.Panel3D6.move(kDoorClosed.left, kDoorClosed.top);
     for (size_t i = 0; i < 2; ++i) form_.Image77[i].visible = form_.Label77[i].visible = true;
     form_.Line7.visible = true;
-    form_.Panel3D2.backColor = state_.settings.customColor[2] != 0 ? state_.settings.customColor[2] : 0x3D3733;
+    form_.Panel3D2.backColor = state_.settings.customColor[kCustomDoor] != 0 ? state_.settings.customColor[kCustomDoor] : 0x3D3733;
     bevels(form_.Panel3D2, 2);
     form_.Panel3D2.refresh();
   }

@@ -8,8 +8,8 @@ namespace orvanta {
 
 struct Faceplate {
   Faceplate(const FaceplatePorts& ports, Playback& playback, CDForm& form, SharedState& state, FaceplateUpward& upward)
-      : position(ports.files, ports.screen, form, state),
-        layout(ports.screen, position, playback.looks, form, state),
+      : place(ports.files, ports.screen, form, state),
+        layout(ports.screen, place, playback.looks, form, state),
         sounds(ports, state),
         mixer(ports, form, state),
         volume(ports, layout, mixer, sounds, form, state),
@@ -23,11 +23,11 @@ struct Faceplate {
         title(form),
         keyboard(actions, entry, volume, form),
         load(ports, playback, colours, layout, volume, sounds, form, state),
-        events(load, actions, keyboard, volume, layout, position, choice, title, form, state) {
+        events(load, actions, keyboard, volume, layout, place, choice, title, form, state) {
     playback.status.watch([this](const DeckStatus& now) { title.show(now); });
   }
 
-  Position position;
+  WindowPlace place;
   Layout layout;
   InterfaceSounds sounds;
   MixerDriver mixer;

@@ -15,13 +15,13 @@ constexpr int kDragStarts = 60;  ///< twips that a hand moves before the window 
 }  // namespace
 
 FaceplateEvents::FaceplateEvents(FaceplateLoad& load, Actions& actions, Keyboard& keyboard, Volume& volume, Layout& layout,
-                                 Position& position, DiscChoice& choice, TaskTitle& title, CDForm& form, const SharedState& state)
+                                 WindowPlace& place, DiscChoice& choice, TaskTitle& title, CDForm& form, const SharedState& state)
     : load_(load),
       actions_(actions),
       keyboard_(keyboard),
       volume_(volume),
       layout_(layout),
-      position_(position),
+      place_(place),
       choice_(choice),
       title_(title),
       look_(form, state),
@@ -82,9 +82,9 @@ void FaceplateEvents::doubleClick(forms::Control* control) {
   if (control != nullptr && control != &form_.Image8) return;
   // The window has moved away under the hand: what is held of it is no drag.
   grip_.reset();
-  position_.Form_DblClick();
+  place_.Form_DblClick();
 }
 
-void FaceplateEvents::dragged() { position_.saveposn1(); }
+void FaceplateEvents::dragged() { place_.saveposn1(); }
 
 }  // namespace orvanta

@@ -6,16 +6,16 @@
 #include "faceplate/actions.h"
 #include "faceplate/faceplate_load.h"
 #include "faceplate/keyboard.h"
-#include "faceplate/position.h"
 #include "faceplate/pressed_look.h"
 #include "faceplate/task_title.h"
+#include "faceplate/window_place.h"
 #include "platform/forms/form.h"
 
 namespace orvanta {
 
 class FaceplateEvents : public forms::FormEvents {
  public:
-  FaceplateEvents(FaceplateLoad& load, Actions& actions, Keyboard& keyboard, Volume& volume, Layout& layout, Position& position,
+  FaceplateEvents(FaceplateLoad& load, Actions& actions, Keyboard& keyboard, Volume& volume, Layout& layout, WindowPlace& place,
                   DiscChoice& choice, TaskTitle& title, CDForm& form, const SharedState& state);
 
   void load() override { load_.load(); }
@@ -40,7 +40,7 @@ class FaceplateEvents : public forms::FormEvents {
   Keyboard& keyboard_;
   Volume& volume_;
   Layout& layout_;
-  Position& position_;
+  WindowPlace& place_;
   DiscChoice& choice_;
   TaskTitle& title_;
   PressedLook look_;

@@ -68,7 +68,7 @@ void FaceplateLoad::load() {
   }
   if (disc && leadingNumber(state_.process.commandWord) > 0) {
     playTrackOfCommandLine();
-  } else if (state_.settings.appOptions[3] == 1) {
+  } else if (state_.settings.appOptions[kMixerAtStart] == 1) {
     sounds_.runMixerAtStart();
   }
   playback_.start();
@@ -78,7 +78,7 @@ void FaceplateLoad::load() {
 void FaceplateLoad::playTrackOfCommandLine() {
   const auto track = static_cast<int16_t>(leadingNumber(state_.process.commandWord));
   state_.process.commandWord.clear();
-  state_.process.autoStartMode = kOff;
+  state_.process.autoStartMode = false;
   if (track > state_.disc.trackCount) return;
   state_.disc.discSum = playback_.layer.sumOfTracks();
   playback_.load.deferredTable();
@@ -89,24 +89,24 @@ void FaceplateLoad::playTrackOfCommandLine() {
 void FaceplateLoad::setPlayState() {
   state_.transport.playMode = Cont;
   state_.program.pgmList.fill(0);
-  state_.transport.trackGo = 1;
+  state_.transport.trackGo = kTrackRuns;
   state_.transport.curTrack = 1;
-  state_.disc.discStarted = kOff;
+  state_.disc.discStarted = false;
   state_.disc.lampCount = std::min<int16_t>(state_.disc.trackCount, 20);
-  state_.disc.discLoaded = state_.disc.trackCount > 0 ? kOn : kOff;
+  state_.disc.discLoaded = state_.disc.trackCount > 0;
 }
 
 void FaceplateLoad::activate() {
   volume_.activate();
   colours_.loadorvanta1b();
-  if (state_.disc.noDiscState == 0) return;
+  if (state_.disc.noDiscState == kDiscAtStart) return;
   colours_.disabledLook();
   playback_.looks.show(DeckState::NoDisc);
 }
 
 void FaceplateLoad::unload() {
   writeSettings(SettingsFile::SettingsDat, files_, state_.settings.appDir, state_.settings);
-  state_.disc.trackTableDone = kOff;
+  state_.disc.trackTableDone = false;
   DataFolder(files_, state_.settings.appDir).unmark(DataFile::Running);
 }
 

@@ -31,7 +31,7 @@ constexpr const char* kNoMixer =
 
 void InterfaceSounds::play(Sound sound) {
   if (state_.process.osFamily > 1) return;
-  if (state_.settings.soundsOff == kOn || state_.display.quietOnce == kOn || state_.settings.smallFaceplate == kOn) return;
+  if (state_.settings.soundsOff == kOn || state_.display.quietOnce || state_.settings.smallFaceplate == kOn) return;
   ports_.sounds.play(DataFolder(ports_.files, state_.settings.appDir).own(kFiles[static_cast<size_t>(sound)]));
 }
 

@@ -28,7 +28,7 @@ void Layout::apply() {
   if (state_.settings.smallFaceplate == kOn) {
     fpsm1();
   } else {
-    position_.posfp1();
+    place_.posfp1();
   }
 }
 
@@ -160,7 +160,7 @@ void Layout::fpsm1() {
   if (coarse()) form_.icntlb[Record].width = kMarkWidthSmall;
   resize(layouts::kSmall.width, layouts::kSmall.height);
   border();
-  position_.posfp1();
+  place_.posfp1();
 }
 
 void Layout::fpLG1() {
@@ -180,7 +180,7 @@ void Layout::fpLG1() {
   icntlsf();
   sizeLarge();
   border();
-  position_.posfp1();
+  place_.posfp1();
 }
 
 void Layout::Image11_Click() {

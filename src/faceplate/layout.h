@@ -1,7 +1,7 @@
 // The faceplate's layouts: large or small, normal or expanded display.
 #pragma once
 
-#include "faceplate/position.h"
+#include "faceplate/window_place.h"
 #include "playback/key_looks.h"
 #include "state/shared_state.h"
 #include "windows/cdform.h"
@@ -12,8 +12,8 @@ class Screen;
 
 class Layout {
  public:
-  Layout(Screen& screen, Position& position, KeyLooks& looks, CDForm& form, SharedState& state)
-      : screen_(screen), position_(position), looks_(looks), form_(form), state_(state) {}
+  Layout(Screen& screen, WindowPlace& place, KeyLooks& looks, CDForm& form, SharedState& state)
+      : screen_(screen), place_(place), looks_(looks), form_(form), state_(state) {}
 
   /// At load: the layout that the settings ask for, at its stored place.
   void apply();
@@ -46,10 +46,10 @@ class Layout {
   void showLargeParts(bool show);
   void resize(int width, int height);
   bool drawerOpen() const;
-  bool coarse() const { return state_.process.smallFonts == kOn; }
+  bool coarse() const { return state_.process.smallFonts; }
 
   Screen& screen_;
-  Position& position_;
+  WindowPlace& place_;
   KeyLooks& looks_;
   CDForm& form_;
   SharedState& state_;

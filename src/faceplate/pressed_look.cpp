@@ -34,7 +34,7 @@ void PressedLook::down(forms::Control& control) {
     showPair(name == "Image19" ? form_.Image19 : form_.Image20, true);
     return;
   }
-  depth_ = inPanel || state_.process.smallFonts == kOn ? kPanelDepth : kPanelDepth + 2;
+  depth_ = inPanel || state_.process.smallFonts ? kPanelDepth : kPanelDepth + 2;
   caption_ = control.with(forms::Role::Caption);
   hole_ = control.with(forms::Role::Hole);
   if (hole_ != nullptr) {

@@ -21,7 +21,6 @@ namespace orvanta {
 namespace {
 
 constexpr int kOutOfSight = 100;  ///< twips past the screen's right edge
-constexpr int16_t kUnseen = 3;    ///< cddbMode of a save without a person
 constexpr size_t kFileName = 11;  ///< of a disc's file, with its suffix
 
 std::vector<std::string> ratings() {
@@ -53,8 +52,8 @@ void CdData::openFromFaceplate() {
     return;
   }
   if (state_.disc.discKey.empty()) return;
-  state_.library.cddbMode = 0;
-  state_.library.editorFromFaceplate = kOn;
+  state_.library.cddbMode = kFromFaceplate;
+  state_.library.editorFromFaceplate = true;
   ports_.screen.setPointer(Pointer::Hourglass);
   state_.disc.discInfo[kTrackCount] = std::to_string(state_.disc.trackCount);
   form_.show(ports_.desktop);
@@ -63,8 +62,8 @@ void CdData::openFromFaceplate() {
 
 void CdData::openUnseen() {
   if (state_.disc.discKey.empty()) return;
-  state_.library.cddbMode = kUnseen;
-  state_.library.editorFromFaceplate = kOff;
+  state_.library.cddbMode = kAutomatic;
+  state_.library.editorFromFaceplate = false;
   form_.load(ports_.desktop);
 }
 
@@ -72,7 +71,7 @@ void CdData::openUnseen() {
 
 void CdData::load() {
   visit_ = {};
-  visit_.byPerson = state_.library.editorFromFaceplate == kOn && state_.library.cddbMode != kUnseen;
+  visit_.byPerson = state_.library.editorFromFaceplate && state_.library.cddbMode != kAutomatic;
   visit_.tookPlace = visit_.byPerson && state_.settings.editorFromFaceplate == kOn;
   if (visit_.tookPlace) upward_.hideFaceplate();
   if (!visit_.byPerson) form_.Command11.visible = form_.Command12.visible = false;
@@ -88,7 +87,7 @@ void CdData::load() {
   form_.SSFrame4.top = form_.Frame3D1.top = kTabAway;
   DiscFiles(ports_.files, disc_.cdFilePath).readTexts(disc_);
   // OK makes the texts that came with the disc the user's own.
-  if (!ports_.files.exists(disc_.cdFilePath) && fillFromSheet(disc_, ports_.device.texts())) state_.library.dataDirty = kOn;
+  if (!ports_.files.exists(disc_.cdFilePath) && fillFromSheet(disc_, ports_.device.texts())) state_.library.dataDirty = true;
   form_.Label13.caption = totalTime();
   fillProposals();
   fillFields();
@@ -107,7 +106,7 @@ void CdData::beginFill() {
 }
 
 void CdData::place() {
-  form_.parked = state_.library.cddbMode == kUnseen;
+  form_.parked = state_.library.cddbMode == kAutomatic;
   if (form_.parked) {
     form_.left = ports_.screen.widthTwips() + kOutOfSight;
     return;
@@ -159,8 +158,8 @@ void CdData::fillFields() {
   form_.Text6.caption = disc.discInfo[kLabel];
   form_.cat.caption = disc.discInfo[kGenre];
   for (const FieldControl& field : extraFields(form_)) field.control.caption = extraField(disc, field.index);
-  if (disc.enhancedCd > 0) {
-    form_.mediatype.choose(disc.enhancedCd);
+  if (disc.enhancedCd) {
+    form_.mediatype.choose(1);
   } else {
     form_.mediatype.caption = extraField(disc, kMediaType);
     if (trim(form_.mediatype.caption.get()).empty()) form_.mediatype.choose(0);
@@ -185,7 +184,7 @@ void CdData::activate() {
 void CdData::markPlaying() {
   if (!form_.loaded()) return;
   const int16_t track = state_.transport.curTrack;
-  form_.List1.markedRow = onDeck() && state_.transport.playingFlag == kOn && track >= 1 ? track - 1 : -1;
+  form_.List1.markedRow = onDeck() && state_.transport.playingFlag && track >= 1 ? track - 1 : -1;
 }
 
 /// Its disc is the one that the deck shows.
@@ -200,7 +199,7 @@ void CdData::updateSubmitKey() {
   const std::string title(trim(form_.Text4.caption.get()));
   const bool named = !title.empty() && !trim(form_.Text2.caption.get()).empty() && title != "Please Wait...";
   const bool tracks = characterCount(form_.List1.row(0)) > kLeast;
-  form_.Command12.enabled = named && tracks && upward_.mailSenderKnown() && state_.library.cddbMode != 9;
+  form_.Command12.enabled = named && tracks && upward_.mailSenderKnown() && state_.library.cddbMode != kNoSubmission;
 }
 
 void CdData::unload() {

@@ -36,7 +36,7 @@ class CdData : public forms::FormEvents {
 
   /// By a person, from the faceplate; nothing without a disc.
   void openFromFaceplate();
-  /// Unseen, to be filled and saved by program: LibraryState::cddbMode is 3.
+  /// Unseen, to be filled and saved by program: LibraryState::cddbMode is kAutomatic.
   void openUnseen();
   /// OK: saves what was changed and closes. A person's window stays open when something could not be saved: false.
   bool Command1_Click();

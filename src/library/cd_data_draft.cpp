@@ -62,7 +62,7 @@ void CdData::takeUp(const Draft& draft) {
     control->caption = text;
     edited(*control);
   }
-  state_.library.dataDirty = kOn;
+  state_.library.dataDirty = true;
   visit_.changed = true;
   updateSubmitKey();
 }
@@ -79,7 +79,7 @@ bool CdData::takeUpRow(const std::string& name, const std::string& text) {
       list->set(row, lyricsRow(row + 1, withCrLf(text)));
     }
     // A row of the lists is one of those changes that Cancel asks about, since they were nearly lost once.
-    state_.library.askOnCancel = kOn;
+    state_.library.askOnCancel = true;
     return true;
   }
   return false;

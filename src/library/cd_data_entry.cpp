@@ -42,8 +42,8 @@ void CdData::edited(forms::Control& control) {
     entryOf(control).typed();
     return;
   }
-  state_.library.dataDirty = kOn;
-  if (oneOf(kAsking, control.name())) state_.library.askOnCancel = kOn;
+  state_.library.dataDirty = true;
+  if (oneOf(kAsking, control.name())) state_.library.askOnCancel = true;
   if (&control == &form_.Text2 || &control == &form_.Text4) updateSubmitKey();
 }
 
@@ -152,7 +152,7 @@ void CdData::takeEntry(RowEntry& entry) {
   const int row = entry.row();
   const std::string text(trim(entry.box().caption.get()));
   entry.taken();
-  state_.library.dataDirty = kOn;
+  state_.library.dataDirty = true;
   if (&entry == &titles_) {
     form_.List1.set(row, trackRow(disc_, row + 1, std::string(firstCharacters(withoutControls(text), kLongestTitle))));
     return;
@@ -180,7 +180,7 @@ void CdData::textin() {
   if (row < 0 || row >= form_.List1.count()) return;
   if (titles_.box().caption.get() != rowTitle(form_.List1.row(row))) titles_.typed();
   takeEntry(titles_);
-  state_.library.dataDirty = kOn;
+  state_.library.dataDirty = true;
   nextRow(titles_, row);
 }
 
@@ -189,12 +189,12 @@ void CdData::textin2() {
   if (row < 0 || row >= form_.List2.count()) return;
   if (lyrics_.box().caption.get() != state_.library.trackLyrics[static_cast<size_t>(row) + 1]) lyrics_.typed();
   takeEntry(lyrics_);
-  state_.library.dataDirty = kOn;
+  state_.library.dataDirty = true;
   nextRow(lyrics_, row);
 }
 
 void CdData::enterCorrection() {
-  state_.library.dataDirty = kOn;
+  state_.library.dataDirty = true;
   form_.Text5.caption = std::to_string(correction());
   form_.setFocus(form_.Command1);
 }

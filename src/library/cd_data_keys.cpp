@@ -64,7 +64,7 @@ void CdData::pressed(const std::string& name) {
 void CdData::addGenre() {
   const auto genre = on_.genres.addGenre();
   if (!genre) return;
-  state_.library.askOnCancel = state_.library.dataDirty = kOn;
+  state_.library.askOnCancel = state_.library.dataDirty = true;
   visit_.changed = true;
   on_.genres.fillGenres(form_.cat);
   form_.cat.caption = *genre;
@@ -91,8 +91,8 @@ void CdData::ok() {
 }
 
 void CdData::cancel() {
-  if ((state_.library.askOnCancel == kOn || entryWaits()) && !askLoseChanges()) return;
-  state_.library.askOnCancel = kOff;
+  if ((state_.library.askOnCancel || entryWaits()) && !askLoseChanges()) return;
+  state_.library.askOnCancel = false;
   close();
 }
 
@@ -116,7 +116,7 @@ void CdData::clear() {
   }
   for (auto& field : disc_.extraInfo) field.clear();
   state_.library.trackLyrics.fill("");
-  state_.library.dataDirty = state_.library.askOnCancel = kOn;
+  state_.library.dataDirty = state_.library.askOnCancel = true;
   visit_.changed = true;
 }
 

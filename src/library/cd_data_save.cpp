@@ -25,7 +25,7 @@ int16_t CdData::correction() const {
 
 bool CdData::Command1_Click() {
   ports_.screen.setPointer(Pointer::Hourglass);
-  const Unwritten failed = state_.library.dataDirty == kOn ? save() : Unwritten{};
+  const Unwritten failed = state_.library.dataDirty ? save() : Unwritten{};
   if (failed.any()) {
     ports_.screen.setPointer(Pointer::Normal);
     tellNotWritten(ports_.dialogs, failed.path, failed.reason);
@@ -35,7 +35,7 @@ bool CdData::Command1_Click() {
   static_cast<DiscTexts&>(state_.disc) = disc_;
   state_.disc.timeCorrection = disc_.timeCorrection;
   if (onDeck()) updateFaceplate();
-  state_.library.askOnCancel = kOff;
+  state_.library.askOnCancel = false;
   close();
   return !failed.any();
 }
@@ -50,7 +50,7 @@ Unwritten CdData::save() {
 void CdData::saveFields() {
   DiscState& disc = disc_;
   for (const FieldControl& field : extraFields(form_)) disc.extraInfo[field.index] = field.control.caption;
-  disc.extraInfo[kMediaType] = disc.enhancedCd == 1 ? "Enhanced Audio CD" : form_.mediatype.caption.get();
+  disc.extraInfo[kMediaType] = disc.enhancedCd ? "Enhanced Audio CD" : form_.mediatype.caption.get();
   for (int track = 1; track <= listedTracks(disc); ++track) setLyrics(disc, track, state_.library.trackLyrics[static_cast<size_t>(track)]);
   disc.discTitle = form_.Text4.caption;
   disc.discArtist = form_.Text2.caption;

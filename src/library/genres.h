@@ -16,7 +16,8 @@ class Files;
 
 class Genres {
  public:
-  Genres(Files& files, Dialogs& dialogs, SharedState& state) : files_(files), data_(files, state.settings.appDir), dialogs_(dialogs), state_(state) {}
+  Genres(Files& files, Dialogs& dialogs, SharedState& state)
+      : files_(files), data_(files, state.settings.appDir), dialogs_(dialogs), state_(state) {}
 
   /// The fixed genres and the user's, sorted, into a combo.
   void fillGenres(forms::Combo& combo) const;

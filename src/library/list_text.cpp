@@ -71,6 +71,25 @@ void addOwnField(forms::ListBox& list, const std::string& caption, const std::st
   list.add(std::string(trim(value)));
 }
 
+/// What CD Info tells of a disc where it is set, in this order.
+constexpr std::pair<const char*, size_t> kFields[] = {
+    {"YEAR RELEASED:", kYear},
+    {"UPC #:", kUpcNumber},
+    {"ARTIST WEB SITE:", kArtistSite},
+    {"ARTIST INFO:", kArtistInfo},
+    {"STORAGE LOCATION:", kStorage},
+    {"ALBUM CREDITS:", kAlbumCredits},
+    {"ALBUM INFO:", kAlbumInfo},
+    {"RECORDING INFO:", kRecordingInfo},
+    {"RECORDING VENUE:", kRecordingVenue},
+    {"MUSIC RATING:", kMusicRating},
+    {"RECORDING RATING:", kRecordingRating},
+    {"MEDIA RATING:", kMediaRating},
+    {"PACKAGING RATING:", kPackageRating},
+    {"CONTENTS RATING:", kContentsRating},
+    {"RECORDING CODE:", kRecordingCode},
+};
+
 }  // namespace
 
 int listedTracks(const DiscState& disc) { return std::min<int>(disc.trackCount, kMostTracks); }
@@ -127,24 +146,7 @@ void fillCdInfoList(forms::ListBox& list, DiscState& disc, const LibraryState& l
   addIfSet(list, "CATALOG #:", extraField(disc, kCatalogNumber));
   list.add("");
   const std::string media(trim(extraField(disc, kMediaType)));
-  list.add("MEDIA TYPE:  " + (disc.enhancedCd > 0 ? "Enhanced Audio CD" : media.empty() ? "Audio CD" : media));
-  static constexpr std::pair<const char*, size_t> kFields[] = {
-      {"YEAR RELEASED:", kYear},
-      {"UPC #:", kUpcNumber},
-      {"ARTIST WEB SITE:", kArtistSite},
-      {"ARTIST INFO:", kArtistInfo},
-      {"STORAGE LOCATION:", kStorage},
-      {"ALBUM CREDITS:", kAlbumCredits},
-      {"ALBUM INFO:", kAlbumInfo},
-      {"RECORDING INFO:", kRecordingInfo},
-      {"RECORDING VENUE:", kRecordingVenue},
-      {"MUSIC RATING:", kMusicRating},
-      {"RECORDING RATING:", kRecordingRating},
-      {"MEDIA RATING:", kMediaRating},
-      {"PACKAGING RATING:", kPackageRating},
-      {"CONTENTS RATING:", kContentsRating},
-      {"RECORDING CODE:", kRecordingCode},
-  };
+  list.add("MEDIA TYPE:  " + (disc.enhancedCd ? "Enhanced Audio CD" : media.empty() ? "Audio CD" : media));
   for (const auto& [caption, index] : kFields) addIfSet(list, caption, extraField(disc, index));
   const auto caption = [&](size_t which, const char* usual) {
     return library.userCaptions[which].empty() ? std::string(usual) : library.userCaptions[which];

@@ -41,9 +41,9 @@ void Playlist::load() {
   form_.List1.multiSelect = form_.List2.multiSelect = true;
   for (auto* list : {&form_.List1, &form_.List2}) dressList(*list, state_.settings);
   form_.Command2.enabled = discFiles().programExists();
-  form_.Command10.enabled = state_.program.pgmStored == kOn;
+  form_.Command10.enabled = state_.program.pgmStored;
   previewRow_ = kNoRow;
-  previewing_ = kOff;
+  previewing_ = false;
   fill();
 }
 
@@ -178,7 +178,7 @@ void Playlist::save() {
     tellNotWritten(ports_.dialogs, failed.path, failed.reason);
     return;
   }
-  state_.program.pgmStored = kOn;
+  state_.program.pgmStored = true;
   form_.Command10.enabled = true;
   display_.program(true);
   play();
@@ -194,14 +194,14 @@ void Playlist::recall() {
 }
 
 void Playlist::deleteProgram() {
-  if (state_.program.pgmStored != kOn) return;
+  if (!state_.program.pgmStored) return;
   if (!ports_.dialogs.askYesNo(BoxStyle::Critical, "Orvanta", "Are you sure you wish to delete this playlist?")) return;
   if (const Unwritten failed = discFiles().deleteProgram(); failed.any()) {
     tellNotWritten(ports_.dialogs, failed.path, failed.reason);
     return;
   }
   engine_.clrpgm();
-  state_.program.pgmStored = kOff;
+  state_.program.pgmStored = false;
   form_.Command10.enabled = false;
   display_.program(false);
 }
@@ -216,14 +216,14 @@ void Playlist::play() {
   for (size_t i = 0; i < tracks.size() && i < kProgramEntries; ++i) state_.program.pgmList[i + 1] = static_cast<int16_t>(tracks[i]);
   form_.unload();
   // The disc may have gone meanwhile: the program waits for it then.
-  if (state_.disc.trackCount > 0 && state_.disc.drawerOpen == kOff) engine_.playKey();
+  if (state_.disc.trackCount > 0 && !state_.disc.drawerOpen) engine_.playKey();
 }
 
 void Playlist::prvcdt() {
-  previewing_ = kOn;
+  previewing_ = true;
   modes_.Image4_MouseUp(OneKey);
   if (previewRow_ < 0 || previewRow_ >= state_.disc.trackCount) return;
-  if (previewRow_ + 1 == state_.transport.curTrack && state_.transport.playingFlag == kOn) return;
+  if (previewRow_ + 1 == state_.transport.curTrack && state_.transport.playingFlag) return;
   state_.transport.selTrack = previewRow_;
   engine_.clrab();
   engine_.jump();
@@ -232,11 +232,11 @@ void Playlist::prvcdt() {
 
 void Playlist::stop() {
   engine_.stopKey();
-  previewing_ = kOff;
+  previewing_ = false;
 }
 
 void Playlist::stopPreview() {
-  if (previewing_ == kOn) stop();
+  if (previewing_) stop();
 }
 
 }  // namespace orvanta

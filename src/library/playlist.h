@@ -56,7 +56,7 @@ class Playlist : public forms::FormEvents {
   CDForm& faceplate_;
   SharedState& state_;
   int16_t previewRow_ = 101;  ///< zero-based; 101 for none
-  int16_t previewing_ = kOff;
+  bool previewing_ = false;
 };
 
 }  // namespace orvanta

@@ -15,7 +15,7 @@ void StatusBoard::tell() {
 DeckStatus StatusBoard::now() const {
   const DiscState& disc = state_.disc;
   DeckStatus status;
-  status.state = disc.drawerOpen == kOn ? DeckState::DoorOpen : disc.noDiscState > 0 ? DeckState::NoDisc : engine_.heard();
+  status.state = disc.drawerOpen ? DeckState::DoorOpen : disc.noDiscState != kDiscAtStart ? DeckState::NoDisc : engine_.heard();
   status.discIn = disc.in();
   status.tracks = disc.trackCount;
   status.artist = disc.discArtist;
@@ -26,7 +26,7 @@ DeckStatus StatusBoard::now() const {
     status.track = track;
     status.length = secondsOf(disc.trackLengths[at]);
     if (status.state != DeckState::Stopped) status.second = static_cast<int>(state_.display.elapsedSec);
-    if (disc.discStarted == kOn && at < disc.trackTitles.size()) status.trackTitle = disc.trackTitles[at];
+    if (disc.discStarted && at < disc.trackTitles.size()) status.trackTitle = disc.trackTitles[at];
   }
   status.playMode = state_.transport.playMode;
   status.repeat = state_.settings.repeatOn == kOn;

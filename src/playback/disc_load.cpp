@@ -43,10 +43,10 @@ bool DiscLoad::probe() {
   }
   if (!playable) {
     if (layer_.openDevice()) loadDisc();
-    disc.noDiscState = 2;
+    disc.noDiscState = kNoDiscAtStart;
     return false;
   }
-  disc.noDiscState = 0;
+  disc.noDiscState = kDiscAtStart;
   disc.trackCount = 1;
   if (layer_.openDevice()) loadDisc();
   if (device_.length() == 0) totalFromTracks();
@@ -100,7 +100,7 @@ void DiscLoad::readTextsAgain() {
 void DiscLoad::readOwn() {
   const DiscFiles own(files_, state_.disc.cdFilePath);
   const auto program = own.program();
-  state_.program.pgmStored = program && !program->empty() && program->front() >= 1 ? kOn : kOff;
+  state_.program.pgmStored = program && !program->empty() && program->front() >= 1;
   state_.disc.timeCorrection = own.timeCorrection();
 }
 
@@ -121,12 +121,12 @@ void DiscLoad::totalFromTracks() {
 
 void DiscLoad::deferredTable() {
   DiscState& disc = state_.disc;
-  if (disc.trackTableDone == kOff) {
+  if (!disc.trackTableDone) {
     screen_.setPointer(Pointer::Hourglass);
     for (int16_t track = 1; track <= disc.trackCount; ++track) {
       disc.trackLengths[static_cast<size_t>(track)] = layer_.trackLengthText(track);
     }
-    disc.trackTableDone = kOn;
+    disc.trackTableDone = true;
     screen_.setPointer(Pointer::Normal);
   }
   if (typeShown_) return;
@@ -136,8 +136,8 @@ void DiscLoad::deferredTable() {
 
 void DiscLoad::clearOnRequest() {
   DiscState& disc = state_.disc;
-  if (disc.clearDiscRequest == kOff) return;
-  disc.clearDiscRequest = kOff;
+  if (!disc.clearDiscRequest) return;
+  disc.clearDiscRequest = false;
   disc.discArtist.clear();
   disc.discTitle.clear();
   display_.emptyHeader();
@@ -152,7 +152,7 @@ void DiscLoad::showDiscType() {
     return;
   }
   display_.discType("Enh-CD");
-  state_.disc.enhancedCd = kOn;
+  state_.disc.enhancedCd = true;
   looks_.darkenIntro();
   form_.Image12.visible = true;
 }

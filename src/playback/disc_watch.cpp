@@ -33,18 +33,18 @@ void DiscWatch::timer3_timer() {
 
 void DiscWatch::tick() {
   DiscState& disc = state_.disc;
-  if (state_.process.setupWanted == kOn) {
+  if (state_.process.setupWanted) {
     // Cleared first: the timer must not find it again while the setup program is open.
-    state_.process.setupWanted = kOff;
+    state_.process.setupWanted = false;
     upward_.runSetup();
   }
   answers_.take();
   modes_.introTick();
-  if (disc.drawerOpen == kOn) {
+  if (disc.drawerOpen) {
     drawerIsOpen();
     return;
   }
-  if (disc.noDiscState > 1 && discCameLater()) return;
+  if (disc.noDiscState != kDiscAtStart && discCameLater()) return;
   if (afterTheEnd()) return;
   disc.trackCount = device_.tracks();
   if (disc.trackCount == 0) discGone();
@@ -89,9 +89,9 @@ bool DiscWatch::afterTheEnd() {
     display_.clearBar();
     engine_.followState();
     // The small window has no mode keys: One would leave it at its track for good.
-    if (state_.display.popupOpen == kOn && state_.transport.playMode == One) modes_.Image4_MouseUp(ContKey);
+    if (state_.display.popupOpen && state_.transport.playMode == One) modes_.Image4_MouseUp(ContKey);
   }
-  if (state_.settings.appOptions[1] != 1 || state_.disc.discLoaded != kOn) return false;
+  if (state_.settings.appOptions[kEjectAtEnd] != 1 || !state_.disc.discLoaded) return false;
   engine_.mmcontrol1_EjectClick();
   return true;
 }
@@ -100,7 +100,7 @@ bool DiscWatch::afterTheEnd() {
 void DiscWatch::discGone() {
   device_.command("stop");
   device_.command("close");
-  state_.transport.playingFlag = state_.transport.pausedFlag = kOff;
+  state_.transport.playingFlag = state_.transport.pausedFlag = false;
   state_.transport.pausePosition = 0;
   engine_.endScan();
   engine_.clrab();
@@ -112,9 +112,9 @@ void DiscWatch::discGone() {
   display_.clearTime("00:00");
   upward_.closeDiscWindows();
   // The state first: nothing that the opening door sets off may take the deck for one with a disc.
-  state_.disc.drawerOpen = kOn;
+  state_.disc.drawerOpen = true;
   upward_.openDrawer();
-  if (state_.disc.noDiscState > 0) upward_.showNoDisc();
+  if (state_.disc.noDiscState != kDiscAtStart) upward_.showNoDisc();
 }
 
 }  // namespace orvanta

@@ -24,7 +24,7 @@ int16_t Display::number() const { return static_cast<int16_t>(leadingNumber(form
 std::string Display::title(int16_t number) const {
   const DiscState& disc = state_.disc;
   if (soundless_ && number >= 1) return "No sound output";
-  const bool known = disc.discStarted > 0 && number >= 1 && static_cast<size_t>(number) < disc.trackTitles.size();
+  const bool known = disc.discStarted && number >= 1 && static_cast<size_t>(number) < disc.trackTitles.size();
   return known ? disc.trackTitles[static_cast<size_t>(number)] : std::string();
 }
 
@@ -57,7 +57,7 @@ void Display::updateHeader(int16_t track, std::string_view word) {
     return;
   }
   form_.Label12.caption = text;
-  if (state_.disc.discStarted > 0) form_.Label13.caption = title(number());
+  if (state_.disc.discStarted) form_.Label13.caption = title(number());
 }
 
 void Display::soundless(bool now) {
@@ -86,7 +86,7 @@ void Display::showTimeModeLabel() {
 }
 
 void Display::restTime() {
-  const bool fresh = state_.disc.discStarted == kOff && state_.settings.timeMode == Total;
+  const bool fresh = !state_.disc.discStarted && state_.settings.timeMode == Total;
   form_.Label10.caption = fresh ? state_.disc.discLengthText : "00:00";
 }
 

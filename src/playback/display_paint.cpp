@@ -56,7 +56,7 @@ void Display::paintPlain() {
   fore({&form_.Label9, &form_.Label7, &form_.Label11}, kCyan);
   for (size_t lamp = 1; lamp <= kLampCells; ++lamp) form_.Label22[lamp].foreColor = kDarkGreen;
   form_.CDStatusBar.backColor = colours::kBlack;
-  const Colour flood = state_.settings.customColor[4];
+  const Colour flood = state_.settings.customColor[kCustomBars];
   if (flood != state_.settings.lcdFore) form_.CDStatusBar.floodColor = flood;
 }
 
@@ -79,9 +79,9 @@ void Display::spareLamps() {
 
 void Display::paintUser() {
   const auto& colour = state_.settings.customColor;
-  if (state_.settings.lcdCustom != 1 && colour[4] != state_.settings.lcdFore) form_.CDStatusBar.floodColor = colour[4];
-  if (colour[9] != 0) fore({&form_.Label7, &form_.Label9, &form_.Label11}, colour[9]);
-  if (colour[10] != 0) fore({&form_.Label8, &form_.Label10}, colour[10]);
+  if (state_.settings.lcdCustom != 1 && colour[kCustomBars] != state_.settings.lcdFore) form_.CDStatusBar.floodColor = colour[kCustomBars];
+  if (colour[kCustomLegends] != 0) fore({&form_.Label7, &form_.Label9, &form_.Label11}, colour[kCustomLegends]);
+  if (colour[kCustomDigits] != 0) fore({&form_.Label8, &form_.Label10}, colour[kCustomDigits]);
 }
 
 void Display::paintTitle(size_t line, Colour colour) { (line == 0 ? form_.Label12 : form_.Label13).foreColor = colour; }
@@ -93,7 +93,7 @@ void Display::calendar() {
     if (track <= shown) lamp(track, kLcdLit);
   }
   form_.Label22[kLampCells].foreColor = lcd(state_.disc.trackCount > shown ? kLcdLit : kLcdDim);
-  form_.Label30.foreColor = lcd(state_.program.pgmStored == kOn ? kLcdLabelOn : kLcdLabelOff);
+  form_.Label30.foreColor = lcd(state_.program.pgmStored ? kLcdLabelOn : kLcdLabelOff);
 }
 
 void Display::prompt(std::string_view first, std::string_view second) {

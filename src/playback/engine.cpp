@@ -54,7 +54,7 @@ void Engine::glow(TransportKey key) {
 void Engine::startOfTrack() {
   state_.display.lastShownTrack = 0;
   state_.display.lastShownSec = 0;
-  state_.transport.trackGo = 1;
+  state_.transport.trackGo = kTrackRuns;
   forgetAdvance();
 }
 
@@ -68,18 +68,18 @@ std::string_view Engine::lengthOf(int track) const {
 
 void Engine::MMControl1_PlayClick() {
   TransportState& transport = state_.transport;
-  transport.pausedFlag = kOff;
-  transport.playingFlag = kOn;
+  transport.pausedFlag = false;
+  transport.playingFlag = true;
   if (transport.pausePosition > 0) {
     resume();
     return;
   }
   forgetAdvance();
   transport.curTrack = playable(state_.disc, transport.curTrack);
-  state_.disc.discStarted = kOn;
+  state_.disc.discStarted = true;
   display_.track(transport.curTrack);
   setTimer2Interval(100);
-  transport.playEnded = kOff;
+  transport.playEnded = false;
   display_.showTimeModeLabel();
   if (transport.playMode == Pgm) {
     programStep();
@@ -113,8 +113,8 @@ void Engine::MMControl1_PauseClick() {
   TransportState& transport = state_.transport;
   endScan();
   dropStep();
-  transport.pausedFlag = kOn;
-  transport.playingFlag = kOff;
+  transport.pausedFlag = true;
+  transport.playingFlag = false;
   transport.pausePosition = static_cast<int32_t>(device_.position());
   display_.pause();
 }
@@ -124,7 +124,7 @@ void Engine::MMControl1_StopClick() {
   endScan();
   clrab();
   forgetAdvance();
-  transport.playingFlag = transport.pausedFlag = kOff;
+  transport.playingFlag = transport.pausedFlag = false;
   transport.pausePosition = 0;
   state_.display.lastShownSec = 0;
   display_.repeat();
@@ -152,8 +152,8 @@ void Engine::stopKey() {
 void Engine::adoptRunningDisc() {
   TransportState& transport = state_.transport;
   transport.curTrack = static_cast<int16_t>(unpackTmsf(device_.position()).track);
-  state_.disc.discStarted = transport.playingFlag = kOn;
-  transport.pausedFlag = kOff;
+  state_.disc.discStarted = transport.playingFlag = true;
+  transport.pausedFlag = false;
   display_.track(transport.curTrack);
   display_.showTimeModeLabel();
   device_.setUpdateInterval(1000);
@@ -185,13 +185,13 @@ void Engine::jump() {
   // A number key of a track of data plays what follows it.
   const int16_t target = audioFrom(state_.disc, transport.selTrack + 1);
   if (target > state_.disc.trackCount) return;
-  state_.display.holdTrackLabel = kOn;
-  transport.pausedFlag = kOff;
-  transport.playingFlag = kOn;
+  state_.display.holdTrackLabel = true;
+  transport.pausedFlag = false;
+  transport.playingFlag = true;
   transport.pausePosition = 0;
-  transport.playEnded = kOff;
+  transport.playEnded = false;
   transport.curTrack = target;
-  state_.disc.discStarted = kOn;
+  state_.disc.discStarted = true;
   display_.repeat();
   display_.showTimeModeLabel();
   display_.clearTime("00:00");
@@ -227,7 +227,7 @@ void Engine::seekFraction(std::string_view length, double x) {
 /// The loop of A-B comes this way too, with its own places; the offset shifts its return a little.
 void Engine::CDStatusBar_Click(double x) {
   const int16_t track = state_.transport.curTrack;
-  if (state_.transport.playingFlag != kOn || state_.disc.drawerOpen == kOn || track < 1 || track > state_.disc.trackCount) return;
+  if (!state_.transport.playingFlag || state_.disc.drawerOpen || track < 1 || track > state_.disc.trackCount) return;
   seekFraction(lengthOf(track), std::abs(x - kBarMargin));
   followState();
 }
@@ -257,24 +257,24 @@ void Engine::clrab() {
 
 void Engine::mmcontrol1_EjectClick() {
   TransportState& transport = state_.transport;
-  state_.disc.discLoaded = kOn;
+  state_.disc.discLoaded = true;
   data_.unmark(DataFile::Running);
   clrab();
   endScan();
   forgetAdvance();
   screen_.setPointer(Pointer::Hourglass);
-  state_.disc.drawerOpen = kOn;
+  state_.disc.drawerOpen = true;
   if (transport.introTrack > 0) {
     transport.introTrack = 0;
     transport.introStart = 0;
     display_.playMode("Cont");
-    display_.program(state_.program.pgmStored == kOn);
+    display_.program(state_.program.pgmStored);
     looks_.lightMode(Cont);
   }
   display_.doorOpen();
   state_.volume.leftAttenPrev = state_.volume.leftAtten;
   state_.volume.rightAttenPrev = state_.volume.rightAtten;
-  transport.playingFlag = transport.pausedFlag = kOff;
+  transport.playingFlag = transport.pausedFlag = false;
   transport.pausePosition = 0;
   display_.track(0);
   display_.clearTime("00:00");

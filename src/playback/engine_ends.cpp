@@ -30,23 +30,23 @@ void Engine::settle() {
 void Engine::endActions() {
   TransportState& transport = state_.transport;
   const bool repeat = state_.settings.repeatOn == kOn;
-  const bool again = repeat && transport.trackGo != 1 && transport.playMode != Pgm;
-  if (again && transport.playingFlag != kOn) {
-    transport.trackGo = 1;
+  const bool again = repeat && transport.trackGo != kTrackRuns && transport.playMode != Pgm;
+  if (again && !transport.playingFlag) {
+    transport.trackGo = kTrackRuns;
   } else if (again) {
     device_.command("Stop");
     if (transport.playMode == Cont) transport.curTrack = firstTrack(state_.disc);
     display_.track(transport.curTrack);
     playCurrent();
     showState();
-  } else if (transport.playMode == One && !repeat && transport.trackGo == 0) {
+  } else if (transport.playMode == One && !repeat && transport.trackGo == kTrackOver) {
     fallSilent();
     display_.clearTime("00:00");
     state_.display.lastShownSec = 0;
     display_.track(0);
-    transport.trackGo = 1;
+    transport.trackGo = kTrackRuns;
     showState();
-  } else if (transport.playMode == Pgm && transport.trackGo == 0) {
+  } else if (transport.playMode == Pgm && transport.trackGo == kTrackOver) {
     MMControl1_PlayClick();
     showState();
   }
@@ -67,7 +67,7 @@ void Engine::restart() {
 }
 
 void Engine::endOfDisc() {
-  state_.transport.playEnded = kOn;
+  state_.transport.playEnded = true;
   display_.lamps(state_.disc.lampCount, kLcdLit);
   fallSilent();
   display_.clearTime("");
@@ -85,7 +85,7 @@ void Engine::pastTheEnd() {
 void Engine::fallSilent() {
   TransportState& transport = state_.transport;
   device_.command("Stop");
-  transport.playingFlag = transport.pausedFlag = kOff;
+  transport.playingFlag = transport.pausedFlag = false;
   transport.pausePosition = 0;
   endScan();
   clrab();

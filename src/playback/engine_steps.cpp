@@ -15,7 +15,7 @@ constexpr int16_t kStepFromPopup = 99;
 
 }  // namespace
 
-bool Engine::canStep(int16_t track) const { return state_.disc.discStarted == kOn && isAudio(state_.disc, track); }
+bool Engine::canStep(int16_t track) const { return state_.disc.discStarted && isAudio(state_.disc, track); }
 
 void Engine::previousKey() {
   const bool program = state_.transport.playMode == Pgm;
@@ -39,13 +39,13 @@ void Engine::nextKey() {
 
 void Engine::MMControl1_NextClick(int16_t& value) {
   TransportState& transport = state_.transport;
-  transport.pausedFlag = kOff;
+  transport.pausedFlag = false;
   display_.repeat();
   if (transport.playMode == Pgm) {
     transport.pausePosition = 0;
-    if (transport.playEnded == kOn) return;
-    const bool atOnce = value == kStepAtOnce || (value == kStepFromPopup && state_.display.popupOpen == kOn);
-    state_.program.skipStep = atOnce ? kOff : kOn;
+    if (transport.playEnded) return;
+    const bool atOnce = value == kStepAtOnce || (value == kStepFromPopup && state_.display.popupOpen);
+    state_.program.skipStep = !atOnce;
     value = 0;
     MMControl1_PlayClick();
     return;
@@ -53,7 +53,7 @@ void Engine::MMControl1_NextClick(int16_t& value) {
   const int16_t next = audioFrom(state_.disc, transport.curTrack + 1);
   if (!canStep(next)) return;
   transport.pausePosition = 0;
-  if (transport.playingFlag == kOn) {
+  if (transport.playingFlag) {
     transport.curTrack = next;
     MMControl1_PlayClick();
     return;
@@ -71,8 +71,8 @@ void Engine::MMControl1_PrevClick() {
   const int16_t previous = audioBefore(state_.disc, transport.curTrack);
   if (program ? state_.settings.repeatOn != kOn : !canStep(previous)) return;
   transport.pausePosition = 0;
-  transport.pausedFlag = kOff;
-  transport.playingFlag = kOn;
+  transport.pausedFlag = false;
+  transport.playingFlag = true;
   display_.repeat();
   if (program) {
     state_.program.pgmIndex = static_cast<int16_t>(state_.program.pgmIndex - 2);
@@ -117,14 +117,14 @@ void Engine::programEntry(int16_t entry) {
     emptyProgram();
     return;
   }
-  if (entry == 1 && program.skipStep == kOn) {
+  if (entry == 1 && program.skipStep) {
     transport.curTrack = 0;
-    program.skipStep = kOff;
+    program.skipStep = false;
     display_.track(1);
     --program.pgmIndex;
     device_.command("Stop");
     device_.command("Play");
-    transport.trackGo = 1;
+    transport.trackGo = kTrackRuns;
     return;
   }
   const auto track = static_cast<int16_t>(entry - program.skipStep);
@@ -143,12 +143,12 @@ void Engine::emptyProgram() {
   state_.transport.playMode = Cont;
   display_.playMode("Cont");
   looks_.lightMode(Cont);
-  state_.program.skipStep = kOff;
+  state_.program.skipStep = false;
   if (device_.mode() == DeviceMode::Playing) {
     // With a correction the device may be in the next track already.
     state_.transport.curTrack = static_cast<int16_t>(unpackTmsf(device_.position()).track);
     display_.track(state_.transport.curTrack);
-    state_.transport.trackGo = 1;
+    state_.transport.trackGo = kTrackRuns;
   } else {
     playCurrent();
   }
@@ -165,16 +165,16 @@ void Engine::programEnd() {
   display_.clearBar();
   transport.playMode = Cont;
   display_.playMode("Cont");
-  looks_.greyChance(program.pgmStored == kOn);
+  looks_.greyChance(program.pgmStored);
   looks_.lightMode(Cont);
-  transport.trackGo = 1;
+  transport.trackGo = kTrackRuns;
   transport.curTrack = 0;
   display_.track(0);
-  if (program.skipStep != kOff) {
-    program.skipStep = kOff;
+  if (program.skipStep) {
+    program.skipStep = false;
     return;
   }
-  transport.playEnded = kOn;
+  transport.playEnded = true;
   display_.lamps(state_.disc.lampCount, kLcdDim);
   setTimer2Interval(0);
 }

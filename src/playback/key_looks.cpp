@@ -165,7 +165,7 @@ void KeyLooks::paint() {
   }
   // The small faceplate has no scan keys that could be masked.
   const bool scanMasked = look.scanMasked && settings_.smallFaceplate != kOn;
-  for (const size_t key : {0U, 3U}) form_.scntlb[key].visible = scanMasked;
+  for (const size_t key : {ScanBack, ScanForward}) form_.scntlb[key].visible = scanMasked;
 }
 
 }  // namespace orvanta

@@ -26,7 +26,7 @@ void Modes::Image4_MouseUp(size_t mode) {
   stopintro();
   engine_.settle();
   engine_.dropStep();
-  state_.transport.playEnded = kOff;
+  state_.transport.playEnded = false;
   engine_.setTimer2Interval(100);
   leaveOne();
   switch (mode) {
@@ -38,12 +38,12 @@ void Modes::Image4_MouseUp(size_t mode) {
 }
 
 void Modes::leaveOne() {
-  if (state_.transport.playMode == One) state_.transport.trackGo = 1;
+  if (state_.transport.playMode == One) state_.transport.trackGo = kTrackRuns;
 }
 
 void Modes::enterPgm() {
   display_.playMode("PGM");
-  state_.disc.discStarted = kOn;
+  state_.disc.discStarted = true;
   state_.transport.playMode = Pgm;
   looks_.lightMode(PgmKey);
   display_.lamps(20, kLcdDim);
@@ -51,9 +51,9 @@ void Modes::enterPgm() {
 
 void Modes::enterOne() {
   display_.playMode("One");
-  state_.transport.trackGo = 99;
-  looks_.greyChance(state_.program.pgmStored == kOn);
-  state_.disc.discStarted = kOn;
+  state_.transport.trackGo = kEnteringOne;
+  looks_.greyChance(state_.program.pgmStored);
+  state_.disc.discStarted = true;
   engine_.clrpgm();
   state_.transport.playMode = One;
   looks_.lightMode(OneKey);
@@ -89,7 +89,7 @@ void Modes::stopintro() {
   state_.transport.introStart = 0;
   state_.transport.introTrack = 0;
   display_.playMode("Cont");
-  display_.program(state_.program.pgmStored == kOn);
+  display_.program(state_.program.pgmStored);
   screen_.setPointer(Pointer::Normal);
   if (state_.transport.playMode == Pgm) {
     engine_.stopKey();
@@ -105,10 +105,10 @@ void Modes::shuffle() {
   if (asleep()) return;
   stopintro();
   engine_.settle();
-  if (state_.transport.pausedFlag == kOn || !looks_.acceptsShuffle()) return;
+  if (state_.transport.pausedFlag || !looks_.acceptsShuffle()) return;
   ProgramState& program = state_.program;
   looks_.allowShuffle();
-  state_.disc.discStarted = kOn;
+  state_.disc.discStarted = true;
   looks_.lightMode(PgmKey);
   display_.lamps(state_.disc.lampCount, kLcdLitInCont);
   display_.lampNumbers(state_.disc.lampCount);
@@ -148,7 +148,7 @@ void Modes::repeatKey() {
 }
 
 void Modes::rclpgm() {
-  if (state_.program.pgmStored != kOn) return;
+  if (!state_.program.pgmStored) return;
   if (state_.transport.playMode != Pgm) Image4_MouseUp(PgmKey);
   ProgramState& program = state_.program;
   program.pgmCount = 0;
@@ -172,10 +172,10 @@ void Modes::rclpgm() {
 }
 
 void Modes::Label30_Click() {
-  if (asleep() || state_.program.pgmStored != kOn) return;
+  if (asleep() || !state_.program.pgmStored) return;
   screen_.setPointer(Pointer::Hourglass);
   Image4_MouseUp(PgmKey);
-  state_.disc.discStarted = kOn;
+  state_.disc.discStarted = true;
   rclpgm();
   engine_.playKey();
   screen_.setPointer(Pointer::Normal);

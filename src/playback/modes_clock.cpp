@@ -20,10 +20,10 @@ double Modes::placeOnBar() const { return form_.CDStatusBar.width * form_.CDStat
 void Modes::abKey() {
   const TransportState& transport = state_.transport;
   engine_.settle();
-  if (transport.pausedFlag == kOn) return;
+  if (transport.pausedFlag) return;
   if (transport.abSetB) {
     engine_.clrab();
-  } else if (transport.playingFlag == kOn) {
+  } else if (transport.playingFlag) {
     if (transport.abSetA) {
       setB();
     } else {
@@ -76,7 +76,7 @@ void Modes::abTick() {
   if (!transport.abSetA) return;
   if (display_.number() != transport.abTrack) {
     engine_.clrab();
-  } else if (transport.playingFlag != kOn) {
+  } else if (!transport.playingFlag) {
     return;
   } else if (!transport.abSetB) {
     abBlink();
@@ -95,7 +95,7 @@ void Modes::introTick() {
     engine_.jump();
     return;
   }
-  const int option = state_.settings.appOptions[4];
+  const int option = state_.settings.appOptions[kIntroLength];
   int limit = option < 2 || option > 30 ? kUsualIntro : option;
   const auto track = static_cast<size_t>(std::clamp<int16_t>(transport.curTrack, 0, 101));
   state_.display.elapsedSec = secondsOf(state_.disc.trackLengths[track]);
@@ -119,7 +119,7 @@ void Modes::lampTick() {
     }
     return;
   }
-  const bool whole = state_.disc.discStarted == kOff || state_.settings.repeatOn == kOn;
+  const bool whole = !state_.disc.discStarted || state_.settings.repeatOn == kOn;
   const int shown = whole ? 1 : std::max<int>(1, display_.number());
   for (int lamp = 1; lamp <= 20; ++lamp) {
     if (transport.playMode == One) {

@@ -44,13 +44,13 @@ void Ticks::tick() {
   engine_.dueStep();
   modes_.abTick();
   if (display_.number() < 1) display_.word("");
-  if (transport.curTrack <= 0 && (transport.playingFlag == kOn || transport.pausedFlag == kOn)) {
-    transport.playingFlag = transport.pausedFlag = kOff;
+  if (transport.curTrack <= 0 && (transport.playingFlag || transport.pausedFlag)) {
+    transport.playingFlag = transport.pausedFlag = false;
     display_.word("");
   }
   load_.deferredTable();
   load_.clearOnRequest();
-  if (state_.process.autoStartDone == kOff && state_.process.autoStartMode > 0) {
+  if (!state_.process.autoStartDone && state_.process.autoStartMode) {
     autoStart();
     return;
   }
@@ -59,7 +59,7 @@ void Ticks::tick() {
   } else {
     engine_.endActions();
     modes_.lampTick();
-    if (disc.discStarted == kOn && state_.display.elapsedSec <= 2) startOfNewTrack();
+    if (disc.discStarted && state_.display.elapsedSec <= 2) startOfNewTrack();
   }
   engine_.followState();
 }
@@ -69,14 +69,14 @@ void Ticks::autoStart() {
   if (process.commandWord == "RUNRIPPER") {
     form_.minimised = false;
     screen_.setPointer(Pointer::Normal);
-    process.autoStartDone = kOn;
+    process.autoStartDone = true;
     process.commandWord.clear();
     modes_.stopintro();
     upward_.record();
     return;
   }
-  process.autoStartDone = kOn;
-  if (state_.program.pgmStored == kOn) {
+  process.autoStartDone = true;
+  if (state_.program.pgmStored) {
     modes_.Label30_Click();
     return;
   }
@@ -98,25 +98,25 @@ void Ticks::scanStep() {
   const int step = count > 0 ? (count < 8 ? 2 : count <= 12 ? 6 : 10) : (count >= -6 ? -4 : count >= -10 ? -8 : -12);
   const int percent = form_.CDStatusBar.floodPercent + step;
   const int16_t track = transport.curTrack;
-  if (percent <= 0 || percent >= 100 || track < 1 || track > state_.disc.trackCount || transport.playingFlag != kOn) {
+  if (percent <= 0 || percent >= 100 || track < 1 || track > state_.disc.trackCount || !transport.playingFlag) {
     engine_.endScan();
     return;
   }
   engine_.seekFraction(state_.disc.trackLengths[static_cast<size_t>(track)], form_.CDStatusBar.width * percent / 100.0);
   time_.update();
-  if (transport.curTrack != track || transport.trackGo == 0) engine_.endScan();
+  if (transport.curTrack != track || transport.trackGo == kTrackOver) engine_.endScan();
 }
 
 /// In the first two seconds of a track: the number, length and title follow.
 void Ticks::startOfNewTrack() {
   TransportState& transport = state_.transport;
   // Stopped at the end of a track, a program or the disc: the display stays at 0.
-  if (transport.playingFlag == kOff && transport.pausedFlag == kOff && display_.number() == 0) return;
+  if (!transport.playingFlag && !transport.pausedFlag && display_.number() == 0) return;
   transport.curTrack = static_cast<int16_t>(std::max<int16_t>(transport.curTrack, 1) + state_.program.skipStep);
-  state_.program.skipStep = kOff;
+  state_.program.skipStep = false;
   // Right after a jump the display shows the target, until the device has followed.
-  if (state_.display.holdTrackLabel == kOn) {
-    state_.display.holdTrackLabel = kOff;
+  if (state_.display.holdTrackLabel) {
+    state_.display.holdTrackLabel = false;
   } else {
     display_.track(transport.curTrack);
   }

@@ -16,7 +16,7 @@ void TrackTime::statusUpdate() {
   const DeviceMode mode = device_.mode();
   if (mode == DeviceMode::Stopped) {
     display_.updateHeader(1, "Rewinding");
-    if (state_.transport.playingFlag == kOn) ranOut();
+    if (state_.transport.playingFlag) ranOut();
   } else if (mode == DeviceMode::Playing) {
     state_.transport.deviceTrack = layer_.currentDeviceTrack();
     display_.updateHeader(state_.transport.deviceTrack, "Play");
@@ -32,7 +32,7 @@ void TrackTime::playCompleted(int16_t error) {
 /// Stopped, and still marked as playing: the disc has run out under us.
 void TrackTime::ranOut() {
   if (state_.transport.playMode != Cont) {
-    state_.transport.trackGo = 0;
+    state_.transport.trackGo = kTrackOver;
   } else if (state_.settings.repeatOn == kOn) {
     engine_.restart();
   } else {
@@ -46,8 +46,8 @@ void TrackTime::updateTrackTime(int16_t track, std::string_view timeText) {
   DiscState& disc = state_.disc;
   TransportState& transport = state_.transport;
   const DisplayState& display = state_.display;
-  if (disc.discStarted == kOff) {
-    disc.discStarted = kOn;
+  if (!disc.discStarted) {
+    disc.discStarted = true;
     transport.curTrack = firstTrack(disc);
     display_.track(transport.curTrack);
   }
@@ -58,7 +58,7 @@ void TrackTime::updateTrackTime(int16_t track, std::string_view timeText) {
     if (display.elapsedSec >= display.nearEndSec) engine_.advanceInCont();
   } else if (display.elapsedSec >= display.nearEndSec + 2 + disc.timeCorrection || track > transport.curTrack) {
     // With a large correction the device runs on into the next track first; that is the end as well.
-    transport.trackGo = 0;
+    transport.trackGo = kTrackOver;
   }
 }
 

@@ -18,7 +18,7 @@ void TrayAnswers::take() {
     refusal_ = offer.refusal;
     box_->setInterval(1);
   } else if (offer.answer == TrayOffer::Answer::Accepted) {
-    if (state_.disc.drawerOpen == kOff) {
+    if (!state_.disc.drawerOpen) {
       state_.process.playNext = state_.transport.playingFlag;
       engine_.mmcontrol1_EjectClick();
     }

@@ -6,7 +6,7 @@
 namespace orvanta {
 
 std::string DataFolder::path(DataFile file) const {
-  static constexpr std::string_view kNames[] = {"audiocd.tmp", "ejcd.tmp",   "CDPOSN.DAT", "SMPOS1.DAT", "addcats.dat",
+  static constexpr std::string_view kNames[] = {"audiocd.tmp", "ejcd.tmp",    "CDPOSN.DAT", "SMPOS1.DAT", "addcats.dat",
                                                 "userdef.dat", "audiocd.dat", "tray.dat",   "level.dat"};
   return joinPath(folder_, kNames[static_cast<size_t>(file)]);
 }

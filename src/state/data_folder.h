@@ -12,9 +12,9 @@ namespace orvanta {
 
 /// Files that stand by a name of their own. The settings' names are in settings_files.h.
 enum class DataFile {
-  Running,        ///< stands while a player runs; for the sibling programs
-  HandOver,       ///< stands until the next process has started
-  LargePlace,     ///< where the window stood, in each of its sizes
+  Running,     ///< stands while a player runs; for the sibling programs
+  HandOver,    ///< stands until the next process has started
+  LargePlace,  ///< where the window stood, in each of its sizes
   SmallPlace,
   Genres,         ///< the user's own
   Captions,       ///< of the two free fields

@@ -33,10 +33,10 @@ struct Settings {
   int16_t soundMode = 0;            ///< 0 no sliders, 3 own volume, 4 mixer; 1 and 2 count as 3
 
   // ORVWIN3.INI; font group 2 stands in the table and is never loaded
-  std::array<FontGroup, 4> fonts;
-  std::array<int16_t, 6> appOptions{};  ///< [1] eject at end .. [5] keep playing on exit
+  std::array<FontGroup, 4> fonts;       ///< by FontPlace
+  std::array<int16_t, 6> appOptions{};  ///< by AppOption
   std::string searchEngine;
-  std::array<Colour, 13> customColor{};
+  std::array<Colour, 13> customColor{};  ///< by CustomColour
 
   // ORVWIN4.INI
   std::string lyricsSite;
@@ -63,6 +63,24 @@ struct Settings {
   int16_t repeatOn = 0;
 
   std::array<std::string, 64> kept;  ///< fields that only pass through, by a number of their own
+};
+
+/// Places in Settings::appOptions; those of a check are 1 where it is on.
+enum AppOption : size_t { kEjectAtEnd = 1, kExitOnEject = 2, kMixerAtStart = 3, kIntroLength = 4, kPlayOn = 5 };
+
+/// Places in Settings::fonts.
+enum FontPlace : size_t { kDiscFont = 0, kTrackFont = 1, kListFont = 3 };
+
+/// Places in Settings::customColor that are used; 0 leaves the deck's own.
+enum CustomColour : size_t {
+  kCustomBorderLines = 0,
+  kCustomMetal = 1,
+  kCustomDoor = 2,
+  kCustomKeypad = 3,  ///< and the volume panel
+  kCustomBars = 4,    ///< of the progress and the sliders
+  kCustomLists = 7,
+  kCustomLegends = 9,
+  kCustomDigits = 10,
 };
 
 /// Indices of lcdColor.

@@ -130,11 +130,11 @@ void walkOrvwin3(Settings& settings, const Visit& visit) {
     return visit(group.fontName) && visit(group.fontSize) && visit(group.fontBold) && visit(group.fontItalic) &&
            visit(group.fontUnderline) && visit(group.fontColor);
   };
-  if (!font(settings.fonts[0]) || !font(settings.fonts[1])) return;
+  if (!font(settings.fonts[kDiscFont]) || !font(settings.fonts[kTrackFont])) return;
   for (size_t i = 1; i <= 5; ++i) {
     if (!visit(settings.appOptions[i])) return;
   }
-  if (!visit(settings.searchEngine) || !font(settings.fonts[3])) return;
+  if (!visit(settings.searchEngine) || !font(settings.fonts[kListFont])) return;
   for (Colour& colour : settings.customColor) {
     if (!visit(colour)) return;
   }
@@ -266,8 +266,8 @@ void fillLcdColours(Settings& settings) {
   const Colour fore = settings.lcdFore;
   const Colour back = settings.lcdBack;
   settings.lcdColor = {fore, fore, back, fore, fore, back, back, fore, fore, back, back};
-  settings.customColor[4] = settings.customColor[9] = settings.customColor[10] = fore;
-  settings.fonts[0].fontColor = settings.fonts[1].fontColor = fore;
+  settings.customColor[kCustomBars] = settings.customColor[kCustomLegends] = settings.customColor[kCustomDigits] = fore;
+  settings.fonts[kDiscFont].fontColor = settings.fonts[kTrackFont].fontColor = fore;
 }
 
 Settings defaultSettings(const std::string& appDir, const std::string& drive) {
@@ -275,16 +275,16 @@ Settings defaultSettings(const std::string& appDir, const std::string& drive) {
   settings.appDir = appDir;
   settings.cdProbePath = drive;
   settings.soundMode = 3;
-  settings.appOptions[4] = 7;
+  settings.appOptions[kIntroLength] = 7;
   settings.showLights = 1;
   // The deck's own metal: black where these are 0.
-  settings.customColor[0] = 0xA8A29C;
-  settings.customColor[1] = 0x332E2B;
-  settings.customColor[2] = 0x3D3733;
-  settings.customColor[3] = 0x2B2724;
-  settings.customColor[4] = 0x60D818;
-  settings.fonts[0].fontColor = 0x50C8FF;
-  settings.fonts[1].fontColor = 0x00FF00;
+  settings.customColor[kCustomBorderLines] = 0xA8A29C;
+  settings.customColor[kCustomMetal] = 0x332E2B;
+  settings.customColor[kCustomDoor] = 0x3D3733;
+  settings.customColor[kCustomKeypad] = 0x2B2724;
+  settings.customColor[kCustomBars] = 0x60D818;
+  settings.fonts[kDiscFont].fontColor = 0x50C8FF;
+  settings.fonts[kTrackFont].fontColor = 0x00FF00;
   settings.searchEngine = "DuckDuckGo";
   return settings;
 }

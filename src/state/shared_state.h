@@ -14,6 +14,12 @@ namespace orvanta {
 
 enum PlayMode : int16_t { Pgm = 0, One = 1, Cont = 2 };
 enum TimeMode : int16_t { Time = 0, Rem = 1, Total = 2, TotRem = 3 };
+/// Values of trackGo: where the track of Pgm and One stands.
+enum TrackGo : int16_t { kTrackOver = 0, kTrackRuns = 1, kEnteringOne = 99 };
+/// Values of noDiscState: what the start found in the drive.
+enum NoDiscState : int16_t { kDiscAtStart = 0, kNoDiscAtStart = 2 };
+/// Values of cddbMode: why the CDDB's window, or CD Data without a person, runs.
+enum CddbMode : int16_t { kFromFaceplate = 0, kResting = 1, kAutomatic = 3, kNoSubmission = 9, kSubmission = 33 };
 
 /// Two-state values of the tables below.
 constexpr int16_t kOff = 0;
@@ -31,17 +37,17 @@ struct DiscState : DiscTexts {
   std::string cdFilePath;                     ///< of the ".CD" file
   std::string discLengthText;                 ///< "mm:ss" or "h:mm:ss"
   int16_t discMinutes = 0;                    ///< minutes of the disc's length, as the device reports them
-  int16_t noDiscState = 0;                    ///< 0 a disc at start; 2 no usable disc at start
-  int16_t drawerOpen = kOff;                  ///< the faceplate shows the open drawer
-  int16_t discLoaded = kOff;                  ///< a disc with tracks was loaded, or eject was pressed
-  int16_t discStarted = kOff;                 ///< a track was selected or played; titles show only then
+  int16_t noDiscState = kDiscAtStart;         ///< NoDiscState
+  bool drawerOpen = false;                    ///< the faceplate shows the open drawer
+  bool discLoaded = false;                    ///< a disc with tracks was loaded, or eject was pressed
+  bool discStarted = false;                   ///< a track was selected or played; titles show only then
   int16_t timeCorrection = 0;                 ///< seconds, -3 to 5, kept per disc
-  int16_t trackTableDone = kOff;
-  int16_t enhancedCd = kOff;
-  int16_t clearDiscRequest = kOff;  ///< the clock clears the disc's texts
+  bool trackTableDone = false;
+  bool enhancedCd = false;
+  bool clearDiscRequest = false;  ///< the clock clears the disc's texts
 
   /// Without a disc at the start, or with the drawer open: no key of the play is heard.
-  bool asleep() const { return noDiscState > 0 || drawerOpen == kOn; }
+  bool asleep() const { return noDiscState != kDiscAtStart || drawerOpen; }
   bool in() const { return !asleep() && trackCount > 0; }
 };
 
@@ -50,17 +56,17 @@ struct TransportState {
   int16_t deviceTrack = 0;  ///< as the device last reported
   int16_t selTrack = 0;     ///< zero-based target of a jump
   int16_t playMode = Cont;  ///< PlayMode; shuffle runs as Pgm, Intro as Cont with introTrack above 0
-  int16_t playingFlag = kOff;
-  int16_t pausedFlag = kOff;   ///< never both; both off when stopped
-  int32_t pausePosition = 0;   ///< device position at pause; not 0: play must resume
-  int16_t playEnded = kOff;    ///< after the end of program or disc: next does nothing until play
-  int16_t trackGo = 0;         ///< 1 running; 0 track's end reached in Pgm or One; 99 on entering One
-  int16_t scanCount = 0;       ///< ticks of a scan, below 0 backwards
-  double lastAdvanceTime = 0;  ///< seconds since midnight of the last automatic advance in Cont; 0 for none
-  int64_t advanceDue = 0;      ///< the clock's millisecond of the advance that a correction holds back; 0 for none
-  bool abSetA = false;         ///< the A-B loop's start is set; its place may be 0
-  bool abSetB = false;         ///< its end too: it loops
-  double abPointA = 0;         ///< places on the bar, in twips
+  bool playingFlag = false;
+  bool pausedFlag = false;       ///< never both; both off when stopped
+  int32_t pausePosition = 0;     ///< device position at pause; not 0: play must resume
+  bool playEnded = false;        ///< after the end of program or disc: next does nothing until play
+  int16_t trackGo = kTrackOver;  ///< TrackGo
+  int16_t scanCount = 0;         ///< ticks of a scan, below 0 backwards
+  double lastAdvanceTime = 0;    ///< seconds since midnight of the last automatic advance in Cont; 0 for none
+  int64_t advanceDue = 0;        ///< the clock's millisecond of the advance that a correction holds back; 0 for none
+  bool abSetA = false;           ///< the A-B loop's start is set; its place may be 0
+  bool abSetB = false;           ///< its end too: it loops
+  double abPointA = 0;           ///< places on the bar, in twips
   double abPointB = 0;
   int16_t abTrack = 0;
   int16_t introTrack = 0;
@@ -71,8 +77,8 @@ struct ProgramState {
   std::array<int16_t, 102> pgmList{};  ///< track numbers in 1..100, 0 ends the list
   int16_t pgmIndex = 0;                ///< entry that plays, 0 before the first
   int16_t pgmCount = 0;
-  int16_t pgmStored = kOff;
-  int16_t skipStep = kOff;  ///< a step asked for by next is pending
+  bool pgmStored = false;
+  bool skipStep = false;  ///< a step asked for by next is pending
 };
 
 struct DisplayState {
@@ -80,10 +86,10 @@ struct DisplayState {
   int16_t nearEndSec = 0;    ///< track length in seconds less 5; 4 more on the last lamp's track in Cont
   int16_t lastShownSec = 0;  ///< with lastShownTrack 0: the next display is taken as it comes
   int16_t lastShownTrack = 0;
-  int16_t holdTrackLabel = kOff;  ///< right after a jump: the clock leaves the track label alone once
-  int16_t positionKnown = kOff;   ///< the faceplate stands where the user put it
-  int16_t quietOnce = kOff;       ///< no interface sound for now
-  int16_t popupOpen = kOff;
+  bool holdTrackLabel = false;  ///< right after a jump: the clock leaves the track label alone once
+  bool positionKnown = false;   ///< the faceplate stands where the user put it
+  bool quietOnce = false;       ///< no interface sound for now
+  bool popupOpen = false;
   int16_t popupLayout = 0;
 };
 
@@ -105,10 +111,10 @@ struct VolumeState {
 
 /// What the windows of the disc's texts share.
 struct LibraryState {
-  int16_t dataDirty = kOff;                  ///< something was changed; never cleared, so every later OK saves
-  int16_t askOnCancel = kOff;                ///< a main field was changed
-  int16_t editorFromFaceplate = kOff;        ///< CD Data was opened by a person
-  int16_t cddbMode = 0;                      ///< 3: the editor saves unseen; 9: no submission
+  bool dataDirty = false;                    ///< something was changed; never cleared, so every later OK saves
+  bool askOnCancel = false;                  ///< a main field was changed
+  bool editorFromFaceplate = false;          ///< CD Data was opened by a person
+  int16_t cddbMode = kFromFaceplate;         ///< CddbMode
   std::array<std::string, 101> trackLyrics;  ///< [1]..[100]: the editor's working copy, with line breaks
   std::array<std::string, 2> userCaptions;   ///< of the two user defined fields; "" for the usual ones
 };
@@ -121,15 +127,15 @@ enum SoundMode : int16_t { kNoSliders = 0, kOwnVolume = 3, kMixerProgram = 4 };
 /// How this process was started, and where its files are.
 struct ProcessState {
   std::string commandWord;  ///< upper case; "" when none
-  int16_t autoStartMode = kOff;
-  int16_t autoStartDone = kOff;
-  int16_t playNext = kOff;     ///< a person put a disc in while another played: it is played in its turn
-  int16_t setupWanted = kOff;  ///< the setup program is to run at the next tick of Timer3
+  bool autoStartMode = false;
+  bool autoStartDone = false;
+  bool playNext = false;     ///< a person put a disc in while another played: it is played in its turn
+  bool setupWanted = false;  ///< the setup program is to run at the next tick of Timer3
   std::string systemDir;
   std::string windowsDir;
   int16_t osFamily = 1;
-  int16_t screenClass = 2;   ///< 1 below 800 pixels, 2 from 800, 3 from 1024, 4 from 1280
-  int16_t smallFonts = kOn;  ///< metric variant: above 14 twips to a pixel
+  int16_t screenClass = 2;  ///< 1 below 800 pixels, 2 from 800, 3 from 1024, 4 from 1280
+  bool smallFonts = true;   ///< metric variant: above 14 twips to a pixel
   int64_t colourCount = 0;
 };
 

@@ -1,5 +1,5 @@
 // Hand-over to the recorder: the user's own by its command line, else ours with audiocd.dat.
-#include "app/record.h"
+#include "app/recorder.h"
 
 #include "base/text.h"
 #include "platform/ports/cd_device.h"
@@ -20,28 +20,28 @@ constexpr size_t kNotes = 30;  ///< characters of the liner notes that the recor
 
 }  // namespace
 
-ProcessRequest RecorderLaunch::request() const {
+ProcessRequest Recorder::request() const {
   const Settings& settings = state_.settings;
   if (usersOwn())
     return {splitCommand(settings.recordCommand, ports_.files.exists(settings.recordCommand)), settings.appDir, WindowStyle::Normal};
   return {{ports_.system.companion("orvrec"), "2" + settings.appDir}, settings.appDir, WindowStyle::Normal};
 }
 
-void RecorderLaunch::tellNotStarted() {
+void Recorder::tellNotStarted() {
   const auto arguments = request().arguments;
   ports_.dialogs.message(BoxStyle::Warning, "Orvanta",
                          "The recorder " + (arguments.empty() ? state_.settings.recordCommand : arguments.front()) +
                              " could not be started.\n\nAccess the Orvanta Setup Section to choose another one.");
 }
 
-bool RecorderLaunch::ready() {
+bool Recorder::ready() {
   const auto arguments = request().arguments;
   const bool there = !arguments.empty() && ports_.processes.canStart(arguments.front());
   if (!there) tellNotStarted();
   return there;
 }
 
-void RecorderLaunch::run() {
+void Recorder::run() {
   const std::string file = DataFolder(ports_.files, state_.settings.appDir).path(DataFile::RecorderTexts);
   // Nothing is let go of before the recorder can have what it needs.
   if (!usersOwn() && !ports_.files.write(file, texts())) {
@@ -55,13 +55,13 @@ void RecorderLaunch::run() {
   restart_.forDisc();
 }
 
-void RecorderLaunch::letGo() {
+void Recorder::letGo() {
   const Settings& settings = state_.settings;
-  state_.transport.playingFlag = state_.transport.pausedFlag = kOff;
+  state_.transport.playingFlag = state_.transport.pausedFlag = false;
   looks_.show(DeckState::Leaving);
   looks_.flash(Record);
   writeSettings(SettingsFile::SettingsDat, ports_.files, settings.appDir, settings);
-  position_.saveposn1();
+  place_.saveposn1();
   volume_.releaseMute();
   volume_.mixer().tidyUp();
   form_.Label28.foreColor = colours::kDarkRed;
@@ -72,7 +72,7 @@ void RecorderLaunch::letGo() {
   DataFolder(ports_.files, settings.appDir).unmark(DataFile::Running);
 }
 
-std::string RecorderLaunch::texts() const {
+std::string Recorder::texts() const {
   const DiscState& disc = state_.disc;
   FieldWriter out;
   out.text(disc.discArtist);

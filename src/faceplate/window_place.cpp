@@ -1,5 +1,5 @@
 // Storing and restoring the window's place, in twips.
-#include "faceplate/position.h"
+#include "faceplate/window_place.h"
 
 #include <algorithm>
 #include <optional>
@@ -27,23 +27,25 @@ int placeOf(const std::optional<std::string>& text) {
 
 }  // namespace
 
-WorkArea Position::area() const { return screen_.workAreaOf({form_.left, form_.top, form_.left + form_.width, form_.top + form_.height}); }
+WorkArea WindowPlace::area() const {
+  return screen_.workAreaOf({form_.left, form_.top, form_.left + form_.width, form_.top + form_.height});
+}
 
-void Position::put(const WorkArea& area, int left, int top) {
+void WindowPlace::put(const WorkArea& area, int left, int top) {
   form_.left = area.twips.left + left;
   form_.top = area.twips.top + top;
 }
 
-DataFile Position::file() const { return state_.settings.smallFaceplate == kOn ? DataFile::SmallPlace : DataFile::LargePlace; }
+DataFile WindowPlace::file() const { return state_.settings.smallFaceplate == kOn ? DataFile::SmallPlace : DataFile::LargePlace; }
 
 /// Left and top; behind them the name of a screen that is not the primary one.
-void Position::saveposn1() {
+void WindowPlace::saveposn1() {
   if (state_.process.commandWord == "RUNRIPPER") return;
   const WorkArea on = area();
   const int left = kept(form_.left - on.twips.left, form_.width, 0, on.width());
   const int top = kept(form_.top - on.twips.top, form_.height, 0, on.height());
   put(on, left, top);
-  state_.display.positionKnown = kOn;
+  state_.display.positionKnown = true;
   FieldWriter out;
   out.number(left);
   out.number(top);
@@ -51,7 +53,7 @@ void Position::saveposn1() {
   data_.save(file(), out);
 }
 
-void Position::posfp1() {
+void WindowPlace::posfp1() {
   const RecordBytes record = data_.read(file()).value_or(RecordBytes{});
   FieldReader reader = record.reader();
   const auto left = reader.next();
@@ -62,16 +64,16 @@ void Position::posfp1() {
   }
   const WorkArea on = screen_.workAreaNamed(reader.next().value_or(""));
   put(on, kept(placeOf(left), form_.width, kRightMargin, on.width()), kept(placeOf(top), form_.height, kLowerMargin, on.height()));
-  state_.display.positionKnown = kOn;
+  state_.display.positionKnown = true;
 }
 
-void Position::Form_DblClick() {
+void WindowPlace::Form_DblClick() {
   centre();
   data_.remove(file());
 }
 
-void Position::centre() {
-  state_.display.positionKnown = kOff;
+void WindowPlace::centre() {
+  state_.display.positionKnown = false;
   const WorkArea on = area();
   put(on, (on.width() - form_.width) / 2, (on.height() - form_.height) / 2);
 }

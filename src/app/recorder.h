@@ -3,8 +3,8 @@
 
 #include "app/ports.h"
 #include "app/restart.h"
-#include "faceplate/position.h"
 #include "faceplate/volume.h"
+#include "faceplate/window_place.h"
 #include "platform/ports/processes.h"
 #include "playback/key_looks.h"
 #include "state/shared_state.h"
@@ -12,11 +12,10 @@
 
 namespace orvanta {
 
-class RecorderLaunch {
+class Recorder {
  public:
-  RecorderLaunch(const LifePorts& ports, KeyLooks& looks, Position& position, Volume& volume, Restart& restart, CDForm& form,
-                 SharedState& state)
-      : ports_(ports), looks_(looks), position_(position), volume_(volume), restart_(restart), form_(form), state_(state) {}
+  Recorder(const LifePorts& ports, KeyLooks& looks, WindowPlace& place, Volume& volume, Restart& restart, CDForm& form, SharedState& state)
+      : ports_(ports), looks_(looks), place_(place), volume_(volume), restart_(restart), form_(form), state_(state) {}
   /// There is a recorder to be started; else the user is told.
   bool ready();
   /// Saves, lets go of the drive, starts the recorder with the disc's texts, and ends the process. A recorder that does
@@ -32,7 +31,7 @@ class RecorderLaunch {
 
   LifePorts ports_;
   KeyLooks& looks_;
-  Position& position_;
+  WindowPlace& place_;
   Volume& volume_;
   Restart& restart_;
   CDForm& form_;

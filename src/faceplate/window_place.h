@@ -10,9 +10,10 @@ namespace orvanta {
 
 class Files;
 
-class Position {
+class WindowPlace {
  public:
-  Position(Files& files, Screen& screen, CDForm& form, SharedState& state) : data_(files, state.settings.appDir), screen_(screen), form_(form), state_(state) {}
+  WindowPlace(Files& files, Screen& screen, CDForm& form, SharedState& state)
+      : data_(files, state.settings.appDir), screen_(screen), form_(form), state_(state) {}
 
   /// Pulls the window onto the screen and stores its place.
   void saveposn1();

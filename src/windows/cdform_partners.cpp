@@ -61,24 +61,21 @@ constexpr forms::PartnerRow kPartners[] = {
 
 using forms::AreaKind;
 
-constexpr forms::AreaRow kLargeAreas[] = {
+constexpr int kSmall = 6000;  ///< twips: wider is the large faceplate
+constexpr forms::AreaRow kAreas[] = {
+    {AreaKind::Glass, {110, 360, 5652, 1668}, {110, 360, 5652, 1660}, kSmall},
     {AreaKind::Glass, {1440, 360, 5652, 1668}, {1440, 360, 5652, 1660}},
+    {AreaKind::KeyRow, {132, 2126, 5600, 507}, {132, 2126, 5600, 507}, kSmall},
     {AreaKind::KeyRow, {1494, 2769, 5592, 507}, {1494, 2769, 5592, 507}},
+    {AreaKind::Bracket, {}, {}, kSmall},
     {AreaKind::Bracket, {7380, 2558, 1840, 105}, {7380, 2558, 1840, 105}},
-};
-constexpr forms::AreaRow kSmallAreas[] = {
-    {AreaKind::Glass, {110, 360, 5652, 1668}, {110, 360, 5652, 1660}},
-    {AreaKind::KeyRow, {132, 2126, 5600, 507}, {132, 2126, 5600, 507}},
+    {AreaKind::Tray, {1200, 540, 3610, 1470}, {1200, 540, 3610, 1470}},
 };
 
 }  // namespace
 
 std::span<const forms::PartnerRow> CDForm::partners() const { return kPartners; }
 
-std::span<const forms::AreaRow> CDForm::areas() const {
-  constexpr int kIsSmall = 6000;  // twips of the window's width
-  if (width < kIsSmall) return kSmallAreas;
-  return kLargeAreas;
-}
+std::span<const forms::AreaRow> CDForm::areas() const { return kAreas; }
 
 }  // namespace orvanta

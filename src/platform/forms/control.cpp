@@ -53,6 +53,11 @@ void TextBox::selectAll() {
   allSelected = true;
 }
 
+void TextBox::takeText(const std::string& text) {
+  allSelected = false;
+  caption = text;
+}
+
 void Combo::setItems(std::vector<std::string> items) {
   items_ = std::move(items);
   propertyChanged(Change::Rows);
@@ -65,6 +70,11 @@ void Combo::choose(int index) {
 const std::string& ListBox::row(int index) const {
   static const std::string kNone;
   return inRange(index) ? rows_[static_cast<size_t>(index)].text : kNone;
+}
+
+void ListBox::resetOwn() {
+  clear();
+  markedRow = -1;
 }
 
 void ListBox::clear() {
@@ -122,6 +132,12 @@ void ListBox::taken(int index, const std::vector<int>& selection) {
   for (const int selected : selection) {
     if (inRange(selected)) rows_[static_cast<size_t>(selected)].selected = true;
   }
+}
+
+void Bar::resetOwn() {
+  floodColor = foreColor.get();
+  foreColor = colours::kBlack;
+  floodPercent = 0;
 }
 
 }  // namespace orvanta::forms

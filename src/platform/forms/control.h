@@ -35,8 +35,12 @@ std::string_view kindName(Kind kind);
 
 enum class Align { Left, Center, Right };
 
+// Aliases that the screen answers for.
+constexpr const char* kLcdFont = "LcdD";
+constexpr const char* kSmallFont = "Small Fonts";
+
 struct Font {
-  std::string family;  ///< "LcdD" and "Small Fonts" are aliases that the screen answers for
+  std::string family;
   double points = 8;
   bool bold = false;
   bool italic = false;
@@ -110,6 +114,13 @@ class Control : protected PropertyOwner {
   /// Its light is lit.
   bool on() const;
 
+  /// What its kind has beside the values of all controls, put back for a window that is loaded anew.
+  virtual void resetOwn() {}
+  /// What its kind shows beside its caption: "40%", "on", "empty"; "" for nothing.
+  virtual std::string state() const { return {}; }
+  /// A text of the user's.
+  virtual void takeText(const std::string& text) { caption = text; }
+
  protected:
   void propertyChanged(Change change) final;
 
@@ -135,6 +146,7 @@ using Button = Simple<Kind::Button>;
 class Image : public Simple<Kind::Image> {
  public:
   using Simple::Simple;
+  void resetOwn() override { picture = std::string(); }
   Property<std::string> picture{*this, Change::Look};  ///< a picture file of the user's in place of the drawing; "" for none
 };
 
@@ -142,6 +154,8 @@ class Image : public Simple<Kind::Image> {
 class Panel : public Simple<Kind::Panel> {
  public:
   using Simple::Simple;
+  void resetOwn() override { empty = false; }
+  std::string state() const override { return empty ? "empty" : ""; }
   int bevelInner = 2;
   int bevelOuter = 2;
   int bevelWidth = 3;
@@ -152,6 +166,8 @@ class Panel : public Simple<Kind::Panel> {
 class TextBox : public Simple<Kind::TextBox> {
  public:
   using Simple::Simple;
+  void resetOwn() override { allSelected = false; }
+  void takeText(const std::string& text) override;
   bool multiLine = false;
   /// By program, told to the view each time: a text set since the last one has ended it there.
   void selectAll();
@@ -162,6 +178,7 @@ class TextBox : public Simple<Kind::TextBox> {
 class CheckBox : public Simple<Kind::Check> {
  public:
   using Simple::Simple;
+  std::string state() const override { return value ? "on" : ""; }
   Property<bool> value{*this, Change::Selection};
 };
 
@@ -169,6 +186,7 @@ class CheckBox : public Simple<Kind::Check> {
 class Combo : public Simple<Kind::Combo> {
  public:
   using Simple::Simple;
+  void resetOwn() override { clear(); }
   void clear() { setItems({}); }
   void setItems(std::vector<std::string> items);
   const std::vector<std::string>& items() const { return items_; }
@@ -183,6 +201,7 @@ class Combo : public Simple<Kind::Combo> {
 class ListBox : public Simple<Kind::List> {
  public:
   using Simple::Simple;
+  void resetOwn() override;
   Property<bool> multiSelect{*this, Change::Look, false};
   Property<int> markedRow{*this, Change::Look, -1};  ///< stands out from the others, as the track that plays; -1 for none
 
@@ -219,6 +238,9 @@ class ListBox : public Simple<Kind::List> {
 class Bar : public Simple<Kind::Bar> {
  public:
   using Simple::Simple;
+  /// The table's colour is that of the flood.
+  void resetOwn() override;
+  std::string state() const override { return std::to_string(floodPercent) + "%"; }
   Property<int> floodPercent{*this, Change::Look};  ///< 0 to 100
   Property<Colour> floodColor{*this, Change::Look};
 };

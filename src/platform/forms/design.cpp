@@ -24,17 +24,11 @@ void applyRow(Control& control, const DesignRow& row, const Place& place, Form& 
   control.toolTip = row.toolTip;
   control.foreColor = row.fore;
   control.backColor = row.back;
-  if (auto* bar = dynamic_cast<Bar*>(&control)) {
-    bar->foreColor = colours::kBlack;
-    bar->floodColor = row.fore;
-    bar->floodPercent = 0;
-  }
   control.tellsText = false;
-  if (auto* panel = dynamic_cast<Panel*>(&control)) panel->empty = false;
-  if (auto* image = dynamic_cast<Image*>(&control)) image->picture = std::string();
   control.font = Font{row.font, row.points, row.bold};
   control.align = row.align;
   control.wordWrap = row.wrap;
+  control.resetOwn();
 }
 
 /// Rows stand much in the order of the controls, so each search starts where the last one ended.
@@ -104,12 +98,7 @@ void applyGrid(Form& form, std::span<const GridRow> rows) {
     control->caption = row.caption;
     control->toolTip = row.toolTip;
     control->font = Font{};
-    if (auto* list = dynamic_cast<ListBox*>(control)) {
-      list->clear();
-      list->markedRow = -1;
-    }
-    if (auto* combo = dynamic_cast<Combo*>(control)) combo->clear();
-    if (auto* box = dynamic_cast<TextBox*>(control)) box->allSelected = false;
+    control->resetOwn();
   }
 }
 

@@ -50,11 +50,15 @@ enum class AreaKind {
   Glass,    ///< all that the display's panes lie on
   KeyRow,   ///< the recess of a row of keys
   Bracket,  ///< over a group of keys, from its ends
+  Tray,     ///< one picture of which each panel on it shows its own slice
 };
 struct AreaRow {
   AreaKind kind;
   Place fine;
   Place coarse;
+  int widest = kAnyWidth;  ///< twips of a window that has it so; the first row that fits counts
+
+  static constexpr int kAnyWidth = 1 << 30;
 };
 
 constexpr int kEach = -2;  ///< every index of an array, each with the like index of its partner's

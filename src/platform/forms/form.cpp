@@ -32,7 +32,7 @@ std::span<const AreaRow> Form::areas() const { return {}; }
 
 Place Form::area(AreaKind kind) const {
   for (const AreaRow& row : areas()) {
-    if (row.kind == kind) return smallFonts ? row.coarse : row.fine;
+    if (row.kind == kind && width <= row.widest) return smallFonts ? row.coarse : row.fine;
   }
   return {};
 }
@@ -197,10 +197,9 @@ void Form::wheel(Control* control, int notches) {
 }
 
 void Form::userText(Control& control, const std::string& text) {
-  if (auto* box = dynamic_cast<TextBox*>(&control)) box->allSelected = false;
-  if (control.caption.get() == text) return;
-  control.caption = text;
-  events_->edited(control);
+  const bool changes = control.caption.get() != text;
+  control.takeText(text);
+  if (changes) events_->edited(control);
 }
 
 void Form::userRow(ListBox& list, int row, const std::vector<int>& selection) {

@@ -21,10 +21,8 @@ std::string line(const Control& control) {
   text += " " + hex(control.foreColor) + "/" + hex(control.backColor);
   if (!control.visible) text += " hidden";
   if (!control.enabled) text += " disabled";
-  if (const auto* check = dynamic_cast<const CheckBox*>(&control); check != nullptr && check->value) text += " on";
-  if (const auto* bar = dynamic_cast<const Bar*>(&control)) text += " " + std::to_string(bar->floodPercent) + "%";
-  if (const auto* panel = dynamic_cast<const Panel*>(&control); panel != nullptr && panel->empty) text += " empty";
-  return text + "\n";
+  const std::string state = control.state();
+  return text + (state.empty() ? "" : " " + state) + "\n";
 }
 
 }  // namespace

@@ -77,9 +77,7 @@ class AccessibleControl : public AccessibleParent {
 
   QString text(QAccessible::Text kind) const override {
     widget_.describe();
-    if (const auto* bar = dynamic_cast<const forms::Bar*>(&widget_.control()); bar != nullptr && kind == QAccessible::Value) {
-      return QString::number(bar->floodPercent) + QLatin1Char('%');
-    }
+    if (kind == QAccessible::Value && widget_.control().kind() == forms::Kind::Bar) return toQt(widget_.control().state());
     const forms::Control* percent = percentOf(widget_.control());
     if (percent != nullptr && kind == QAccessible::Value) return toQt(percent->caption) + QLatin1Char('%');
     return QAccessibleWidget::text(kind);

@@ -6,6 +6,7 @@
 #include "platform/forms/design.h"
 #include "platform/forms/form.h"
 #include "platform/qt/art_tools.h"
+#include "platform/qt/palette.h"
 
 namespace orvanta {
 
@@ -19,8 +20,7 @@ struct OwnColours {
 };
 
 OwnColours ownColours(const forms::Control& control) {
-  const auto* pane = dynamic_cast<const forms::Panel*>(control.parent);
-  if (pane == nullptr) pane = dynamic_cast<const forms::Panel*>(&control);
+  const auto* pane = dynamic_cast<const forms::Panel*>(control.parent != nullptr ? control.parent : &control);
   if (pane == nullptr || pane->bevelInner != 1) return {};
   return {true, qColour(pane->foreColor), qColour(pane->backColor)};
 }
@@ -100,7 +100,7 @@ void digits(Art& art, std::string_view detail) {
   const double points = length > 7 ? std::min(11.5, c.font.get().points) : c.font.get().points;
   const bool right = c.align == forms::Align::Right;
   const Lettering how{c.align, 0, 0, right};
-  if (!detail.empty() && c.font.get().family == "LcdD") {
+  if (!detail.empty() && c.font.get().family == forms::kLcdFont) {
     const OwnColours own = ownColours(c);
     const char* ghost = detail == "number" ? "88" : length <= 6 ? "-88:88" : "-8:88:88";
     letters(art, ghost, own.set ? mix(own.back, own.fore, .10) : QColor(0x0D, 0x26, 0x13), how, points);
@@ -166,10 +166,9 @@ bool paintDisplay(Art& art, std::string_view name, std::string_view detail) {
     well(art.painter, area.adjusted(1, .5, -1, -.5), 1.2, QColor(3, 4, 4), art.k);
     lit(art, {c.align}, 0);
   } else if (name == "online") {
-    const forms::Font font{"Small Fonts", 7, true};
-    const QColor amber(0xFF, 0xC2, 0x47);
-    glow(art, area, font, "ONLINE", amber, {forms::Align::Right}, .6);
-    letters(art, area, font, "ONLINE", amber, {forms::Align::Right});
+    const forms::Font font{forms::kSmallFont, 7, true};
+    glow(art, area, font, "ONLINE", kAmber, {forms::Align::Right}, .6);
+    letters(art, area, font, "ONLINE", kAmber, {forms::Align::Right});
   } else if (name == "entry") {
     fill(art.painter, area, QColor(2, 3, 3), 1.5);
     art.painter.setBrush(Qt::NoBrush);

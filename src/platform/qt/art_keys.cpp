@@ -176,7 +176,7 @@ void mixerKey(Art& art) {
   sign(p, lines({{-9, -8, -9, 8}, {-3, -8, -3, 8}, {3, -8, 3, 8}, {9, -8, 9, 8}}), centre, art.k * .85, {1.2, QColor(0x2A, 0x2E, 0x33)});
   sign(p, boxes({{-11.2, -5, 4.4, 3}, {-5.2, 1.4, 4.4, 3}, {.8, -3, 4.4, 3}, {6.8, 3, 4.4, 3}}), centre, art.k * .85,
        {0, QColor(0x1C, 0x20, 0x24)});
-  letters(art, QRectF(0, art.h - 12 * art.k, art.w, 9 * art.k), {"Small Fonts", 7, true}, art.control.caption, QColor(0x10, 0x12, 0x14),
+  letters(art, QRectF(0, art.h - 12 * art.k, art.w, 9 * art.k), {forms::kSmallFont, 7, true}, art.control.caption, QColor(0x10, 0x12, 0x14),
           {});
 }
 

@@ -106,7 +106,7 @@ void door(Art& art, bool moving) {
   }
   doorPlate(art, area(art), base);
   openSign(art, 16, 19, 1.05);
-  engraved(art, QRectF(art.w - 66 * art.k, 28 * art.k, 57 * art.k, 9 * art.k), {"Small Fonts", 7, false}, "OPEN / CLOSE",
+  engraved(art, QRectF(art.w - 66 * art.k, 28 * art.k, 57 * art.k, 9 * art.k), {forms::kSmallFont, 7, false}, "OPEN / CLOSE",
            legendOn(QColor(0xA9, 0xB0, 0xB7), base), {forms::Align::Right, .3});
 }
 

@@ -9,7 +9,7 @@ namespace orvanta {
 
 namespace {
 
-double capHeight(const forms::Font& font) { return font.family == "LcdD" ? 1.0 : 0.711; }
+double capHeight(const forms::Font& font) { return font.family == forms::kLcdFont ? 1.0 : 0.711; }
 
 double pixelsOf(const Art& art, double points) { return points * 96 / 72 * art.k * art.factor; }
 

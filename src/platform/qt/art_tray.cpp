@@ -1,11 +1,12 @@
-// The disc tray, half out and open: one picture in window coordinates, of which each panel shows its
-// own slice. Points are design pixels at 15 twips.
+// The disc tray, half out and open: one picture, of which each panel shows its own slice. Points are design pixels at
+// 15 twips from the corner of the window's place for it.
 #include <QPainterPath>
 #include <QPolygonF>
 
 #include <algorithm>
 #include <cmath>
 
+#include "platform/forms/design.h"
 #include "platform/forms/form.h"
 #include "platform/qt/art_tools.h"
 
@@ -23,17 +24,10 @@ struct TrayShape {
 
 TrayShape shapeOf(bool half) {
   if (half) {
-    return {QPolygonF({{108, 36}, {292, 36}, {303, 60}, {313.5, 70}, {86.5, 70}, {97, 60}}),
-            QRectF(85.5, 69, 229, 37),
-            {200, 47},
-            {86, 24},
-            36};
+    return {QPolygonF({{28, 0}, {212, 0}, {223, 24}, {233.5, 34}, {6.5, 34}, {17, 24}}), QRectF(5.5, 33, 229, 37), {120, 11}, {86, 24}, 0};
   }
-  return {QPolygonF({{107, 40}, {293, 40}, {302, 62}, {318.5, 99}, {82, 99}, {98, 62}}),
-          QRectF(81, 98, 238.5, 35.5),
-          {200, 69.5},
-          {88, 24.5},
-          40};
+  return {
+      QPolygonF({{27, 4}, {213, 4}, {222, 26}, {238.5, 63}, {2, 63}, {18, 26}}), QRectF(1, 62, 238.5, 35.5), {120, 33.5}, {88, 24.5}, 4};
 }
 
 /// The rainbow of a disc that lies flat: twelve pastel spokes, twice round.
@@ -78,6 +72,13 @@ void disc(QPainter& p, const TrayShape& shape, bool there) {
   p.restore();
 }
 
+/// Of the picture, from the control's corner; a window without a place for it has it in the control itself.
+QPointF trayCorner(const Art& art) {
+  const forms::Place place = art.control.form().area(forms::AreaKind::Tray);
+  if (place.width <= 0) return {0, 0};
+  return QPointF(place.left, place.top) * (art.k / 15) - QPointF(art.windowX, art.windowY);
+}
+
 }  // namespace
 
 void paintTray(Art& art, bool half) {
@@ -88,7 +89,8 @@ void paintTray(Art& art, bool half) {
   QPainter& p = art.painter;
   p.save();
   p.setClipRect(QRectF(0, 0, art.w, art.h));
-  p.translate(-art.windowX, -art.windowY);
+  const QPointF corner = trayCorner(art);
+  p.translate(corner);
   p.scale(art.k, art.k);
   QPainterPath bed;
   bed.addPolygon(shape.bed);
@@ -103,14 +105,15 @@ void paintTray(Art& art, bool half) {
   // Darkness of the recess over the tray's back.
   p.save();
   p.setClipPath(bed);
-  fill(p, QRectF(60, shape.backTop, 280, 16),
+  fill(p, QRectF(-20, shape.backTop, 280, 16),
        blend({0, shape.backTop}, {0, shape.backTop + 16}, {{0, alpha(Qt::black, .85)}, {1, alpha(Qt::black, 0)}}));
   p.restore();
   const QRectF& front = shape.front;
   const QRectF lip(front.left() + 1.4, front.top() - 2.4, front.width() - 2.8, 2.4);
   fill(p, lip, blend(lip.topLeft(), lip.bottomLeft(), {{0, QColor(0x8D, 0x94, 0x9C)}, {1, QColor(0x5C, 0x62, 0x69)}}));
   Art whole = art;
-  whole.windowX = whole.windowY = 0;
+  whole.windowX = (art.windowX + corner.x()) / art.k;
+  whole.windowY = (art.windowY + corner.y()) / art.k;
   metal(whole, front, base, 2.2, .3);
   edge(p, front, 2.2, .7, .9, 1);
   p.setBrush(Qt::NoBrush);
@@ -122,8 +125,8 @@ void paintTray(Art& art, bool half) {
   fill(p, QRectF(cut.left() + 1, cut.bottom() + .2, cut.width() - 2, .6), alpha(Qt::white, .28));
   ejectSign(p, {front.right() - 16, front.top() + 11}, 1, base);
   p.restore();
-  const QRectF legend((front.left() + 14) * art.k - art.windowX, (front.top() + 5) * art.k - art.windowY, 160 * art.k, 12 * art.k);
-  engraved(art, legend, {"Small Fonts", 7.5, true}, "COMPACT DISC", legendOn(QColor(0xB9, 0xBE, 0xC4), base),
+  const QRectF legend(corner.x() + (front.left() + 14) * art.k, corner.y() + (front.top() + 5) * art.k, 160 * art.k, 12 * art.k);
+  engraved(art, legend, {forms::kSmallFont, 7.5, true}, "COMPACT DISC", legendOn(QColor(0xB9, 0xBE, 0xC4), base),
            {forms::Align::Left, 2.2 * art.k});
 }
 

@@ -5,14 +5,16 @@
 #include "platform/qt/accessible.h"
 #include "platform/qt/art.h"
 #include "platform/qt/form_view.h"
+#include "platform/qt/palette.h"
 #include "platform/qt/to_qt.h"
 
 namespace orvanta {
 
 using forms::Change;
 
-ControlWidget::ControlWidget(FormWindow& window, QWidget* parent, forms::Control& control)
-    : QWidget(parent), window_(window), control_(control) {
+ControlWidget::ControlWidget(FormWindow& window, ControlWidget* outer, forms::Control& control)
+    : QWidget(outer != nullptr ? static_cast<QWidget*>(outer) : &window), window_(window), control_(control), outer_(outer) {
+  if (outer != nullptr) outer->inner_.push_back(this);
   setAttribute(Qt::WA_TransparentForMouseEvents);
   setAttribute(Qt::WA_NoSystemBackground);
   setFocusPolicy(Qt::NoFocus);
@@ -23,17 +25,14 @@ ControlWidget::ControlWidget(FormWindow& window, QWidget* parent, forms::Control
 /// A panel's new place or size may bring its children in, or take them out.
 void ControlWidget::showIfInside() {
   setVisible(control_.visible && control_.insideForm());
-  for (QObject* child : children()) {
-    if (auto* widget = dynamic_cast<ControlWidget*>(child)) widget->showIfInside();
-  }
+  for (ControlWidget* widget : inner_) widget->showIfInside();
 }
 
 void ControlWidget::place() {
   const Scale& scale = window_.scale();
   const int bleed = this->bleed();
   const forms::Control& c = control_;
-  const auto* parent = dynamic_cast<const ControlWidget*>(parentWidget());
-  const int origin = parent != nullptr ? parent->bleed() : 0;
+  const int origin = outer_ != nullptr ? outer_->bleed() : 0;
   // A line has no height of its own: a pixel is its least.
   QRect rect = scale.rect(c.left, c.top, c.width, c.height);
   rect.setSize(rect.size().expandedTo({1, 1}));
@@ -66,7 +65,7 @@ void ControlWidget::paintEvent(QPaintEvent* /*event*/) {
   const double factor = window_.scale().factor;
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(QPen(QColor(0xFF, 0xC2, 0x47), 1.2 * factor));
+  painter.setPen(QPen(kAmber, 1.2 * factor));
   painter.drawRoundedRect(QRectF(controlRect()).adjusted(-1.5 * factor, -1.5 * factor, 1.5 * factor, 1.5 * factor), 3 * factor, 3 * factor);
 }
 

@@ -31,8 +31,8 @@ void Fonts::warmUp() {
 }
 
 QString Fonts::embedded(const std::string& family, bool bold) {
-  if (family == "LcdD") return QStringLiteral(":/fonts/DSEG7Classic-Bold.ttf");
-  if (family == "Small Fonts" || family == "Roboto Condensed") {
+  if (family == forms::kLcdFont) return QStringLiteral(":/fonts/DSEG7Classic-Bold.ttf");
+  if (family == forms::kSmallFont || family == "Roboto Condensed") {
     return bold ? QStringLiteral(":/fonts/RobotoCondensed-Bold.ttf") : QStringLiteral(":/fonts/RobotoCondensed-Regular.ttf");
   }
   return {};

@@ -11,7 +11,6 @@
 #include <QPainter>
 #include <QScreen>
 #include <QToolTip>
-#include <QWindow>
 #include <algorithm>
 #include <vector>
 
@@ -19,6 +18,7 @@
 #include "platform/qt/accessible.h"
 #include "platform/qt/data_window.h"
 #include "platform/qt/keys.h"
+#include "platform/qt/palette.h"
 #include "platform/qt/to_qt.h"
 
 namespace orvanta {
@@ -26,8 +26,6 @@ namespace orvanta {
 using forms::Change;
 
 namespace {
-
-constexpr int kDragEnd = 300;  ///< milliseconds without a move
 
 /// The file stays its owner's: a drop is never taken as a move, which would let the source delete it.
 bool takeCopy(QDropEvent& event) {
@@ -52,7 +50,7 @@ void Rim::paintEvent(QPaintEvent* /*event*/) {
   constexpr int kDepth = 6;  // design pixels, fading inwards
   QPainter painter(this);
   for (int ring = 0; ring < kDepth; ++ring) {
-    painter.setPen(QPen(QColor(0xFF, 0xC2, 0x47, 235 - 200 * ring / kDepth), factor_));
+    painter.setPen(QPen(QColor(kAmber.red(), kAmber.green(), kAmber.blue(), 235 - 200 * ring / kDepth), factor_));
     const double in = (ring + .5) * factor_;
     painter.drawRect(QRectF(rect()).adjusted(in, in, -in, -in));
   }
@@ -61,15 +59,22 @@ void Rim::paintEvent(QPaintEvent* /*event*/) {
 // ---- FormWindow
 
 FormWindow::FormWindow(forms::Form& form, CoreGate& gate, Fonts& fonts, const Scale& scale)
-    : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint), form_(form), gate_(gate), fonts_(fonts), scale_(scale) {
+    : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint),
+      form_(form),
+      gate_(gate),
+      fonts_(fonts),
+      scale_(scale),
+      drag_(
+          *this, [this] { gate_.enter([&] {
+                            form_.mouseUp({forms::MouseButton::Left, -1, -1});
+                          }); },
+          [this] { gate_.enter([&] { form_.dragged(scale_.twips(x()), scale_.twips(y())); }); }) {
   setAttribute(Qt::WA_OpaquePaintEvent);
   setMouseTracking(false);
   setAcceptDrops(true);
   setFocusPolicy(Qt::StrongFocus);
   setWindowTitle(toQt(form.caption));
   setObjectName(toQt(form.name()));
-  dragEnd_.setSingleShot(true);
-  QObject::connect(&dragEnd_, &QTimer::timeout, this, [this] { dragMayHaveEnded(); });
   useAccessibleControls();
   build();
   rim_ = new Rim(*this, scale_.factor);
@@ -84,11 +89,10 @@ void FormWindow::build() {
   while (!level.empty()) {
     std::vector<forms::Control*> next;
     for (forms::Control* parent : level) {
-      QWidget* owner = this;
-      if (parent != nullptr) owner = widgets_.at(parent);
+      ControlWidget* outer = parent == nullptr ? nullptr : widgets_.at(parent);
       for (forms::Control* control : order) {
         if (control->parent != parent) continue;
-        widgets_[control] = new ControlWidget(*this, owner, *control);
+        widgets_[control] = new ControlWidget(*this, outer, *control);
         for (size_t role = 0; role < forms::kRoles; ++role) {
           const forms::Control* partner = control->with(static_cast<forms::Role>(role));
           if (partner != nullptr && partner != control) followers_[partner].push_back(widgets_[control]);
@@ -112,7 +116,7 @@ bool FormWindow::onScreen() const {
 
 void FormWindow::placeWindow() {
   setFixedSize(scale_.pixels(form_.width), scale_.pixels(form_.height));
-  if (!dragging_) move(scale_.pixels(form_.left), scale_.pixels(form_.top));
+  if (!drag_.underWay()) move(scale_.pixels(form_.left), scale_.pixels(form_.top));
 }
 
 void FormWindow::show() {
@@ -143,9 +147,7 @@ void FormWindow::formChanged(Change change) {
   if (change == Change::Text) setWindowTitle(toQt(form_.caption));
   if (change == Change::Geometry) {
     placeWindow();
-    for (QObject* child : children()) {
-      if (auto* widget = dynamic_cast<ControlWidget*>(child)) widget->showIfInside();
-    }
+    for (const auto& [control, widget] : widgets_) widget->showIfInside();
     if (wanted_) setVisible(onScreen());
   }
   if (change == Change::Visibility && wanted_) setWindowState(form_.minimised ? Qt::WindowMinimized : Qt::WindowNoState);
@@ -207,28 +209,19 @@ forms::Mouse FormWindow::mouseAt(const QMouseEvent& event, const forms::Control*
 
 void FormWindow::mousePressEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton && event->button() != Qt::RightButton) return;
-  grip_ = event->globalPosition().toPoint() - pos();
-  held_ = event->button() == Qt::LeftButton;
+  drag_.pressed(*event);
   forms::Control* control = hit(event->position().toPoint());
   gate_.enter([&] { form_.mouseDown(control, mouseAt(*event, control)); });
 }
 
 void FormWindow::mouseMoveEvent(QMouseEvent* event) {
-  if (moving_) {
-    move(event->globalPosition().toPoint() - grip_);
-    return;
-  }
+  if (drag_.moved(*event)) return;
   forms::Control* control = form_.pressed() != nullptr ? form_.pressed() : hit(event->position().toPoint());
   gate_.enter([&] { form_.mouseMove(control, mouseAt(*event, control)); });
 }
 
 void FormWindow::mouseReleaseEvent(QMouseEvent* event) {
-  if (event->button() == Qt::LeftButton) held_ = false;
-  if (moving_) {
-    moving_ = false;
-    dragMayHaveEnded();
-    return;
-  }
+  if (drag_.released(*event)) return;
   gate_.enter([&] { form_.mouseUp(mouseAt(*event, form_.pressed())); });
 }
 
@@ -315,34 +308,9 @@ void FormWindow::closeEvent(QCloseEvent* event) {
   gate_.enter([&] { form_.closeAsked(); });
 }
 
-/// What waits comes first: with the release among it, the window would stick to the mouse.
-void FormWindow::drag() {
-  QTimer::singleShot(0, this, [this] { startDrag(); });
-}
+void FormWindow::drag() { drag_.begin(); }
 
-void FormWindow::startDrag() {
-  if (!held_ || dragging_) return;
-  dragging_ = true;
-  // The system takes the mouse from here on, so the press has had its one release.
-  held_ = false;
-  gate_.enter([&] { form_.mouseUp({forms::MouseButton::Left, -1, -1}); });
-  moving_ = windowHandle() == nullptr || !windowHandle()->startSystemMove();
-  dragEnd_.start(kDragEnd);
-}
-
-void FormWindow::moveEvent(QMoveEvent* /*event*/) {
-  if (dragging_) dragEnd_.start(kDragEnd);
-}
-
-void FormWindow::dragMayHaveEnded() {
-  if (!dragging_ || moving_) return;
-  if (QGuiApplication::mouseButtons() != Qt::NoButton) {
-    dragEnd_.start(kDragEnd);
-    return;
-  }
-  dragging_ = false;
-  gate_.enter([&] { form_.dragged(scale_.twips(x()), scale_.twips(y())); });
-}
+void FormWindow::moveEvent(QMoveEvent* /*event*/) { drag_.windowMoved(); }
 
 std::unique_ptr<forms::FormView> QtDesktop::open(forms::Form& form) {
   if (form.resizable()) return std::make_unique<DataView>(form, gate_, scale_);

@@ -1,7 +1,6 @@
 // A form on the screen: a frameless window with a child widget for each control.
 #pragma once
 
-#include <QTimer>
 #include <QWidget>
 #include <map>
 #include <memory>
@@ -12,6 +11,7 @@
 #include "platform/qt/art.h"
 #include "platform/qt/fonts.h"
 #include "platform/qt/scale.h"
+#include "platform/qt/window_drag.h"
 
 namespace orvanta {
 
@@ -19,7 +19,8 @@ class FormWindow;
 
 class ControlWidget : public QWidget {
  public:
-  ControlWidget(FormWindow& window, QWidget* parent, forms::Control& control);
+  /// `outer`: the panel that it lies on, nullptr for the window.
+  ControlWidget(FormWindow& window, ControlWidget* outer, forms::Control& control);
   forms::Control& control() const { return control_; }
   FormWindow& formWindow() const { return window_; }
   /// Takes over place, visibility and name.
@@ -43,6 +44,8 @@ class ControlWidget : public QWidget {
 
   FormWindow& window_;
   forms::Control& control_;
+  ControlWidget* outer_;
+  std::vector<ControlWidget*> inner_;
 };
 
 /// A rim of light around the whole window.
@@ -110,8 +113,6 @@ class FormWindow : public QWidget, public forms::FormView {
   bool onScreen() const;
   forms::Control* hit(const QPoint& place) const;
   forms::Mouse mouseAt(const QMouseEvent& event, const forms::Control* control) const;
-  void startDrag();
-  void dragMayHaveEnded();
 
   forms::Form& form_;
   CoreGate& gate_;
@@ -119,16 +120,12 @@ class FormWindow : public QWidget, public forms::FormView {
   ArtCache artCache_{ArtCache::kSurfaces};
   ArtCache glows_{ArtCache::kGlows};
   Scale scale_;
+  WindowDrag drag_;
   std::map<const forms::Control*, ControlWidget*> widgets_;
   Rim* rim_ = nullptr;  ///< shown while a file that would be used hovers over the window
   std::map<const forms::Control*, std::vector<ControlWidget*>> followers_;  ///< whose partner a control is
   ControlWidget* focused_ = nullptr;
   int wheel_ = 0;  ///< of a notch, in Qt's eighths of a degree
-  QTimer dragEnd_;
-  QPoint grip_;        ///< of a drag without a window manager
-  bool held_ = false;  ///< the left mouse button is down
-  bool dragging_ = false;
-  bool moving_ = false;  ///< we move it ourselves
   bool painted_ = false;
   bool wanted_ = false;  ///< shown, as far as the form goes
 };

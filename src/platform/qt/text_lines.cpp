@@ -17,7 +17,7 @@ TextLines::TextLines(Fonts& fonts, const forms::Font& font, double pixels, doubl
       spacing_(spacing),
       lines_{text} {
   // The display's digits have no fall-back: what they lack is not shown.
-  own_ = font.family == "LcdD" || !face_.glyphIndexesForString(text).contains(0);
+  own_ = font.family == forms::kLcdFont || !face_.glyphIndexesForString(text).contains(0);
   if (own_ && face_.glyphIndexesForString(dots_).contains(0)) dots_ = QStringLiteral("...");
   system_.setPixelSize(std::max(1, static_cast<int>(pixels)));
   system_.setBold(font.bold);

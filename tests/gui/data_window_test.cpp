@@ -14,6 +14,7 @@
 #include <QPlainTextEdit>
 #include <QPointer>
 #include <QProcess>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QRegularExpression>
@@ -23,6 +24,7 @@
 #include <QTimer>
 #include <QTreeWidget>
 
+#include "platform/forms/design.h"
 #include "platform/qt/data_window.h"
 #include "platform/qt/late_printer.h"
 #include "platform/qt/qt_dialogs.h"
@@ -332,6 +334,44 @@ TEST(DataWindow, TicksAndSecretsAreTheFormsToShow) {
   EXPECT_TRUE(rig.widget<QRadioButton>(form.Option2[1]).isChecked());
   EXPECT_EQ(rig.widget<QLineEdit>(form.Text8).echoMode(), QLineEdit::Password);
   EXPECT_TRUE(rig.widget<QPlainTextEdit>(form.linernote2).isReadOnly());
+}
+
+/// A window of other names.
+struct Sheet : forms::Form {
+  Sheet() : Form("Sheet") {}
+  forms::Bar progress{*this, "progress"};
+  forms::TextBox word{*this, "word"};
+  forms::ListBox lines{*this, "lines"};
+
+ protected:
+  std::span<const forms::GridRow> grid() const override {
+    static constexpr forms::GridRow kRows[] = {{"Sheet", forms::kNoIndex, "", {0, 0, 3000, 4500}, "Sheet", ""},
+                                               {"progress", forms::kNoIndex, "Sheet", {0, 0, 1, 1}, "", "Progress"},
+                                               {"word", forms::kNoIndex, "Sheet", {1, 0, 1, 1}, "", "Word", true},
+                                               {"lines", forms::kNoIndex, "Sheet", {2, 0, 1, 1}, "", "Lines", true}};
+    return kRows;
+  }
+};
+
+TEST(DataWindow, ServesAnyForm) {
+  Windows rig;
+  Sheet sheet;
+  sheet.show(rig.qtDesktop);
+  auto& bar = rig.widget<QProgressBar>(sheet.progress);
+  sheet.progress.floodPercent = 40;
+  EXPECT_EQ(bar.value(), 40);
+  EXPECT_FALSE(bar.isTextVisible());
+  sheet.progress.caption = "Reading";
+  EXPECT_EQ(bar.text(), "Reading");
+  sheet.word.caption = "as it is";
+  sheet.setFocus(sheet.lines);
+  sheet.setFocus(sheet.word);
+  EXPECT_EQ(rig.widget<QLineEdit>(sheet.word).selectedText(), "as it is");
+  for (const char* line : {"1:\tone", "2:\ttwo"}) sheet.lines.add(line);
+  sheet.lines.setListIndex(1);
+  auto& lines = rig.widget<QTreeWidget>(sheet.lines);
+  ASSERT_EQ(lines.topLevelItemCount(), 2);
+  EXPECT_TRUE(lines.topLevelItem(1)->isSelected() && lines.topLevelItem(1)->text(1) == "two");
 }
 
 }  // namespace

@@ -50,6 +50,8 @@ QCheckBox::indicator, QRadioButton::indicator { width: 13p; height: 13p; backgro
 QRadioButton::indicator { border-radius: 7p; }
 QCheckBox::indicator:checked, QRadioButton::indicator:checked { background: #50E678; border: 3p solid #101315; }
 QCheckBox:focus, QRadioButton:focus { color: #FFC247; }
+QProgressBar { background: #101315; border: 1p solid #15171A; border-bottom-color: #4A5057; border-radius: 3p; text-align: center; }
+QProgressBar::chunk { background: #1F6B3A; border-radius: 2p; }
 QCheckBox:disabled, QRadioButton:disabled, QLabel:disabled { color: #6A7078; }
 QLineEdit:disabled, QPlainTextEdit:disabled, QComboBox:disabled, QTreeWidget:disabled { background: #24272B; color: #6A7078; }
 QScrollBar:vertical { background: #15181B; width: 12p; margin: 0; }

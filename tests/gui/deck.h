@@ -7,6 +7,7 @@
 #include <functional>
 
 #include "platform/qt/form_view.h"
+#include "platform/qt/qt_desktop.h"
 #include "tests/support/core_rig.h"
 
 namespace orvanta::test {

@@ -59,6 +59,29 @@ TEST(Architecture, IncludesPointOneWay) {
   }
 }
 
+/// Windows are data: no drawing, and nothing of the forms, asks for a control by its name. Names in small letters alone may be
+/// words of a table, too.
+TEST(Architecture, TheViewKnowsNoWindow) {
+  const auto each = [](const char* folder, const std::regex& pattern, const auto& tell) {
+    for (const auto& entry : fs::recursive_directory_iterator(sourceFolder() + "/src/" + folder)) {
+      if (!entry.is_regular_file()) continue;
+      std::ifstream file(entry.path());
+      for (std::string line; std::getline(file, line);) {
+        if (line.find('"') == std::string::npos) continue;
+        for (std::sregex_iterator it(line.begin(), line.end(), pattern); it != std::sregex_iterator(); ++it) tell((*it)[1], entry.path());
+      }
+    }
+  };
+  std::set<std::string> names;
+  each("windows", std::regex(R"re(\{\*this, "(\w*[A-Z0-9]\w*)"\})re"),
+       [&](const std::string& name, const fs::path&) { names.insert(name); });
+  ASSERT_GT(names.size(), 100U);
+  for (const char* folder : {"platform/qt", "platform/forms"}) {
+    each(folder, std::regex("\"(\\w+)"),
+         [&](const std::string& text, const fs::path& path) { EXPECT_EQ(names.count(text), 0U) << path << " names " << text; });
+  }
+}
+
 }  // namespace
 /// Whether a line can name one of the display's or the keys' controls: regular expressions are slow.
 bool mentions(const std::string& line) {

@@ -71,7 +71,7 @@ class Control : protected PropertyOwner {
   int index() const { return index_; }  ///< place in its array, kNoIndex for a single control
   Kind kind() const { return kind_; }
   Form& form() const { return form_; }
-  /// "icntla(2)", "Label8".
+  /// "key(2)" of an array.
   std::string fullName() const;
 
   Control* parent = nullptr;  ///< nullptr: the form itself

@@ -51,8 +51,9 @@ void Form::propertyChanged(Change change) {
 void Form::load(Desktop& desktop) {
   if (loaded()) return;
   desktop_ = &desktop;
-  active_ = pressed_ = nullptr;
-  down_ = keyPress_ = focusShown_ = false;
+  active_ = nullptr;
+  press_ = {};
+  focusShown_ = false;
   enabled = true;
   applyDesign(*this, design(), smallFonts);
   applyGrid(*this, grid());
@@ -142,41 +143,41 @@ void Form::settleFocus() {
 }
 
 void Form::mouseDown(Control* control, const Mouse& mouse) {
-  if (keyPress_) return;
+  if (press_.byKey) return;
   press(control, mouse);
 }
 
 void Form::press(Control* control, const Mouse& mouse) {
-  if (down_ || (control != nullptr && (!control->enabled || !control->shown()))) return;
-  down_ = true;
-  pressed_ = control;
-  pressedButton_ = mouse.button;
+  if (press_.down || (control != nullptr && (!control->enabled || !control->shown()))) return;
+  press_.down = true;
+  press_.control = control;
+  press_.button = mouse.button;
   if (control != nullptr) {
-    pressedAt_ = {control->left, control->top, control->width, control->height};
+    press_.at = {control->left, control->top, control->width, control->height};
     setFocus(*control);
   }
   events_->mouseDown(control, mouse);
 }
 
-void Form::mouseMove(Control* control, const Mouse& mouse) { events_->mouseMove(down_ ? pressed_ : control, mouse); }
+void Form::mouseMove(Control* control, const Mouse& mouse) { events_->mouseMove(press_.down ? press_.control : control, mouse); }
 
 void Form::mouseUp(const Mouse& mouse) {
-  if (!keyPress_) release(mouse);
+  if (!press_.byKey) release(mouse);
 }
 
 void Form::release(const Mouse& mouse) {
-  if (!down_ || mouse.button != pressedButton_) return;
-  Control* control = pressed_;
-  down_ = false;
-  pressed_ = nullptr;
+  if (!press_.down || mouse.button != press_.button) return;
+  Control* control = press_.control;
+  press_.down = false;
+  press_.control = nullptr;
   Mouse told = mouse;
   if (control != nullptr) {
     const auto within = [](int at, int length, int slack) { return at >= -slack && at < length + slack; };
     // A key gives way under the mouse, so its place at rest counts as well as where it is now.
-    const int right = control->left - pressedAt_.left;
-    const int down = control->top - pressedAt_.top;
+    const int right = control->left - press_.at.left;
+    const int down = control->top - press_.at.top;
     const int slack = right != 0 || down != 0 ? kRounding : 0;
-    told.over = within(mouse.x + right, pressedAt_.width, slack) && within(mouse.y + down, pressedAt_.height, slack);
+    told.over = within(mouse.x + right, press_.at.width, slack) && within(mouse.y + down, press_.at.height, slack);
     told.over = told.over || (within(mouse.x, control->width, 0) && within(mouse.y, control->height, 0));
   }
   events_->mouseUp(control, told);
@@ -185,8 +186,8 @@ void Form::release(const Mouse& mouse) {
 }
 
 void Form::deactivated() {
-  if (!keyPress_) return;
-  keyPress_ = false;
+  if (!press_.byKey) return;
+  press_.byKey = false;
   release({MouseButton::Left, kElsewhere, kElsewhere});
 }
 
@@ -214,7 +215,7 @@ void Form::userFocus(Control& control) {
 }
 
 void Form::press(Control& control) {
-  if (down_) return;
+  if (press_.down) return;
   const Mouse middle{MouseButton::Left, control.width / 2, control.height / 2};
   press(&control, middle);
   release(middle);
@@ -233,16 +234,16 @@ bool Form::keyDown(const KeyPress& pressed) {
   const bool presses = pressed.code == key::kSpace || pressed.code == key::kEnter;
   const bool pressable =
       active_ != nullptr && active_->kind() != Kind::TextBox && active_->kind() != Kind::Combo && active_->kind() != Kind::List;
-  if (!presses || !pressable || down_ || pressed.repeats) return false;
+  if (!presses || !pressable || press_.down || pressed.repeats) return false;
   press(active_, {MouseButton::Left, active_->width / 2, active_->height / 2});
-  keyPress_ = down_;
+  press_.byKey = press_.down;
   return true;
 }
 
 void Form::keyUp(const KeyPress& released) {
-  if (!keyPress_ || (released.code != key::kSpace && released.code != key::kEnter)) return;
-  keyPress_ = false;
-  if (pressed_ != nullptr) release({MouseButton::Left, pressed_->width / 2, pressed_->height / 2});
+  if (!press_.byKey || (released.code != key::kSpace && released.code != key::kEnter)) return;
+  press_.byKey = false;
+  if (press_.control != nullptr) release({MouseButton::Left, press_.control->width / 2, press_.control->height / 2});
 }
 
 void Form::dragged(int newLeft, int newTop) {

@@ -165,7 +165,7 @@ class Form : private PropertyOwner {
   bool takesFile(const std::string& path) const { return events_->takesFile(path); }
   void fileDropped(const std::string& path);
   void closeAsked();
-  Control* pressed() const { return pressed_; }
+  Control* pressed() const { return press_.control; }
 
  protected:
   /// A window of fixed places has this table, one that lays itself out the next.
@@ -192,11 +192,14 @@ class Form : private PropertyOwner {
   FormEvents* events_;
   Desktop* desktop_ = nullptr;
   Control* active_ = nullptr;
-  Control* pressed_ = nullptr;
-  Place pressedAt_;  ///< of the pressed control before it gave way
-  MouseButton pressedButton_ = MouseButton::Left;
-  bool down_ = false;
-  bool keyPress_ = false;  ///< the press is the keyboard's
+  struct Press {
+    Control* control = nullptr;
+    Place at;  ///< of the control before it gave way
+    MouseButton button = MouseButton::Left;
+    bool down = false;
+    bool byKey = false;
+  };
+  Press press_;
   bool focusShown_ = false;
 };
 

@@ -1,4 +1,6 @@
-// One control of a form of fixed places: a widget that is larger than it by the room for its glow.
+// Its place, its picture, the mark of focus.
+#include "platform/qt/control_widget.h"
+
 #include <QPainter>
 #include <cmath>
 

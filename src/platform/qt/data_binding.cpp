@@ -6,7 +6,6 @@
 #include <utility>
 
 #include "platform/qt/accessible.h"
-#include "platform/qt/data_bindings.h"
 #include "platform/qt/keys.h"
 #include "platform/qt/to_qt.h"
 
@@ -82,15 +81,6 @@ bool Binding::eventFilter(QObject* watched, QEvent* event) {
     default: break;
   }
   return used || QObject::eventFilter(watched, event);
-}
-
-std::unique_ptr<Binding> bind(FormRoad& road, forms::Control& control, QWidget& parent, double factor) {
-  for (const auto rows : {fieldBindings(), keyBindings()}) {
-    for (const BindingRow& row : rows) {
-      if (row.kind == control.kind() && hinted(control, row.hint)) return row.make(road, control, parent, factor);
-    }
-  }
-  return nullptr;
 }
 
 }  // namespace orvanta

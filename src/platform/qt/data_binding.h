@@ -5,7 +5,6 @@
 #include <QObject>
 #include <QWidget>
 #include <functional>
-#include <memory>
 #include <string_view>
 #include <utility>
 
@@ -93,8 +92,5 @@ class Binding : public QObject {
   forms::Control& control_;
   QWidget* widget_;  ///< its parent's
 };
-
-/// Makes the control's widget on `parent`, sizes by the factor; nullptr for a kind that data windows do not have.
-std::unique_ptr<Binding> bind(FormRoad& road, forms::Control& control, QWidget& parent, double factor);
 
 }  // namespace orvanta

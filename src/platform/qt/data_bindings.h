@@ -20,6 +20,9 @@ std::unique_ptr<Binding> made(FormRoad& road, forms::Control& control, QWidget& 
   return std::make_unique<B>(road, static_cast<C&>(control), parent, factor);
 }
 
+/// Makes the control's widget on `parent`, sizes by the factor; nullptr for a kind that data windows do not have.
+std::unique_ptr<Binding> bind(FormRoad& road, forms::Control& control, QWidget& parent, double factor);
+
 // Of a kind the first row that fits.
 std::span<const BindingRow> fieldBindings();
 std::span<const BindingRow> keyBindings();

@@ -3,9 +3,19 @@
 #include <algorithm>
 #include <vector>
 
+#include "platform/qt/data_bindings.h"
 #include "platform/qt/data_window.h"
 
 namespace orvanta {
+
+std::unique_ptr<Binding> bind(FormRoad& road, forms::Control& control, QWidget& parent, double factor) {
+  for (const auto rows : {fieldBindings(), keyBindings()}) {
+    for (const BindingRow& row : rows) {
+      if (row.kind == control.kind() && hinted(control, row.hint)) return row.make(road, control, parent, factor);
+    }
+  }
+  return nullptr;
+}
 
 QGridLayout* DataWindow::gridOf(QWidget* owner, const forms::Control* panel) {
   auto* grid = static_cast<QGridLayout*>(owner->layout());

@@ -16,9 +16,7 @@
 
 #include "base/log.h"
 #include "platform/qt/accessible.h"
-#include "platform/qt/data_window.h"
 #include "platform/qt/keys.h"
-#include "platform/qt/palette.h"
 #include "platform/qt/to_qt.h"
 
 namespace orvanta {
@@ -37,26 +35,6 @@ bool takeCopy(QDropEvent& event) {
 }
 
 }  // namespace
-
-// ---- Rim
-
-Rim::Rim(QWidget& window, double factor) : QWidget(&window), factor_(factor) {
-  setAttribute(Qt::WA_TransparentForMouseEvents);
-  setAttribute(Qt::WA_NoSystemBackground);
-  hide();
-}
-
-void Rim::paintEvent(QPaintEvent* /*event*/) {
-  constexpr int kDepth = 6;  // design pixels, fading inwards
-  QPainter painter(this);
-  for (int ring = 0; ring < kDepth; ++ring) {
-    painter.setPen(QPen(QColor(kAmber.red(), kAmber.green(), kAmber.blue(), 235 - 200 * ring / kDepth), factor_));
-    const double in = (ring + .5) * factor_;
-    painter.drawRect(QRectF(rect()).adjusted(in, in, -in, -in));
-  }
-}
-
-// ---- FormWindow
 
 FormWindow::FormWindow(forms::Form& form, CoreGate& gate, Fonts& fonts, const Scale& scale)
     : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint),
@@ -311,10 +289,5 @@ void FormWindow::closeEvent(QCloseEvent* event) {
 void FormWindow::drag() { drag_.begin(); }
 
 void FormWindow::moveEvent(QMoveEvent* /*event*/) { drag_.windowMoved(); }
-
-std::unique_ptr<forms::FormView> QtDesktop::open(forms::Form& form) {
-  if (form.resizable()) return std::make_unique<DataView>(form, gate_, scale_);
-  return std::make_unique<FormWindow>(form, gate_, fonts_, scale_);
-}
 
 }  // namespace orvanta

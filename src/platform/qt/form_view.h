@@ -9,56 +9,13 @@
 #include "platform/forms/form.h"
 #include "platform/ports/core_gate.h"
 #include "platform/qt/art.h"
+#include "platform/qt/control_widget.h"
 #include "platform/qt/fonts.h"
+#include "platform/qt/rim.h"
 #include "platform/qt/scale.h"
 #include "platform/qt/window_drag.h"
 
 namespace orvanta {
-
-class FormWindow;
-
-class ControlWidget : public QWidget {
- public:
-  /// `outer`: the panel that it lies on, nullptr for the window.
-  ControlWidget(FormWindow& window, ControlWidget* outer, forms::Control& control);
-  forms::Control& control() const { return control_; }
-  FormWindow& formWindow() const { return window_; }
-  /// Takes over place, visibility and name.
-  void follow(forms::Change change);
-  /// A mask came, a light went out, a lamp that lends its colour changed.
-  void followPartner();
-  void describe();
-  void showIfInside();
-  /// The control's own rectangle, without the bleed.
-  QRect controlRect() const;
-  /// What it is larger than its control on each side, in pixels.
-  int bleed() const;
-
- protected:
-  void paintEvent(QPaintEvent* event) override;
-
- private:
-  void place();
-  void paintPicture();
-  void paintArt(QPainter& painter);
-
-  FormWindow& window_;
-  forms::Control& control_;
-  ControlWidget* outer_;
-  std::vector<ControlWidget*> inner_;
-};
-
-/// A rim of light around the whole window.
-class Rim : public QWidget {
- public:
-  Rim(QWidget& window, double factor);
-
- protected:
-  void paintEvent(QPaintEvent* event) override;
-
- private:
-  double factor_;
-};
 
 class FormWindow : public QWidget, public forms::FormView {
  public:
@@ -128,18 +85,6 @@ class FormWindow : public QWidget, public forms::FormView {
   int wheel_ = 0;  ///< of a notch, in Qt's eighths of a degree
   bool painted_ = false;
   bool wanted_ = false;  ///< shown, as far as the form goes
-};
-
-/// Makes the views.
-class QtDesktop : public forms::Desktop {
- public:
-  QtDesktop(CoreGate& gate, const Scale& scale) : gate_(gate), scale_(scale) {}
-  std::unique_ptr<forms::FormView> open(forms::Form& form) override;
-
- private:
-  CoreGate& gate_;
-  Scale scale_;
-  Fonts fonts_;
 };
 
 }  // namespace orvanta

@@ -36,6 +36,9 @@ struct CoreRig {
   CDForm& form = orvanta.form;
   SharedState& state = orvanta.state;
   Settings settings = defaultSettings("/data", "/drive");
+  std::string words;                  ///< of the command line
+  std::string entry = "Track01.cda";  ///< first name on the disc
+  int playsFrom = 0;                  ///< another process has left the disc playing from this frame; 0: none
 
   /// Settings files on the disk, as a set-up leaves them.
   void install() {
@@ -44,9 +47,9 @@ struct CoreRig {
     files.tape.clear();
   }
 
-  void start(const std::string& words = "") {
+  void start(const std::string& commandWords = "") {
     gate.enter([&] {
-      orvanta.startUp({"", "", words});
+      orvanta.startUp({"", "", commandWords});
       orvanta.showFaceplate();
     });
   }
@@ -54,8 +57,9 @@ struct CoreRig {
   /// Installed, with a disc, started, the first tick done.
   void startWith(const Toc& toc) {
     install();
-    player.insert(toc);
-    start();
+    if (toc.count() > 0) player.insert(toc, entry);
+    if (playsFrom > 0) player.play(playsFrom, toc.leadOut);
+    start(words);
     clock.advance(100);
   }
 

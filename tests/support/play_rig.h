@@ -1,6 +1,7 @@
 // The core with a disc in, and what playback tests look at: who plays, which keys are lit, what stands on the display.
 #pragma once
 
+#include <functional>
 #include <sstream>
 
 #include "tests/support/core_rig.h"
@@ -26,13 +27,13 @@ inline std::string changedLines(const std::string& before, const std::string& af
 }
 
 struct PlayRig : CoreRig {
-  explicit PlayRig(const Toc& toc = discB(), bool repeat = false) {
+  explicit PlayRig(const Toc& toc = discB(), bool repeat = false, const std::function<void(PlayRig&)>& prepare = {}) {
     settings.repeatOn = repeat ? kOn : kOff;
+    if (prepare) prepare(*this);
     startWith(toc);
     clock.advance(50);  // so that status events fall between the ticks
     for (size_t i = 1; i <= 100; ++i) state.disc.trackTitles[i] = "Title " + std::to_string(i);
     clock.onDelay = [this] { ++waits; };
-    device.tape.clear();
   }
   /// Moves on to `second` of play, counted from begin().
   void at(double second) { clock.advance(begun + static_cast<int64_t>(second * 1000) + 10 - clock.milliseconds()); }

@@ -110,44 +110,6 @@ TEST_F(SocketTest, OneListensForAFolder) {
   EXPECT_EQ(identityOf("/nowhere"), "/nowhere");
 }
 
-/// Windows, tray and play as a second start asks for them.
-TEST(SecondStart, IsTakenUpByTheDeck) {
-  const auto second = [](CoreRig& rig, const SecondStart& start) { rig.gate.enter([&] { rig.orvanta.secondStart(start); }); };
-  CoreRig rig;
-  rig.startWith(discB());
-  rig.form.minimised = true;
-  second(rig, {"", "/drive", ""});
-  EXPECT_FALSE(rig.form.minimised);
-  EXPECT_EQ(rig.desktop.tape.back(), "raise");
-  EXPECT_EQ(rig.device.mode(), DeviceMode::Stopped);
-  second(rig, {"", "", "track02.cda"});
-  EXPECT_EQ(rig.device.mode(), DeviceMode::Playing);
-  EXPECT_EQ(rig.state.transport.curTrack, 2);
-  second(rig, {"", "", "TRACK09.CDA"});
-  EXPECT_EQ(rig.state.transport.curTrack, 2) << "it has three";
-
-  CoreRig lite;
-  lite.startWith(discB());
-  second(lite, {"", "", "orvlite"});
-  lite.clock.advance(2500);
-  EXPECT_EQ(lite.device.mode(), DeviceMode::Playing);
-  EXPECT_TRUE(lite.form.minimised);
-
-  // Another drive is another process, which waits for an open window.
-  CoreRig other;
-  other.startWith(discB());
-  other.key('L');
-  EXPECT_TRUE(other.orvanta.editor.loaded());
-  other.processes.onStart = [&] { other.files.files.erase("/DATA/EJCD.TMP"); };
-  second(other, {"/x.cue", "/dev/sr1", ""});
-  other.clock.advance(3000);
-  EXPECT_EQ(other.processes.tape, Tape{});
-  other.gate.enter([&] { other.orvanta.editor.unload(); });
-  other.clock.advance(1000);
-  EXPECT_EQ(other.processes.tape, Tape{"/programs/orvanlx --drive /dev/sr1 --disc /x.cue"});
-  EXPECT_TRUE(other.gate.ended());
-}
-
 TEST(SecondStart, ADriveIsHandedOnInPlaceOfTheLast) {
   HostSystem system({"--take-over", "--drive", "/a", "--scale", "2"});
   system.changeDrive("/b", "/x.cue");

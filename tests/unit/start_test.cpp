@@ -48,20 +48,6 @@ TEST(Options, StandBeforeTheWords) {
   for (const char* bad : {"--what", "--scale=0", "--audio=loud", "--data"}) EXPECT_NE(readOptions({bad}, "/").error, "") << bad;
 }
 
-TEST(Start, ShowsTheDiscThatIsInTheDrive) {
-  CoreRig rig;
-  rig.startWith(discA());
-  EXPECT_EQ(rig.track(), "3");
-  EXPECT_EQ(rig.form.Label9.caption, "TOTAL");
-  EXPECT_EQ(rig.time(), "13:29");
-  EXPECT_EQ(rig.form.Label14.caption, "DISC");
-  EXPECT_TRUE(rig.files.exists("/data/audiocd.tmp"));
-  EXPECT_TRUE(rig.form.Label22[2].visible);
-  EXPECT_FALSE(rig.form.Label22[3].visible);
-  EXPECT_EQ(rig.form.Label34[3].foreColor, colours::kGrey);
-  EXPECT_EQ(rig.screen.pointer, Pointer::Normal);
-}
-
 TEST(Start, NumbersOfTheDisc) {
   CoreRig a;
   a.startWith(discA());
@@ -92,61 +78,6 @@ TEST(Start, NumbersOfTheDisc) {
   EXPECT_EQ(full.state.disc.lampCount, 20);
   EXPECT_EQ(full.time(), "1:19:11");
   EXPECT_EQ(full.form.Label22[20].foreColor, full.state.settings.lcdColor[kLcdLit]);
-}
-
-TEST(Start, EnhancedAndDataDiscs) {
-  CoreRig enhanced;
-  enhanced.install();
-  enhanced.player.insert(tocOf({150, 9000, -20000}, 30000), "START.EXE");
-  enhanced.start();
-  enhanced.clock.advance(100);
-  EXPECT_EQ(enhanced.form.Label14.caption, "Enh-CD");
-  EXPECT_TRUE(enhanced.form.Image12.visible);
-  CoreRig data;
-  data.install();
-  data.player.insert(tocOf({-150}, 30000), "README.TXT");
-  data.start();
-  EXPECT_EQ(data.state.disc.noDiscState, 2);
-  EXPECT_NE(data.form.Label12.caption.get().find("Please insert an Audio CD"), std::string::npos);
-}
-
-TEST(Start, WithoutADiscTheDeckAsksForOne) {
-  CoreRig rig;
-  rig.startWith({});
-  EXPECT_EQ(rig.state.disc.noDiscState, 2);
-  EXPECT_EQ(rig.track() + rig.time(), "000:00");
-  EXPECT_EQ(rig.form.Label12.caption, "Please insert an Audio CD or Enh-CD into the drive...");
-  rig.press(rig.form.icntla[Play]);
-  rig.key('D');
-  rig.clock.advance(5000);
-  EXPECT_EQ(rig.state.transport.playingFlag, kOff);
-  rig.key(forms::key::kEscape);
-  EXPECT_TRUE(rig.gate.ended());
-}
-
-TEST(Start, AdoptsADiscThatPlays) {
-  CoreRig rig;
-  rig.install();
-  rig.player.insert(discB());
-  rig.player.play(13650 + 75 * 10, discB().leadOut);
-  rig.start();
-  rig.clock.advance(1100);
-  EXPECT_EQ(rig.track(), "2");
-  EXPECT_EQ(rig.time(), "0:11");
-  EXPECT_TRUE(rig.form.icntlc[Play].visible);
-  for (const std::string& command : rig.device.tape) EXPECT_NE(command, "Play");
-}
-
-TEST(Start, EndsWithAWordWhenAnotherPlayerHasTheDrive) {
-  CoreRig rig;
-  rig.install();
-  rig.player.insert(discA());
-  rig.player.held = Holder::Other;
-  rig.start();
-  EXPECT_TRUE(rig.gate.ended());
-  EXPECT_EQ(rig.dialogs.tape,
-            Tape{"Orvanta: The MCI CD Device is in use by another application.  Wait until it is finished, and then\ntry again!"});
-  EXPECT_FALSE(rig.files.exists("/data/audiocd.tmp")) << "no player runs";
 }
 
 TEST(Start, TheFirstOneSetsItselfUp) {
@@ -224,75 +155,6 @@ TEST(Start, WithoutItsDataFolderRunsTheSetup) {
   }
 }
 
-TEST(Exit, SavesStopsAndIsTheEnd) {
-  for (const bool playOn : {false, true}) {
-    CoreRig rig;
-    rig.settings.appOptions[5] = playOn ? 1 : 0;
-    rig.startWith(discA());
-    rig.state.settings.repeatOn = kOn;
-    rig.press(rig.form.icntla[Play]);
-    rig.clock.advance(2500);
-    rig.device.tape.clear();
-    rig.key(forms::key::kEscape);
-    EXPECT_TRUE(rig.gate.ended());
-    EXPECT_EQ(rig.device.tape, playOn ? Tape{} : (Tape{"Stop", "Close"}));
-    EXPECT_EQ(rig.files.read("/data/settings.dat"), "0\r\n\r\n0\r\n0\r\n1\r\n");
-    EXPECT_FALSE(rig.files.exists("/data/audiocd.tmp"));
-    EXPECT_EQ(rig.form.Label28.foreColor, colours::kDarkRed);
-    EXPECT_EQ(rig.form.SSPanel3.backColor, colours::kRed);
-    // Whatever comes now comes too late.
-    const Tape files = rig.files.tape;
-    const std::string form = forms::formAsText(rig.form);
-    rig.clock.advance(5000);
-    rig.press(rig.form.icntla[Stop]);
-    rig.key(forms::key::kEscape);
-    EXPECT_EQ(rig.files.tape, files);
-    EXPECT_EQ(forms::formAsText(rig.form), form);
-  }
-}
-
-/// A session that ends, with mute on and a change just made: as at the exit, but silent and at once.
-TEST(Exit, TheEndOfTheSessionIsAnExit) {
-  CoreRig rig;
-  rig.startWith(discA());
-  rig.press(rig.form.icntla[Play]);
-  rig.clock.advance(2500);
-  rig.press(rig.form.Image2[1]);
-  EXPECT_EQ(rig.auxVolume.reading.volume, 0U);
-  rig.key('R');
-  rig.device.tape.clear();
-  const Tape sounds = rig.sounds.tape;
-  rig.gate.enter([&] { rig.orvanta.endOfSession(); });
-  EXPECT_TRUE(rig.gate.ended());
-  EXPECT_EQ(rig.auxVolume.reading.volume, 0xFFFFFFFFU);
-  EXPECT_EQ(rig.files.read("/data/settings.dat"), "0\r\n\r\n0\r\n0\r\n1\r\n");
-  EXPECT_FALSE(rig.files.exists("/data/audiocd.tmp"));
-  EXPECT_EQ(rig.device.tape, (Tape{"Stop", "Close"}));
-  EXPECT_EQ(rig.sounds.tape, sounds);
-  EXPECT_EQ(rig.dialogs.tape, Tape{});
-  // Before there is a window there is nothing to be saved.
-  CoreRig early;
-  early.gate.enter([&] { early.orvanta.endOfSession(); });
-  EXPECT_TRUE(early.gate.ended());
-  EXPECT_EQ(early.files.tape, Tape{});
-}
-
-/// A deck that is killed has lost nothing that is older than a second.
-TEST(Exit, ModesAreKeptASecondAfterAChange) {
-  CoreRig rig;
-  rig.startWith(discA());
-  rig.clock.advance(5000);
-  rig.files.tape.clear();
-  rig.key('T');
-  rig.key('R');
-  rig.clock.advance(1000);
-  EXPECT_EQ(rig.files.read("/data/settings.dat"), "1\r\n\r\n0\r\n0\r\n1\r\n");
-  rig.files.full = true;
-  rig.key('T');
-  rig.clock.advance(5000);
-  EXPECT_EQ(rig.files.tape, (Tape{"write /data/settings.dat", "write /data/settings.dat"})) << "once a change, also on a full disk";
-}
-
 /// Whichever write of a deck's life fails: the start, a drag, an eject and the exit go on, and nothing old is lost.
 TEST(Start, AnyWriteMayFail) {
   int writes = 0;
@@ -322,20 +184,6 @@ TEST(Start, AnyWriteMayFail) {
     if (broken == 0) writes = rig.files.writes() - before;
   }
   EXPECT_GE(writes, 5);
-}
-
-TEST(Start, NothingIsLostOnAFullDisk) {
-  CoreRig rig;
-  rig.install();
-  rig.player.insert(discA());
-  rig.files.full = true;
-  rig.start();
-  rig.clock.advance(100);
-  EXPECT_EQ(rig.track(), "3");
-  rig.key('J');
-  rig.key(forms::key::kEscape);
-  EXPECT_TRUE(rig.gate.ended());
-  EXPECT_EQ(rig.dialogs.tape, Tape{});
 }
 
 }  // namespace

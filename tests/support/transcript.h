@@ -1,0 +1,21 @@
+// Scenarios as text: what a person does at the deck, and all that it changes. A file of tests/data is a list of them:
+//
+//   == Title of a scenario
+//   : disc=B repeat=1            what the deck is started with
+//   > D +2 icntla(3)             acts: keys, seconds that pass, controls that are pressed
+//     paused 1 at 2 | 1 3:00 "Title 1" 0:02 | F/ASG scan     what then plays, stands on the display and is lit
+//     Label21 "PAUSE"            every control that looks different, and whatever else the deck did
+#pragma once
+
+#include <string>
+
+namespace orvanta::test {
+
+/// Plays the scenarios of tests/data/<name> and holds what each act brings about against what stands there.
+/// ORVANTA_KEEP_GOLDEN=1 writes it anew: read the difference before you keep it.
+void expectTranscript(const std::string& name);
+
+/// The bytes of tests/data/<name>, or `now` kept there where ORVANTA_KEEP_GOLDEN=1 asks for it.
+std::string kept(const std::string& name, const std::string& now);
+
+}  // namespace orvanta::test

@@ -13,7 +13,23 @@ namespace {
 
 const std::string kFolder = ORVANTA_SOURCE "/tests/data/cddb/";
 
-std::string bytesOf(std::string_view line) {
+std::string underOurName(std::string bytes) {
+  for (const auto& [theirs, ours] : {std::pair<std::string, std::string>{"Client 1.0", "Orvanta 10.0"}, {"Client+1.0", "Orvanta+10.0"}}) {
+    for (auto at = bytes.find(theirs); at != std::string::npos; at = bytes.find(theirs, at + ours.size())) {
+      bytes.replace(at, theirs.size(), ours);
+    }
+  }
+  return bytes;
+}
+
+std::string body(const std::string& message) {
+  const auto gap = message.find("\r\n\r\n");
+  return gap == std::string::npos ? message : message.substr(gap + 4);
+}
+
+}  // namespace
+
+std::string unescaped(std::string_view line) {
   std::string bytes;
   for (size_t i = 0; i < line.size(); ++i) {
     if (line[i] != '\\' || i + 1 == line.size()) {
@@ -30,22 +46,6 @@ std::string bytesOf(std::string_view line) {
   }
   return bytes;
 }
-
-std::string underOurName(std::string bytes) {
-  for (const auto& [theirs, ours] : {std::pair<std::string, std::string>{"Client 1.0", "Orvanta 10.0"}, {"Client+1.0", "Orvanta+10.0"}}) {
-    for (auto at = bytes.find(theirs); at != std::string::npos; at = bytes.find(theirs, at + ours.size())) {
-      bytes.replace(at, theirs.size(), ours);
-    }
-  }
-  return bytes;
-}
-
-std::string body(const std::string& message) {
-  const auto gap = message.find("\r\n\r\n");
-  return gap == std::string::npos ? message : message.substr(gap + 4);
-}
-
-}  // namespace
 
 std::string cddbData(const std::string& name) {
   std::ifstream file(kFolder + name, std::ios::binary);
@@ -65,7 +65,7 @@ std::vector<Exchanged> recording(const std::string& name) {
   std::vector<Exchanged> all(1);
   std::ifstream file(kFolder + "sessions/" + name + ".txt");
   for (std::string line; std::getline(file, line);) {
-    const std::string bytes = line.size() < 3 ? "" : underOurName(bytesOf(line.substr(3)));
+    const std::string bytes = line.size() < 3 ? "" : underOurName(unescaped(line.substr(3)));
     if (line.rfind("S: <", 0) == 0) {
       all.back().closes = true;
     } else if (line.rfind("S: ", 0) == 0) {

@@ -9,6 +9,8 @@
 
 namespace orvanta::test {
 
+/// Text with \r, \n, \t, \\ and \xNN as the bytes that it stands for.
+std::string unescaped(std::string_view text);
 /// A file under tests/data/cddb, byte for byte.
 std::string cddbData(const std::string& name);
 /// Names of the files in a folder there, sorted.

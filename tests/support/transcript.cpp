@@ -2,12 +2,15 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
+#include <iterator>
 #include <sstream>
 
+#include "base/code_page.h"
 #include "tests/support/places.h"
 #include "tests/support/scene_start.h"
 #include "tests/support/snapshot.h"
@@ -311,26 +314,46 @@ class Scene {
   std::string focus_;
 };
 
-/// The file as it would read now: acts stay, what they bring about is made anew.
-std::string played(const std::string& file) {
+/// The file as it would read now: lines that begin with blanks are made anew behind each line that `after` has more to say of.
+std::string retold(const std::string& file, const std::function<std::string(const std::string& line)>& after) {
   std::string now;
-  std::unique_ptr<Scene> scene;
-  std::vector<Word> start;
   std::istringstream lines(file);
   for (std::string line; std::getline(lines, line);) {
-    if (line.starts_with("  ")) continue;
-    now += line + "\n";
+    if (!line.starts_with("  ")) now += line + "\n" + after(line);
+  }
+  return now;
+}
+
+std::string played(const std::string& file) {
+  std::unique_ptr<Scene> scene;
+  std::vector<Word> start;
+  return retold(file, [&](const std::string& line) {
     if (line.starts_with("==")) {
       scene.reset();
       start.clear();
-    } else if (line.starts_with(": ")) {
-      for (const Word& word : wordsOf(line.substr(2))) start.push_back(word);
-    } else if (line.starts_with("> ")) {
-      if (!scene) scene = std::make_unique<Scene>(start);
-      now += scene->run(wordsOf(line.substr(2)));
     }
+    if (line.starts_with(": ")) std::ranges::copy(wordsOf(line.substr(2)), std::back_inserter(start));
+    if (!line.starts_with("> ")) return std::string();
+    if (!scene) scene = std::make_unique<Scene>(start);
+    return scene->run(wordsOf(line.substr(2)));
+  });
+}
+
+/// Indented; what cannot be read as it is, by numbers.
+std::string printed(const std::string& text) {
+  const bool readable = isUtf8(text);
+  std::string all = "  ";
+  for (size_t i = 0; i < text.size(); ++i) {
+    const char c = text[i];
+    char number[8];
+    std::snprintf(number, sizeof number, "\\x%02X", static_cast<unsigned char>(c));
+    all += c == '\n'                                        ? (i + 1 < text.size() ? "\n  " : "")
+           : (c >= ' ' || (c < 0 && readable)) && c != 0x7F ? std::string(1, c)
+           : c == '\r'                                      ? "\\r"
+           : c == '\t'                                      ? "\\t"
+                                                            : number;
   }
-  return now;
+  return all + "\n";
 }
 
 /// By their titles.
@@ -356,13 +379,25 @@ std::string kept(const std::string& name, const std::string& now) {
   return bytesOf(name);
 }
 
-void expectTranscript(const std::string& name) {
-  const std::string acts = bytesOf(name);
-  ASSERT_NE(acts, "") << name;
-  const std::string now = played(acts);
+namespace {
+
+void expectKept(const std::string& name, const std::function<std::string(const std::string& file)>& retell) {
+  const std::string before = bytesOf(name);
+  ASSERT_NE(before, "") << name;
+  const std::string now = retell(before);
   const auto expected = scenariosOf(kept(name, now));
   const auto found = scenariosOf(now);
   for (size_t i = 0; i < found.size(); ++i) EXPECT_EQ(found[i], expected.at(i)) << "in " << name;
+}
+
+}  // namespace
+
+void expectTranscript(const std::string& name) { expectKept(name, played); }
+
+void expectAnswers(const std::string& name, const std::function<std::string(const std::string&)>& answer) {
+  expectKept(name, [&](const std::string& file) {
+    return retold(file, [&](const std::string& line) { return line.starts_with("> ") ? printed(answer(unescaped(line.substr(2)))) : ""; });
+  });
 }
 
 }  // namespace orvanta::test

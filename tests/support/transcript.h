@@ -7,6 +7,7 @@
 //     Label21 "PAUSE"            every control that looks different, and whatever else the deck did
 #pragma once
 
+#include <functional>
 #include <string>
 
 namespace orvanta::test {
@@ -14,6 +15,10 @@ namespace orvanta::test {
 /// Plays the scenarios of tests/data/<name> and holds what each act brings about against what stands there.
 /// ORVANTA_KEEP_GOLDEN=1 writes it anew: read the difference before you keep it.
 void expectTranscript(const std::string& name);
+
+/// A table as text, for what makes one text of another. The file tests/data/<name> has lines "> question" with \r, \n, \t, \\
+/// and \xNN, each followed by its answer, indented; kept anew in the same way.
+void expectAnswers(const std::string& name, const std::function<std::string(const std::string& question)>& answer);
 
 /// The bytes of tests/data/<name>, or `now` kept there where ORVANTA_KEEP_GOLDEN=1 asks for it.
 std::string kept(const std::string& name, const std::string& now);

@@ -5,6 +5,7 @@
 
 #include "base/code_page.h"
 #include "tests/support/cddb_data.h"
+#include "tests/support/transcript.h"
 
 namespace orvanta::test {
 namespace {
@@ -62,43 +63,7 @@ TEST(CddbRecord, TakesEveryRecordByBothRoads) {
   EXPECT_EQ(records, 94U);
 }
 
-struct Faulty {
-  const char* what;
-  const char* lines;
-  const char* cddbp;  ///< told() of the record
-  const char* http;
-};
-
-TEST(CddbRecord, ReadsWhatServersAndHandsMakeOfIt) {
-  const Faulty cases[] = {
-      {"a title cut anywhere is joined, its end decides nothing",
-       "DTITLE=A long\nDTITLE= name / T\nTTITLE0=in mid-\nTTITLE0=word\nTTITLE1=b", "[A longname / T]\n1 [in mid-word]\n2 [b]\n",
-       "[A longname / T]\n1 [in mid-word]\n2 [b]\n"},
-      {"a gap in the numbers closes up", "DTITLE=A\nTTITLE0=one\nTTITLE2=three\nTTITLE12=thirteen",
-       "[A]\n1 [one]\n2 [three]\n3 [thirteen]\n", "[A]\n1 [one]\n2 [three]\n3 [thirteen]\n"},
-      {"blanks stay over CDDBP", "DTITLE=A\nTTITLE0=  one\nTTITLE1=two\nTTITLE1= more\nEXTT0=  x", "[A]\n1 [  one] (x)\n2 [two more]\n",
-       "[A]\n1 [one] (x)\n2 [twomore]\n"},
-      {"a line that is unknown ends it over CDDBP", "DTITLE=A\nDYEAR=1992\nTTITLE0=one", "[A]\n", "[A]\n1 [one]\n"},
-      {"the play order ends it over HTTP", "DTITLE=A\nTTITLE0=one\nPLAYORDER=\nTTITLE1=two", "[A]\n1 [one]\n2 [two]\n", "[A]\n1 [one]\n"},
-      {"escapes, split ones too", "DTITLE=A\nTTITLE0=one\\n\nEXTD=a\\nb\\\nEXTD=nc\\\\nd\nEXTT0=x\\ty\\\nEXTT0=nz",
-       "[A]\n1 [one\\n] (x  y\r\nz)\nnotes\na\r\nb\r\nc  nd\r\n", "[A]\n1 [one\\n] (x  y\r\nz)\nnotes\na\r\nb\r\nc  nd\r\n"},
-      {"a backslash at the end loses no notes", "DTITLE=A\nEXTD=all of it\\", "[A]\nnotes\nall of it\\\r\n", "[A]\nnotes\nall of it\\\r\n"},
-      {"texts of tracks that cannot be", "DTITLE=A\nTTITLE0=a\nEXTT-5=x\nEXTT4294967296=y\nEXTT=z", "[A]\n1 [a] (z)\n", "[A]\n1 [a] (z)\n"},
-      {"a leftover before the artist goes, a letter stays",
-       "DTITLE=?\xC3\x89"
-       "dith",
-       "[\xC3\x89"
-       "dith]\n",
-       "[\xC3\x89"
-       "dith]\n"},
-      {"the code page", "DTITLE=Bj\xF6rk", "[Bj\xC3\xB6rk]\n", "[Bj\xC3\xB6rk]\n"},
-      {"no title at all", "TTITLE0=one\nEXTD=two", "[]\n", "[]\n"},
-  };
-  for (const Faulty& each : cases) {
-    EXPECT_EQ(told(read(each.lines, kCddbpRoad)), each.cddbp) << each.what;
-    EXPECT_EQ(told(read(each.lines, kHttpRoad)), each.http) << each.what;
-  }
-}
+TEST(CddbRecord, ReadsWhatServersAndHandsMakeOfIt) { expectAnswers("answers/records.txt", bothRoads); }
 
 TEST(CddbRecord, HoldsAHundredTracks) {
   std::string bytes = "DTITLE=A\n";

@@ -4,6 +4,7 @@
 #include "app/command_line.h"
 #include "app/options.h"
 #include "tests/support/core_rig.h"
+#include "tests/support/transcript.h"
 
 namespace orvanta::test {
 namespace {
@@ -11,25 +12,12 @@ namespace {
 using Kind = CommandLine::Kind;
 
 TEST(CommandLineWords, AreSortedByTheirEnding) {
-  struct Case {
-    const char* line;
-    Kind kind;
-    const char* word;
-    int track;
-  };
-  for (const auto& [line, kind, word, track] :
-       {Case{"", Kind::Plain, "", 0}, Case{"play", Kind::Plain, "", 0}, Case{"RunRipper ", Kind::Word, "RUNRIPPER", 0},
-        Case{"orvlite", Kind::Word, "ORVLITE", 0}, Case{"audiocd", Kind::Word, "AUDIOCD", 0},
-        Case{"D:\\Track05.cda", Kind::TrackFile, "AUDIOCD1", 5}, Case{"/media/cd/Track12.cda", Kind::TrackFile, "AUDIOCD1", 12},
-        Case{"D:\\FOLDER\\TRACK09.CDA", Kind::TrackFile, "AUDIOCD1", 9}, Case{"D:\\X.CDA", Kind::TrackFile, "AUDIOCD1", 0},
-        Case{"track02.cda", Kind::TrackFile, "AUDIOCD1", 2}, Case{"sub/Track03.cda", Kind::TrackFile, "AUDIOCD1", 3},
-        Case{"TRACK65538.CDA", Kind::TrackFile, "AUDIOCD1", 0}, Case{"TRACK100.CDA", Kind::TrackFile, "AUDIOCD1", 0},
-        Case{"TRACK-1.CDA", Kind::TrackFile, "AUDIOCD1", 0}, Case{"tool.exe", Kind::Program, "", 0}}) {
+  expectAnswers("answers/command_line.txt", [](const std::string& line) {
     const CommandLine found = classify(line);
-    EXPECT_EQ(found.kind, kind) << line;
-    EXPECT_EQ(found.word, word) << line;
-    EXPECT_EQ(found.trackNumber, track) << line;
-  }
+    const std::map<Kind, const char*> kinds = {
+        {Kind::Plain, "plain"}, {Kind::Word, "word"}, {Kind::TrackFile, "track"}, {Kind::Program, "program"}};
+    return std::string(kinds.at(found.kind)) + " " + found.word + " " + std::to_string(found.trackNumber);
+  });
 }
 
 TEST(Options, StandBeforeTheWords) {

@@ -13,9 +13,6 @@ inline const std::string kLines =
     "EXTD=\r\nEXTT0=\r\nEXTT1=\r\nEXTT2=\r\nPLAYORDER=\r\n.\r\n";
 inline const std::string kRecord = "210 misc 1f032a03 CD database entry follows (until terminating `.')\r\n" + kLines;
 inline const std::string kCdPath = "/data/datacd/19443766.CD";
-inline const std::string kNotFound =
-    "Orvanta CDDB Online Retrieval: Information for the Audio CD in your drive not found in the CDDB, this may be a great time to make a "
-    "submission!";
 inline const std::string kNoHost =
     "Orvanta CDDB Online Retrieval: Unable to communicate with host CDDBP server; either you are not connected to the Internet or the host "
     "server is busy.";
@@ -27,13 +24,6 @@ inline std::vector<Exchanged> cddbp() {
           {"discid 3 150 18627 41002 812\r\n", kDiscId, false},
           {"cddb query 1f032a03 3 150 18627 41002 812\r\n", kExact, false},
           {"cddb read misc 1f032a03\r\n", kRecord, false}};
-}
-
-inline std::vector<Exchanged> http() {
-  const std::string hello = "&hello=user+domain+Orvanta+10.0&proto=4";
-  return {{"cmd=discid+3+150+18627+41002+812+" + hello, kDiscId, false},
-          {"cmd=cddb+query+1f032a03+3+150+18627+41002+812+" + hello, kExact, false},
-          {"cmd=cddb+read+misc+1f032a03" + hello, kRecord, false}};
 }
 
 struct Cddb : CoreRig {
@@ -54,17 +44,6 @@ struct Cddb : CoreRig {
     files.write("/data/datacd/srvhttp.txt", "http://server/cddb.cgi 80 Web, site\r\n");
     player.insert(discA());
     start();
-  }
-  void byHand() {
-    store.autoConnect = false;
-    begin();
-    clock.advance(500);
-    press(form.Image10[1]);
-    press(orvanta.editor.Command11);
-  }
-  bool ended() const {
-    return !cddb.loaded() && !orvanta.editor.loaded() && !form.Image14.visible && state.library.cddbMode == 1 &&
-           screen.pointer == Pointer::Normal;
   }
   void press(forms::Control& control) {
     gate.enter([&] { control.form().press(control); });

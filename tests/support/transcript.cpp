@@ -308,7 +308,9 @@ class Scene {
                                {&rig_.orvanta.editor, false, {}, {}},
                                {&rig_.orvanta.playlistForm, false, {}, {}},
                                {&rig_.orvanta.infoForm, false, {}, {}},
-                               {&rig_.orvanta.cddbForm, false, {}, {}}};
+                               {&rig_.orvanta.cddbForm, false, {}, {}},
+                               {&rig_.orvanta.categoryForm, false, {}, {}},
+                               {&rig_.orvanta.mailForm, false, {}, {}}};
   forms::Form* front_ = &rig_.form;
   std::string summary_;
   std::string focus_;

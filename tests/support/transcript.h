@@ -16,8 +16,8 @@ namespace orvanta::test {
 /// ORVANTA_KEEP_GOLDEN=1 writes it anew: read the difference before you keep it.
 void expectTranscript(const std::string& name);
 
-/// A table as text, for what makes one text of another. The file tests/data/<name> has lines "> question" with \r, \n, \t, \\
-/// and \xNN, each followed by its answer, indented; kept anew in the same way.
+/// A table as text, for what makes one text of another. The file tests/data/<name> has lines "> question", with \n, \xNN and
+/// the like for what is no plain character, each followed by its answer, indented; kept anew in the same way.
 void expectAnswers(const std::string& name, const std::function<std::string(const std::string& question)>& answer);
 
 /// The bytes of tests/data/<name>, or `now` kept there where ORVANTA_KEEP_GOLDEN=1 asks for it.

@@ -3,8 +3,12 @@
 
 #include <gtest/gtest.h>
 
+#include <map>
+
 #include "cddb/reply_shaper.h"
 #include "tests/support/fake_net.h"
+#include "tests/support/script_words.h"
+#include "tests/support/transcript.h"
 
 namespace orvanta::test {
 namespace {
@@ -134,99 +138,56 @@ TEST(CddbpSession, SpeaksAsRecordedHoweverRepliesArrive) {
   EXPECT_EQ(talk.net.tape, connectedAnd(askedIn(script, 4), {"quit\r\n", "drop"}));
 }
 
-TEST(CddbpSession, FollowsWhatServersAnswer) {
-  auto none = recording("03-none");
-  none[3].asked = "cddb query 15032a03 3 150 5000 12000 812\r\n";
-  auto refused = recording("03-none");
-  refused[2].answered = "500 Command syntax error: incorrect number of arguments.\r\n";
-  auto odd = recording("03-none");
-  odd[2].answered = "500 Command syntax error.\r\n";
-  odd[3].asked = "cddb query x error. 3 150 5000 12000 812\r\n";
-  odd[3].answered = "500 Command syntax error.\r\n";
-  auto lineFeeds = recording("40-freedbd01");
-  lineFeeds[2] = {"discid 3 150 5000 12000 812\r\n", "200 Disc ID is 1234abcd\n", false};
-  lineFeeds[3].asked = "cddb query 1234abcd 3 150 5000 12000 812\r\n";
-  lineFeeds[4].asked = "cddb read cd 1234abcd\r\n";
-  const auto many = ninetyNine();
-  const struct {
-    const char* what;
-    std::vector<Exchanged> script;
-    const Disc& disc;
-    Purpose purpose;
-    size_t asked;  ///< lines of the script that are sent
-    Tape sentAfter;
-    Tape said;
-  } cases[] = {
-      {"two matches; one is picked, of which the recording knows nothing",
-       recording("02-inexact"),
-       kElevenLater,
-       Purpose::Lookup,
-       3,
-       {"cddb read data 940c700b\r\n"},
-       {"inexact 2"}},
-      {"none", none, kThree, Purpose::Lookup, 3, {"drop"}, {"not found: "}},
-      {"a hundred tracks less one", recording("17-99tracks"), many, Purpose::Lookup, 4, {}, kFound},
-      {"a banner that refuses", recording("11-denied"), kThree, Purpose::Lookup, 1, {"drop"}, {"failed: 432 Unauthorized host: localhost"}},
-      {"a hello that is refused",
-       recording("12-badclient"),
-       kThree,
-       Purpose::Lookup,
-       1,
-       {"drop"},
-       {"failed: 433 Unauthorized client: Orvanta 10.0"}},
-      {"a table that is refused; the line stays open",
-       refused,
-       kThree,
-       Purpose::Lookup,
-       2,
-       {},
-       {"table refused: 500 Command syntax error: incorrect number of arguments."}},
-      {"a refusal taken for an id ends unfound", odd, kThree, Purpose::Lookup, 3, {"drop"}, {"not found: 500 Command syntax error."}},
-      {"line feeds alone", lineFeeds, kThree, Purpose::Lookup, 4, {}, kFound},
-      {"an id for a submission", none, kThree, Purpose::DiscId, 2, {}, {"id 15032a03"}},
-      {"no list of servers",
-       recording("16-nosites"),
-       kThree,
-       Purpose::Sites,
-       1,
-       {"sites \r\n", "drop"},
-       {"failed: 401 No site information available."}},
-  };
-  for (const auto& each : cases) {
-    Conversation talk(each.script);
-    for (Exchanged& line : talk.net.script) {
-      if (line.asked == "sites\r\n") line.asked = "sites \r\n";
-    }
-    talk.run(each.disc, each.purpose);
-    EXPECT_EQ(talk.net.tape, connectedAnd(askedIn(each.script, each.asked), each.sentAfter)) << each.what;
-    EXPECT_EQ(talk.watcher.said(), each.said) << each.what;
-  }
+std::vector<Exchanged> posts(std::initializer_list<const char*> names) {
+  std::vector<Exchanged> script;
+  for (const char* name : names) script.push_back({requestOf(name), replyOf(name), false});
+  return script;
 }
 
-TEST(CddbpSession, FetchesAListOfServers) {
-  auto script = recording("01-exact");
-  ASSERT_EQ(script[5].asked, "sites\r\n");
-  script[5].asked = "sites \r\n";
-  for (const size_t piece : {0, 1, 5}) {
-    Conversation talk(script);
-    talk.net.piece = piece;
-    talk.run(kThree, Purpose::Sites);
-    EXPECT_EQ(talk.watcher.said(), (Tape{"sites localhost 8880 N037.21 W121.55 Loopback test site\r\n"
-                                         "mirror.example 888 S000.00 E000.00 A second cddbp site\r\n"}));
-    EXPECT_EQ(talk.net.tape, connectedAnd({script[1].asked, "sites \r\n", "quit\r\n", "drop"}));
-  }
-  // A list whose first site was for another road comes without its first line.
-  script[5].answered = "mirror.example 888 S000.00 E000.00 second\r\n.\r\n";
-  Conversation talk(script);
-  talk.run(kThree, Purpose::Sites);
-  EXPECT_EQ(talk.watcher.said(), (Tape{"sites mirror.example 888 S000.00 E000.00 second\r\n"}));
-  for (const auto& [answer, closes] : {std::pair{"210 OK\r\nlocalhost 8880 N1 W2 half a", true}, {"", true}}) {
-    script[5] = {"sites \r\n", answer, closes};
-    Conversation broken(script);
-    broken.run(kThree, Purpose::Sites);
-    EXPECT_EQ(broken.watcher.said(), (Tape{"failed: "}));
-  }
+void overHttp(Conversation& talk) {
+  talk.settings.useCddbp = false;
+  talk.settings.cddbServer = " server/cddb.cgi ";
+  talk.settings.cddbPort = 80;
 }
+
+/// A conversation as a line of words: a recording, a disc, what the server says or takes otherwise at which of its turns, and what the
+/// user has set. Tells what was sent, and what the session told of it.
+std::string conversation(const std::string& line) {
+  std::vector<Word> words = wordsOf(line);
+  const std::map<std::string, Disc> discs = {
+      {"three", kThree}, {"eleven", kEleven}, {"eleven-later", kElevenLater}, {"ninety-nine", ninetyNine()}};
+  const std::map<std::string, Purpose> purposes = {{"lookup", Purpose::Lookup}, {"id", Purpose::DiscId}, {"sites", Purpose::Sites}};
+  Conversation talk(words.at(0).verb == "http" ? posts({"20-http-discid", "24-http-none"}) : recording(words.at(0).verb));
+  if (words.at(0).verb == "http") overHttp(talk);
+  for (const Word& word : words) {
+    Exchanged& turn = talk.net.script.at(std::min(talk.net.script.size() - 1, static_cast<size_t>(word.number())));
+    if (word.verb == "asked") turn.asked = word.value.substr(2);
+    if (word.verb == "answers" || word.verb == "closes") turn.answered = word.value.substr(2);
+    if (word.verb == "closes") turn.closes = true;
+    if (word.verb == "piece") talk.net.piece = static_cast<size_t>(word.number());
+    if (word.verb == "refuses") talk.net.refuses = true;
+    if (word.verb == "status") talk.net.status = word.number();
+    if (word.verb == "silence") talk.net.end = FakeNet::End::Silence;
+    if (word.verb == "user") talk.settings.emailUser = word.value;
+    if (word.verb == "proxy") talk.settings.proxyServer = word.value;
+    if (word.verb == "proxy-user") talk.settings.proxyUser = word.value;
+    if (word.verb == "password") talk.settings.proxyPassword = word.value;
+  }
+  for (Exchanged& turn : talk.net.script) {
+    if (turn.asked == "sites\r\n") turn.asked = "sites \r\n";
+  }
+  talk.run(discs.at(words.at(1).verb), purposes.at(words.at(2).verb));
+  std::string told;
+  for (const std::string& sent : talk.net.tape) told += "> " + sent + (sent.ends_with('\n') ? "" : "\n");
+  for (const std::string& said : talk.watcher.tape) told += said + (said.ends_with('\n') ? "" : "\n");
+  for (const HttpRequest& request : talk.net.requests) {
+    told += request.url + " " + std::to_string(request.port) + " by " + request.proxy + " as " + request.user + ", at most " +
+            std::to_string(request.most) + "\n";
+  }
+  return told;
+}
+
+TEST(CddbSession, FollowsWhatServersAnswer) { expectAnswers("answers/sessions.txt", conversation); }
 
 TEST(CddbpSession, EndsOnceWhereverTheServerBreaksOff) {
   const auto script = recording("01-exact");
@@ -249,15 +210,6 @@ TEST(CddbpSession, EndsOnceWhereverTheServerBreaksOff) {
   }
 }
 
-TEST(CddbpSession, AsksOnceForARecord) {
-  Conversation talk(recording("01-exact"));
-  talk.run(kEleven, Purpose::Lookup, 45);
-  ASSERT_EQ(talk.net.tape.back(), "cddb query 940c700b 11 150 25075 46501 70596 88533 105910 125169 147365 162906 190441 215174 3186\r\n");
-  talk.watcher.session->retrieve({"misc", "940c700b"});
-  talk.clock.advance(1000);
-  EXPECT_EQ(talk.watcher.said(), kFound) << "not while another reply is due";
-}
-
 TEST(CddbpSession, MissesNoConnectionThatIsNotNeeded) {
   auto script = recording("01-exact");
   script[4].closes = true;
@@ -266,95 +218,6 @@ TEST(CddbpSession, MissesNoConnectionThatIsNotNeeded) {
   EXPECT_EQ(talk.watcher.said(), kFound) << "closed behind the record";
   talk.watcher.session->retrieve({"misc", "940c700b"});
   EXPECT_EQ(talk.watcher.said().back(), "failed: ") << "another record would have needed it";
-}
-
-TEST(CddbpSession, GivesUpOnAnEndlessReplyAndOnNoServer) {
-  auto script = recording("03-none");
-  script[2].answered = std::string(ReplyShaper::kMost + 1, 'x');
-  Conversation endless(script);
-  endless.net.piece = 65536;
-  endless.run(kThree);
-  EXPECT_EQ(endless.watcher.said(), (Tape{"failed: The server's reply has no end."}));
-  EXPECT_EQ(endless.net.tape.back(), "drop");
-  Conversation nobody(script);
-  nobody.net.refuses = true;
-  nobody.run(kThree);
-  EXPECT_EQ(nobody.watcher.tape, (Tape{"failed: Connection refused"}));
-}
-
-TEST(CddbSession, KeepsTypedLineBreaksOutOfItsCommands) {
-  Conversation talk({{"", "201 ready\r\n", false}});
-  talk.settings.emailUser = "user\r\nquit";
-  talk.run(kThree);
-  EXPECT_EQ(talk.net.tape.back(), "cddb hello user  quit domain Orvanta 10.0\r\n");
-}
-
-// ---- over HTTP
-
-std::vector<Exchanged> posts(std::initializer_list<const char*> names) {
-  std::vector<Exchanged> script;
-  for (const char* name : names) script.push_back({requestOf(name), replyOf(name), false});
-  return script;
-}
-
-struct HttpConversation : Conversation {
-  explicit HttpConversation(std::vector<Exchanged> replies) : Conversation(std::move(replies)) {
-    settings.useCddbp = false;
-    settings.cddbServer = " server/cddb.cgi ";
-    settings.cddbPort = 80;
-  }
-};
-
-TEST(HttpSession, PostsAsRecorded) {
-  // The recorded client left the separator at a table's end away; servers take both.
-  const std::string hello = "&hello=user+domain+Orvanta+10.0&proto=4";
-  auto script = posts({"20-http-discid", "23-http-inexact", "25-http-read-proto4"});
-  script[0] = {"cmd=discid+11+150+25175+46601+70696+88633+106010+125269+147465+163006+190541+215274+3187+" + hello,
-               "200 Disc ID is 860c710b\r\n", false};
-  script[1].asked.insert(script[1].asked.find("&hello"), "+");
-  const std::string read = script[2].asked;
-  ASSERT_EQ(read, "cmd=cddb+read+misc+940c700b" + hello);
-  script[2].asked = "cmd=cddb+read+data+940c700b" + hello;
-  HttpConversation talk(script);
-  talk.run(kElevenLater);
-  EXPECT_EQ(talk.net.tape, (Tape{script[0].asked, script[1].asked, script[2].asked}));
-  EXPECT_EQ(talk.watcher.tape, (Tape{"- Checking Disc ID...", "- Querying CDDB Server...", "inexact 2", "record"}));
-  EXPECT_EQ(talk.watcher.record, script[2].answered);
-}
-
-TEST(HttpSession, TellsWhatTheWebMakesOfIt) {
-  const auto script = posts({"20-http-discid", "24-http-none"});
-  const auto outcome = [&](const auto& change) {
-    HttpConversation talk(script);
-    talk.net.script[0].asked = "cmd=discid+3+150+5000+12000+812+&hello=user+domain+Orvanta+10.0&proto=4";
-    talk.net.script[1].asked = "cmd=cddb+query+15032a03+3+150+5000+12000+812+&hello=user+domain+Orvanta+10.0&proto=4";
-    change(talk);
-    talk.run(kThree);
-    return talk.watcher.said();
-  };
-  EXPECT_EQ(outcome([](auto&) {}), (Tape{"not found: "}));
-  EXPECT_EQ(outcome([](auto& talk) { talk.net.status = 302; }), (Tape{"failed: HTTP 302"}));
-  EXPECT_EQ(outcome([](auto& talk) { talk.net.status = 199; }), (Tape{"failed: HTTP 199"}));
-  EXPECT_EQ(outcome([](auto& talk) { talk.net.refuses = true; }), (Tape{"failed: Connection refused"}));
-  EXPECT_EQ(outcome([](auto& talk) { talk.net.end = FakeNet::End::Silence; }), Tape{});
-  EXPECT_EQ(outcome([](auto& talk) { talk.net.script[0].answered = ""; }), (Tape{"nothing"}));
-  EXPECT_EQ(outcome([](auto& talk) { talk.net.script[1].answered = replyOf("21-http-exact210-proto4"); }), (Tape{"not found: "}));
-  EXPECT_EQ(outcome([](auto& talk) { talk.net.script[0].answered = "200 Disc ID is 15032a03\n"; }), (Tape{"not found: "}))
-      << "a line feed alone";
-}
-
-TEST(HttpSession, TellsCredentialsOnlyWithAPassword) {
-  for (const auto& [password, user] : {std::pair{"", ""}, {"  ", ""}, {"secret", "me"}}) {
-    HttpConversation talk({});
-    talk.settings.proxyServer = " proxy:3128 ";
-    talk.settings.proxyUser = "me";
-    talk.settings.proxyPassword = password;
-    talk.run(kThree);
-    const HttpRequest& request = talk.net.requests.at(0);
-    EXPECT_EQ(request.user, user);
-    EXPECT_EQ(request.url + " " + std::to_string(request.port) + " " + request.proxy, "server/cddb.cgi 80 proxy:3128");
-    EXPECT_EQ(request.most, ReplyShaper::kMost);
-  }
 }
 
 TEST(CddbSession, CanBeDroppedInEachOfItsEvents) {
@@ -370,7 +233,8 @@ TEST(CddbSession, CanBeDroppedInEachOfItsEvents) {
     EXPECT_LE(failing.watcher.tape.size(), 2U);
   }
   for (size_t dropAt = 2; dropAt <= 4; ++dropAt) {
-    HttpConversation talk(posts({"20-http-discid", "24-http-none"}));
+    Conversation talk(posts({"20-http-discid", "24-http-none"}));
+    overHttp(talk);
     for (Exchanged& each : talk.net.script) each.asked.insert(each.asked.find("&hello"), "+");
     talk.net.script[1].asked.replace(talk.net.script[1].asked.find("19032a03"), 8, "15032a03");
     talk.watcher.dropAt = dropAt;

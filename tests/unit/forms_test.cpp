@@ -234,24 +234,5 @@ TEST_F(Forms, PrintsItself) {
             "bar bar 0,0 100x10 in box 000000/000000 7%\n");
 }
 
-TEST(CoreGate, AfterTheEndNothingIsDelivered) {
-  CoreGate gate;
-  int calls = 0;
-  int ends = 0;
-  gate.setOnEnd([&] { ++ends; });
-  gate.enter([&] {
-    gate.enter([&] {
-      ++calls;
-      end();
-    });
-    EXPECT_TRUE(gate.ended());
-    gate.leaveIfEnded();
-    ++calls;
-  });
-  gate.enter([&] { ++calls; });
-  EXPECT_EQ(calls, 1);
-  EXPECT_GE(ends, 1);
-}
-
 }  // namespace
 }  // namespace orvanta::test

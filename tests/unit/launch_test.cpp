@@ -7,35 +7,24 @@
 #include "launch/known_applications.h"
 #include "platform/linux/host_processes.h"
 #include "tests/support/fakes.h"
+#include "tests/support/script_words.h"
 #include "tests/support/test_discs.h"
+#include "tests/support/transcript.h"
 
 namespace orvanta::test {
 namespace {
 
 TEST(KnownApplications, AreNotStartedTwice) {
-  struct Case {
-    const char* launch;
-    const char* runs;
-    const char* told;  ///< "" when it may be started
-  };
-  for (const auto& [launch, runs, told] :
-       {Case{" notepad.exe ", "notepad", "NOTEPAD.EXE"}, Case{"notepad.exe", "notepad.exe", "NOTEPAD.EXE"},
-        Case{"notepad.exe", "other", ""}, Case{"/usr/bin/pavucontrol", "pavucontrol", "PAVUCONTROL"},
-        Case{"/programs/orvhelp", "orvhelp", "ORVHELP.EXE"}, Case{"SNDREC32.EXE", "SNDREC32.EXE", "Sound - Sound Recorder"},
-        Case{"/opt/mine", "mine", ""}, Case{"", "", ""}}) {
+  expectAnswers("answers/running.txt", [](const std::string& line) {
+    const Tape words = Word{"", line}.list();
     FakeDialogs dialogs;
     FakeProcesses processes;
-    processes.names = {runs};
+    processes.names = {words.at(1)};
     KnownApplications known(dialogs, processes);
-    EXPECT_EQ(known.checkAlreadyRunning(launch), *told != 0) << launch;
-    const std::string file = told;
-    EXPECT_EQ(dialogs.tape, *told == 0 ? Tape{}
-                                       : Tape{"Orvanta: " + file +
-                                              " Application Already Running! Use the Taskbar to Activate.\n\nPress Ctrl + Esc to access "
-                                              "Taskbar, then click on " +
-                                              file + ", or press Alt + Esc to change window displayed."})
-        << launch;
-  }
+    const bool runs = known.checkAlreadyRunning(words.at(0));
+    EXPECT_EQ(dialogs.tape.size(), runs ? 1U : 0U);
+    return runs ? dialogs.tape.front() : "";
+  });
   FakeDialogs dialogs;
   FakeProcesses processes;
   processes.names = {"mine"};

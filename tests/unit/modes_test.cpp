@@ -45,23 +45,6 @@ TEST(Shuffle, EveryOrderIsEquallyLikely) {
   }
 }
 
-TEST(Positions, ArePulledOntoTheScreen) {
-  CoreRig rig;
-  rig.startWith(discB());
-  const int width = rig.form.width;
-  const int screen = rig.screen.widthTwips();
-  EXPECT_EQ(rig.form.left, (screen - width) / 2);
-  rig.gate.enter([&] { rig.form.dragged(-500, 20); });
-  EXPECT_EQ(rig.files.read("/data/CDPOSN.DAT"), "0\r\n20\r\n");
-  rig.gate.enter([&] { rig.form.dragged(screen - width - 100, 20); });
-  EXPECT_EQ(rig.form.left, screen - width - 100) << "no margin on storing";
-  rig.form.unload();
-  rig.gate.enter([&] { rig.orvanta.showFaceplate(); });
-  EXPECT_EQ(rig.form.left, screen - width) << "within the margin on reading: pulled in whole";
-  rig.gate.enter([&] { rig.form.doubleClick(&rig.form.Image8); });
-  EXPECT_FALSE(rig.files.exists("/data/CDPOSN.DAT"));
-}
-
 /// Whatever is pressed, in whatever order, some things always hold.
 TEST(RandomWalk, HoldsWhatAlwaysHolds) {
   for (const unsigned seed : {1U, 2U, 3U, 4U}) {

@@ -1,49 +1,18 @@
 // The settings family: every field in its place, written as read, and what broken files do.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <sstream>
 
 #include "state/settings_files.h"
 #include "tests/support/fakes.h"
+#include "tests/support/transcript.h"
 
 namespace orvanta::test {
 namespace {
 
 constexpr SettingsFile kAll[] = {SettingsFile::Orvwin,  SettingsFile::Orvwin1, SettingsFile::Orvwin3,
                                  SettingsFile::Orvwin4, SettingsFile::Orvwin7, SettingsFile::SettingsDat};
-
-/// A file of the family as it stands on the disk, each field with a value of its own, and what it says.
-struct Golden {
-  SettingsFile file;
-  const char* bytes;
-  const char* says;
-};
-
-const Golden kGolden[] = {
-    {SettingsFile::Orvwin,
-     "\"/home/u/data\"\r\n\"/dev/sr1\"\r\n3\r\n4\r\n5\r\n\"six\"\r\n\"seven\"\r\n\"eight\"\r\n\"nine\"\r\n\"ten\"\r\n\"eleven\"\r\n"
-     "\"twelve\"\r\n\"thirteen\"\r\n\"fourteen\"\r\n",
-     "appDir=/home/u/data cdProbePath=/dev/sr1"},
-    {SettingsFile::Orvwin1, "\"mix er\"\r\n12\r\n3\r\n14\r\n\"wall.bmp\"\r\n2\r\n17\r\n18\r\n1\r\n4\r\n",
-     "mixerPath=mix er wallpaperMode=3 wallpaperColor=14 wallpaperFile=wall.bmp wallpaperOption=2 editorFromFaceplate=1 soundMode=4"},
-    {SettingsFile::Orvwin3,
-     "\"Font A\"\r\n9\r\n1\r\n2\r\n3\r\n101\r\n\"Font B\"\r\n10\r\n4\r\n5\r\n6\r\n102\r\n13\r\n14\r\n15\r\n16\r\n17\r\n"
-     "\"engine\"\r\n\"Font D\"\r\n11\r\n7\r\n8\r\n9\r\n103\r\n200\r\n201\r\n202\r\n203\r\n204\r\n205\r\n206\r\n207\r\n208\r\n209\r\n210\r\n"
-     "211\r\n-1\r\n",
-     "font0=Font A,9,1,2,3,101 font1=Font B,10,4,5,6,102 font3=Font D,11,7,8,9,103 option1=13 option2=14 option3=15 option4=16 option5=17 "
-     "searchEngine=engine colour0=200 colour1=201 colour2=202 colour3=203 colour4=204 colour5=205 colour6=206 colour7=207 colour8=208 "
-     "colour9=209 colour10=210 colour11=211 colour12=4294967295"},
-    {SettingsFile::Orvwin4,
-     "31\r\n\"b\"\r\n\"site\"\r\n34\r\n5\r\n6\r\n37\r\n\"browser\"\r\n\"i\"\r\n\"j\"\r\n11\r\n\"back.bmp\"\r\n13\r\n14\r\n\"\"\r\n16\r\n"
-     "2\r\n18\r\n-2147483643\r\n40\r\n",
-     "lyricsSite=site soundsOff=5 minToTray=6 browserPath=browser faceplateBorder=11 faceplateBitmap=back.bmp faceplateBitmapOn=13 "
-     "noLcdFont=14 showLights=16 lcdCustom=2 lcdFore=18 lcdBack=2147483653"},
-    {SettingsFile::Orvwin7,
-     "\"rip, all\"\r\n\"2\"\r\n\"3\"\r\n\"4\"\r\n\"5\"\r\n\"6\"\r\n\"7\"\r\n\"8\"\r\n\"9\"\r\n\"10\"\r\n\"11\"\r\n\"12\"\r\n\"13\"\r\n"
-     "\"14\"\r\n\"15\"\r\n\"16\"\r\n\"17\"\r\n\"18\"\r\n\"19\"\r\n\"20\"\r\n",
-     "recordCommand=rip, all"},
-    {SettingsFile::SettingsDat, "3\r\n\r\n1\r\n2\r\n5\r\n", "timeMode=3 expandedDisplay=1 smallFaceplate=2 repeatOn=5"},
-};
 
 /// Every setting that differs from none, by name; what only passes through is seen in the bytes.
 std::string told(const Settings& s) {
@@ -74,17 +43,18 @@ std::string told(const Settings& s) {
 }
 
 TEST(SettingsFiles, HoldEveryFieldInItsPlace) {
-  for (const auto& [file, bytes, says] : kGolden) {
+  expectAnswers("answers/settings.txt", [](const std::string& line) {
+    const auto colon = line.find(':');
+    const auto file =
+        std::find_if(std::begin(kAll), std::end(kAll), [&](SettingsFile each) { return fileName(each) == line.substr(0, colon); });
+    const std::string bytes = line.substr(colon + 1);
     Settings s;
-    EXPECT_TRUE(readFields(file, FieldReader(bytes), s)) << fileName(file);
-    EXPECT_EQ(told(s), says) << fileName(file);
-    const FieldWriter back = writtenFields(file, s);
-    EXPECT_EQ(back.bytes(), bytes) << fileName(file);
-    EXPECT_EQ(back.companion(), "") << fileName(file) << " holds it all by itself";
-  }
-  std::string names;
-  for (const auto& [file, bytes, says] : kGolden) names += std::string(fileName(file)) + " ";
-  EXPECT_EQ(names, "ORVWIN.INI ORVWIN1.INI ORVWIN3.INI ORVWIN4.INI ORVWIN7.INI settings.dat ");
+    EXPECT_TRUE(readFields(*file, FieldReader(bytes), s)) << line;
+    const FieldWriter back = writtenFields(*file, s);
+    EXPECT_EQ(back.bytes(), bytes);
+    EXPECT_EQ(back.companion(), "") << line << " holds it all by itself";
+    return told(s);
+  });
 }
 
 TEST(SettingsFiles, OfAFreshInstallation) {

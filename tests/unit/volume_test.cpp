@@ -100,35 +100,9 @@ TEST(Volume, ErrorsAreToldByNumber) {
   }
 }
 
-TEST(Volume, TheMixerGetsItsKeys) {
+TEST(Volume, TheMixersKeysAreNotEnteredTwice) {
   Sliders rig(0xFFFFFFFF, 4);
   const std::string start = "start /programs/sndvol32.exe";
-  EXPECT_EQ(rig.mixer.tape, (Tape{"close Volume Control",
-                                  "close Sndvol32",
-                                  start,
-                                  "activate Volume Control",
-                                  "{TAB}",
-                                  "activate Volume Control",
-                                  "{TAB}",
-                                  "{END}",
-                                  "{PGUP 2}",
-                                  "{UP 25}",
-                                  "{TAB}",
-                                  "{+}",
-                                  "{-}",
-                                  "close Volume Control",
-                                  start,
-                                  "activate Volume Control",
-                                  "{HOME}",
-                                  "{RIGHT 32}",
-                                  "{TAB}",
-                                  "{END}",
-                                  "{PGUP 2}",
-                                  "{UP 25}",
-                                  "{TAB}",
-                                  "{+}",
-                                  "{-}",
-                                  "close Volume Control"}));
   // Its keys let events run: a drag in the midst of them returns at once.
   rig.mixer.onKeys = [&] { rig.gate.enter([&] { rig.form.wheel(&rig.form.VolumeL, 1); }); };
   rig.mixer.tape.clear();

@@ -34,6 +34,7 @@ struct PlayRig : CoreRig {
     clock.advance(50);  // so that status events fall between the ticks
     for (size_t i = 1; i <= 100; ++i) state.disc.trackTitles[i] = "Title " + std::to_string(i);
     clock.onDelay = [this] { ++waits; };
+    device.tape.clear();
   }
   /// Moves on to `second` of play, counted from begin().
   void at(double second) { clock.advance(begun + static_cast<int64_t>(second * 1000) + 10 - clock.milliseconds()); }

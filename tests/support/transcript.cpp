@@ -358,15 +358,29 @@ std::string printed(const std::string& text) {
   return all + "\n";
 }
 
-/// By their titles.
-std::vector<std::string> scenariosOf(const std::string& file) {
-  std::vector<std::string> all;
-  for (size_t at = 0; at != std::string::npos;) {
-    const size_t next = file.find("\n== ", at + 1);
-    all.push_back(file.substr(at, next - at));
-    at = next;
+/// A line of acts, or of a question, with the scenario that it belongs to and what comes of it.
+struct Told {
+  std::string what;
+  Tape lines;
+};
+
+std::vector<Told> toldBy(const std::string& file) {
+  std::vector<Told> all;
+  std::string title;
+  std::istringstream lines(file);
+  for (std::string line; std::getline(lines, line);) {
+    if (line.starts_with("==")) title = line;
+    if (line.starts_with("> ")) all.push_back({title + "\n" + line, {}});
+    if (line.starts_with("  ") && !all.empty()) all.back().lines.push_back(line);
   }
   return all;
+}
+
+/// The lines of `all` that `others` lack.
+std::string lacking(const Tape& all, const Tape& others, const char* mark) {
+  std::string text;
+  for (const std::string& line : all) text += std::ranges::count(others, line) == 0 ? mark + line + "\n" : "";
+  return text;
 }
 
 std::string bytesOf(const std::string& name) {
@@ -387,9 +401,14 @@ void expectKept(const std::string& name, const std::function<std::string(const s
   const std::string before = bytesOf(name);
   ASSERT_NE(before, "") << name;
   const std::string now = retell(before);
-  const auto expected = scenariosOf(kept(name, now));
-  const auto found = scenariosOf(now);
-  for (size_t i = 0; i < found.size(); ++i) EXPECT_EQ(found[i], expected.at(i)) << "in " << name;
+  const auto expected = toldBy(kept(name, now));
+  const auto found = toldBy(now);
+  for (size_t i = 0; i < found.size(); ++i) {
+    const auto& [what, lines] = expected.at(i);
+    EXPECT_TRUE(found[i].lines == lines) << name << "\n"
+                                         << what << "\n"
+                                         << lacking(lines, found[i].lines, "-") << lacking(found[i].lines, lines, "+");
+  }
 }
 
 }  // namespace

@@ -175,7 +175,7 @@ class Ear:
 
     def listen(self):
         while data := os.read(self.recorder.stdout.fileno(), RATE // 100 * 4):
-            level = max(array.array("h", data[:len(data) & ~1]), default=0)
+            level = max(map(abs, array.array("h", data[:len(data) & ~1])), default=0)
             with self.wake:
                 if abs(level - self.level) > max(60, self.level * .01):
                     self.changes.append((time.monotonic(), level))
@@ -184,6 +184,9 @@ class Ear:
 
     def first_sound(self, after):
         return self.wait(after, lambda level: level > 500)
+
+    def silence(self, after):
+        return self.wait(after, lambda level: level < 100)
 
     def another_level(self, before, after):
         return self.wait(after, lambda level: level > 500 and abs(level - before) > before * .02)

@@ -149,7 +149,7 @@ struct Deck {
       : scale{options.scale > 0 ? options.scale : QtScreen::desktopFactor(), kTwipsPerPixel},
         device(*drive.player, clock),
         tray(*drive.player, drive.real ? "" : drive.path),
-        volume(drive.player->level(), host.files, clock, host.inData(DataFile::Level)),
+        volume(drive.player->level(), host.files, clock, host.inData(DataFile::Level), [&drive] { drive.player->relevel(); }),
         deckSound(makeSound(options.audio == "default" ? options.audio : "null")),
         ports{device, tray, clock, dialogs, host.files, host.processes, screen, host.system, volume, mixer, sounds, printer, net, desktop},
         orvanta(std::make_unique<Orvanta>(ports)) {

@@ -88,6 +88,33 @@ TEST(Player, PauseAndResumeLoseNoSample) {
   EXPECT_EQ(runs(deck.outputs.samples), "150-899");
 }
 
+TEST(Player, AMovedSliderReachesWhatWasNotHeardYet) {
+  const TempFolder folder;
+  makeDisc(folder, {750});
+  constexpr size_t kRamp = 441;
+  for (const auto [held, reached] : {std::pair{size_t{10000}, size_t{10000}}, {2 * kMostHeldPairs, kMostHeldPairs}, {size_t{0}, size_t{0}}}) {
+    Deck deck(folder.path());
+    deck.outputs.held = held;
+    deck.playAll();
+    ASSERT_TRUE(becomes([&] { return deck.outputs.open(); }));
+    auto& samples = deck.outputs.samples;
+    deck.outputs.hear(5 * kSecond);
+    const auto before = samples;
+    const auto shorts = static_cast<ptrdiff_t>(reached * 2);
+    deck.player.level().set(0, 0);
+    deck.player.relevel();
+    deck.outputs.hear(kSecond);
+    EXPECT_TRUE(std::equal(before.begin(), before.end() - shorts, samples.begin())) << "heard already: " << held;
+    const auto silent = samples.begin() + static_cast<ptrdiff_t>(before.size()) - shorts + kRamp * 2;
+    EXPECT_TRUE(std::all_of(silent, samples.end(), [](int16_t sample) { return sample == 0; })) << held;
+    deck.player.level().set(Level::kFull, Level::kFull);
+    deck.player.relevel();
+    deck.outputs.hear(kSecond);
+    const ptrdiff_t end = kShortsPerFrame * 500;
+    EXPECT_EQ(runs({samples.begin() + end, samples.begin() + end + kShortsPerFrame * 20}), "650-669") << "in its place again";
+  }
+}
+
 TEST(Player, SeeksAndSkipsDataTracks) {
   const TempFolder folder;
   writeFile(folder / "disc.bin", frameBytes(150, 400));

@@ -66,6 +66,7 @@ class SteppedOutputs : public SoundOutputs {
   }
 
   std::vector<int16_t> samples;
+  size_t held = 0;  ///< pairs of them that were not heard yet when the level changes
   std::atomic<int> streams{0};
   std::atomic<int> afterFailures{0};
   std::atomic<bool> failing{false};
@@ -83,6 +84,12 @@ class SteppedOutputs : public SoundOutputs {
     }
     void pause() override { set(true); }
     void resume() override { set(false); }
+    void relevel() override {
+      const std::lock_guard lock(owner_.mutex_);
+      std::vector<int16_t> pairs(owner_.held * 2);
+      const size_t shorts = owner_.feed_->again(pairs.data(), owner_.held) * 2;
+      std::copy_n(pairs.begin(), shorts, owner_.samples.end() - static_cast<ptrdiff_t>(shorts));
+    }
     uint64_t heard() const override { return owner_.heard_; }
     bool failed() const override { return owner_.failing; }
     bool paced() const override { return false; }

@@ -14,7 +14,8 @@ struct VolumeRig {
   VirtualClock clock{gate};
   FakeFiles files;
   Level level;
-  StreamVolume volume{level, files, clock, "/data/level.dat"};
+  int changes = 0;
+  StreamVolume volume{level, files, clock, "/data/level.dat", [this] { ++changes; }};
 };
 
 TEST(StreamVolume, IsKeptASecondAfterItsLastChange) {
@@ -24,6 +25,7 @@ TEST(StreamVolume, IsKeptASecondAfterItsLastChange) {
     rig.clock.advance(100);
   }
   EXPECT_EQ(rig.files.tape, Tape{}) << "a slider that moves writes nothing";
+  EXPECT_EQ(rig.changes, 30) << "and is heard at each step";
   rig.clock.advance(899);
   EXPECT_EQ(rig.files.tape, Tape{});
   rig.clock.advance(1);
@@ -31,7 +33,7 @@ TEST(StreamVolume, IsKeptASecondAfterItsLastChange) {
   rig.clock.advance(10000);
   rig.volume.keep();
   EXPECT_EQ(rig.files.tape, Tape{"write /data/level.dat"}) << "once";
-  StreamVolume next(rig.level, rig.files, rig.clock, "/data/level.dat");
+  StreamVolume next(rig.level, rig.files, rig.clock, "/data/level.dat", [] {});
   EXPECT_EQ(next.volume(0).volume, 29U << 16U | 1029U);
   EXPECT_NE(next.setVolume(1, 5), 0) << "there is one line";
   EXPECT_EQ(next.volume(0).volume, 29U << 16U | 1029U);

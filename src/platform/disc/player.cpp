@@ -18,7 +18,7 @@ constexpr size_t kRingPairs = size_t{2} * kSampleRate;
 }  // namespace
 
 Player::Player(DiscSource& source, SoundOutputs& outputs)
-    : source_(source), outputs_(outputs), ring_(kRingPairs), thread_([this] { run(); }) {}
+    : source_(source), outputs_(outputs), ring_(kRingPairs, kMostHeldPairs), thread_([this] { run(); }) {}
 
 Player::~Player() {
   finish(0);
@@ -58,6 +58,11 @@ int Player::playEnd() const {
 bool Player::settled() const {
   const std::lock_guard lock(mutex_);
   return orders_.empty() && !busy_;
+}
+
+void Player::relevel() {
+  const std::lock_guard lock(mutex_);
+  if (output_) output_->relevel();
 }
 
 Holder Player::holder() const {

@@ -58,6 +58,8 @@ class Player : public DiscPlayer, private SampleFeed {
 
   /// What goes out is made that much softer, from the next sample on.
   Level& level() { return level_; }
+  /// The level has changed: so is what went out and was not heard yet.
+  void relevel();
 
   /// Where the play under way is to end.
   int playEnd() const;
@@ -106,6 +108,11 @@ class Player : public DiscPlayer, private SampleFeed {
   // SampleFeed, the output's thread.
   size_t pull(int16_t* pairs, size_t count) override {
     const size_t got = ring_.read(pairs, count);
+    level_.apply(pairs, got);
+    return got;
+  }
+  size_t again(int16_t* pairs, size_t count) override {
+    const size_t got = ring_.again(pairs, count);
     level_.apply(pairs, got);
     return got;
   }

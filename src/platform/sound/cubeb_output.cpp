@@ -16,8 +16,8 @@ namespace orvanta {
 
 namespace {
 
-/// What lies at the sound server. It asks for more four times in this; at 0.1 s that was most of what playing cost.
-constexpr uint32_t kLatencyPairs = kSampleRate / 5;
+/// What lies at the sound server, and passes until a moved slider is heard.
+constexpr uint32_t kLatencyPairs = kSampleRate / 10;
 
 /// The library's calls. It is loaded with the first sound: a dozen others come with it, which a start has no use for.
 struct Cubeb {

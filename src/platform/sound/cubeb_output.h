@@ -1,4 +1,4 @@
-// Sound through libcubeb: PulseAudio, PipeWire or ALSA, whichever is there.
+// Sound through libcubeb: ALSA, or whatever else it knows, where no PulseAudio or PipeWire is there.
 #pragma once
 
 #include <memory>

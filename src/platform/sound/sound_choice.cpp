@@ -3,13 +3,14 @@
 
 #include "platform/sound/clocked_output.h"
 #include "platform/sound/cubeb_output.h"
+#include "platform/sound/pulse_output.h"
 
 namespace orvanta {
 
 SoundSetup makeSound(const std::string& audio) {
   SoundSetup sound;
   if (audio == "default") {
-    sound.outputs = std::make_unique<CubebOutputs>();
+    sound.outputs = std::make_unique<PulseOutputs>(std::make_unique<CubebOutputs>());
     return sound;
   }
   if (audio.rfind("file:", 0) == 0) sound.wav = std::make_unique<WavFile>(audio.substr(5));

@@ -38,10 +38,11 @@ uint32_t keptLevel(const Files& files, const std::string& path) {
 
 void setLevel(Level& level, uint32_t volume) { level.set(static_cast<uint16_t>(volume), static_cast<uint16_t>(volume >> 16U)); }
 
-StreamVolume::StreamVolume(Level& level, Files& files, Clock& clock, std::string path)
+StreamVolume::StreamVolume(Level& level, Files& files, Clock& clock, std::string path, std::function<void()> changed)
     : level_(level),
       files_(files),
       path_(std::move(path)),
+      changed_(std::move(changed)),
       volume_(keptLevel(files, path_)),
       kept_(volume_),
       timer_(clock.makeTimer([this] { keep(); })) {
@@ -56,6 +57,7 @@ int StreamVolume::setVolume(int device, uint32_t volume) {
   if (device != 0) return kNoSuchDevice;
   volume_ = volume;
   setLevel(level_, volume);
+  changed_();
   // The second begins anew with each change: a slider that moves writes nothing.
   timer_->setInterval(0);
   timer_->setInterval(kRest);

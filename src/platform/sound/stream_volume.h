@@ -2,6 +2,7 @@
 // the process.
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -26,7 +27,8 @@ class StreamVolume : public AuxVolume {
  public:
   /// Takes the level of the file `path`, and keeps it there a second after its last change; "" keeps it for
   /// this process alone.
-  StreamVolume(Level& level, Files& files, Clock& clock, std::string path);
+  /// `changed` is called after each change of the level.
+  StreamVolume(Level& level, Files& files, Clock& clock, std::string path, std::function<void()> changed);
 
   int devices() const override { return 1; }
   AuxCaps caps(int device) const override;
@@ -38,6 +40,7 @@ class StreamVolume : public AuxVolume {
   Level& level_;
   Files& files_;
   std::string path_;
+  std::function<void()> changed_;
   uint32_t volume_;
   uint32_t kept_;  ///< as in the file
   std::unique_ptr<Timer> timer_;

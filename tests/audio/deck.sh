@@ -41,11 +41,12 @@ start_deck() {
 }
 
 # A sound server of our own, with one sink that sounds nowhere.
+# start_server [OPTION]: norewinds=0 for one that takes back what was not heard yet.
 start_server() {
   for tool in pulseaudio parec pactl; do command -v $tool >/dev/null || { echo "skipped: no $tool"; exit 77; }; done
   export PULSE_SERVER=unix:$home/pulse.socket
   pulseaudio -n --daemonize=no --exit-idle-time=-1 --use-pid-file=no --load="module-native-protocol-unix socket=$home/pulse.socket auth-anonymous=1" \
-    --load="module-null-sink sink_name=speakers norewinds=1" >"$home/pulse.log" 2>&1 &
+    --load="module-null-sink sink_name=speakers ${1:-norewinds=1}" >"$home/pulse.log" 2>&1 &
   server=$!
   pids="$pids $server"
   until_true 10 pactl info

@@ -92,7 +92,8 @@ TEST(Player, AMovedSliderReachesWhatWasNotHeardYet) {
   const TempFolder folder;
   makeDisc(folder, {750});
   constexpr size_t kRamp = 441;
-  for (const auto [held, reached] : {std::pair{size_t{10000}, size_t{10000}}, {2 * kMostHeldPairs, kMostHeldPairs}, {size_t{0}, size_t{0}}}) {
+  for (const auto& [held, reached] :
+       {std::pair{size_t{10000}, size_t{10000}}, {2 * kMostHeldPairs, kMostHeldPairs}, {size_t{0}, size_t{0}}}) {
     Deck deck(folder.path());
     deck.outputs.held = held;
     deck.playAll();

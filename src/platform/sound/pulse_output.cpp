@@ -160,6 +160,7 @@ class PulseOutputs::Stream : public SoundOutput {
   /// All that the server has room for. What is not there yet is asked for again in a moment; until then the server waits,
   /// so that its clock counts nothing but the feed's samples.
   void fill() {
+    heardPairs();  // known from here on, should the server die
     while (!ended_) {
       const size_t room = pulse_.stream_writable_size(stream_);
       if (room == SIZE_MAX || room < kPairBytes) return;

@@ -26,6 +26,8 @@ LibraryPorts forLibrary(const Ports& all) {
   return {all.device, all.dialogs, all.files, all.processes, all.screen, all.system, all.printer, all.desktop};
 }
 
+CddbPorts forCddb(const Ports& all) { return {all.clock, all.dialogs, all.files, all.net, all.screen, all.desktop}; }
+
 LifePorts forLife(const Ports& all) {
   return {all.device, all.auxVolume, all.clock, all.dialogs, all.files, all.processes, all.screen, all.system};
 }
@@ -38,7 +40,7 @@ Orvanta::Orvanta(Ports& ports)
       playback_(forPlayback(ports), form, state, links_),
       faceplate_(forFaceplate(ports), playback_, form, state, links_),
       library_(forLibrary(ports), playback_, {editor, playlistForm, infoForm}, form, state, links_),
-      cddb_(ports, library_.cdData, editor, {cddbForm, categoryForm, mailForm}, form, state, links_),
+      cddb_(forCddb(ports), library_.cdData, editor, {cddbForm, categoryForm, mailForm}, form, state, links_),
       life_(forLife(ports), playback_, faceplate_, form, state) {
   playback_.status.watch([this](const DeckStatus& /*now*/) { library_.cdData.markPlaying(); });
 }

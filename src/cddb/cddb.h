@@ -3,6 +3,7 @@
 
 #include "cddb/cddb_window.h"
 #include "cddb/mail_window.h"
+#include "cddb/ports.h"
 #include "cddb/submitter.h"
 
 namespace orvanta {
@@ -15,7 +16,8 @@ struct CddbForms {
 };
 
 struct Cddb {
-  Cddb(Ports& ports, CdData& cdData, acdtabs& editor, const CddbForms& forms, CDForm& faceplate, SharedState& state, CddbUpward& upward)
+  Cddb(const CddbPorts& ports, CdData& cdData, acdtabs& editor, const CddbForms& forms, CDForm& faceplate, SharedState& state,
+       CddbUpward& upward)
       : window(ports, cdData, editor, forms.online, faceplate, state, upward),
         mail(ports, editor, forms.mail),
         submitter(ports, cdData, window, mail, editor, forms.category, state) {}

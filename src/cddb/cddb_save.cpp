@@ -3,7 +3,6 @@
 #include "cddb/cddb_window.h"
 #include "library/cd_data.h"
 #include "library/list_text.h"
-#include "platform/ports/ports.h"
 
 namespace orvanta {
 

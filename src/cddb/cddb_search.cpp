@@ -3,7 +3,6 @@
 #include "cddb/cddb_window.h"
 #include "cddb/wire_text.h"
 #include "library/cd_data.h"
-#include "platform/ports/ports.h"
 #include "platform/ports/screen.h"
 
 namespace orvanta {

@@ -4,7 +4,6 @@
 #include "base/text.h"
 #include "cddb/cddb_window.h"
 #include "platform/ports/files.h"
-#include "platform/ports/ports.h"
 #include "state/not_written.h"
 
 namespace orvanta {

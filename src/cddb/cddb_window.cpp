@@ -7,7 +7,6 @@
 #include "cddb/placeholders.h"
 #include "cddb/upward.h"
 #include "library/cd_data.h"
-#include "platform/ports/ports.h"
 #include "platform/ports/screen.h"
 
 namespace orvanta {
@@ -23,7 +22,7 @@ bool ready(const cddbmain& form) { return form.inetstatus.caption.get().rfind("E
 
 }  // namespace
 
-CddbWindow::CddbWindow(Ports& ports, CdData& cdData, acdtabs& editor, cddbmain& form, CDForm& faceplate, SharedState& state,
+CddbWindow::CddbWindow(const CddbPorts& ports, CdData& cdData, acdtabs& editor, cddbmain& form, CDForm& faceplate, SharedState& state,
                        CddbUpward& upward)
     : ports_(ports),
       cdData_(cdData),

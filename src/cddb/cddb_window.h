@@ -7,6 +7,7 @@
 
 #include "cddb/cddb_settings.h"
 #include "cddb/disc_record.h"
+#include "cddb/ports.h"
 #include "cddb/server_list.h"
 #include "cddb/session.h"
 #include "platform/forms/form.h"
@@ -22,7 +23,6 @@ namespace orvanta {
 
 class CdData;
 class CddbUpward;
-struct Ports;
 
 /// Who wants a disc's id, to submit the disc under it.
 class DiscIdTaker {
@@ -33,7 +33,8 @@ class DiscIdTaker {
 
 class CddbWindow : public forms::FormEvents, private SessionEvents {
  public:
-  CddbWindow(Ports& ports, CdData& cdData, acdtabs& editor, cddbmain& form, CDForm& faceplate, SharedState& state, CddbUpward& upward);
+  CddbWindow(const CddbPorts& ports, CdData& cdData, acdtabs& editor, cddbmain& form, CDForm& faceplate, SharedState& state,
+             CddbUpward& upward);
 
   /// By a person, from CD Data; alone where nobody is known to the servers yet.
   void open();
@@ -120,7 +121,7 @@ class CddbWindow : public forms::FormEvents, private SessionEvents {
   bool takeSetup();
   bool writeSetup();
 
-  Ports& ports_;
+  CddbPorts ports_;
   CdData& cdData_;
   acdtabs& editor_;
   cddbmain& form_;

@@ -4,7 +4,6 @@
 #include "cddb/cddb_settings.h"
 #include "cddb/wire_text.h"
 #include "library/placing.h"
-#include "platform/ports/ports.h"
 #include "platform/ports/screen.h"
 
 namespace orvanta {
@@ -17,7 +16,7 @@ constexpr const char* kSent =
 
 }  // namespace
 
-MailWindow::MailWindow(Ports& ports, acdtabs& editor, cddbmail& form) : ports_(ports), editor_(editor), form_(form) {
+MailWindow::MailWindow(const CddbPorts& ports, acdtabs& editor, cddbmail& form) : ports_(ports), editor_(editor), form_(form) {
   form.setEvents(this);
 }
 

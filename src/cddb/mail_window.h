@@ -5,6 +5,7 @@
 #include <string>
 
 #include "cddb/mail_session.h"
+#include "cddb/ports.h"
 #include "platform/forms/form.h"
 #include "platform/ports/dialogs.h"
 #include "windows/acdtabs.h"
@@ -12,11 +13,9 @@
 
 namespace orvanta {
 
-struct Ports;
-
 class MailWindow : public forms::FormEvents, private MailEvents {
  public:
-  MailWindow(Ports& ports, acdtabs& editor, cddbmail& form);
+  MailWindow(const CddbPorts& ports, acdtabs& editor, cddbmail& form);
 
   /// Mails a record; nothing without one. A mail that is still under way is given up.
   void send(const Mail& mail);
@@ -38,7 +37,7 @@ class MailWindow : public forms::FormEvents, private MailEvents {
   void endWith(BoxStyle style, const std::string& text);
   void tellEditor(const std::string& text);
 
-  Ports& ports_;
+  CddbPorts ports_;
   acdtabs& editor_;
   cddbmail& form_;
   Mail mail_;

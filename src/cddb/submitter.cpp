@@ -10,7 +10,6 @@
 #include "library/cd_data.h"
 #include "library/list_text.h"
 #include "library/placing.h"
-#include "platform/ports/ports.h"
 #include "platform/ports/screen.h"
 
 namespace orvanta {
@@ -59,7 +58,7 @@ std::string categoryOf(const std::string& genre) {
   return endsWithNoCase(text, "rock") ? "rock" : "";
 }
 
-Submitter::Submitter(Ports& ports, CdData& cdData, CddbWindow& window, MailWindow& mail, acdtabs& editor, cddbcatg& form,
+Submitter::Submitter(const CddbPorts& ports, CdData& cdData, CddbWindow& window, MailWindow& mail, acdtabs& editor, cddbcatg& form,
                      const SharedState& state)
     : ports_(ports), cdData_(cdData), window_(window), mail_(mail), editor_(editor), form_(form), state_(state) {
   form.setEvents(this);

@@ -5,6 +5,7 @@
 
 #include "cddb/cddb_window.h"
 #include "cddb/mail_window.h"
+#include "cddb/ports.h"
 #include "cddb/record_writer.h"
 #include "platform/forms/form.h"
 #include "windows/acdtabs.h"
@@ -14,7 +15,8 @@ namespace orvanta {
 
 class Submitter : public forms::FormEvents, private DiscIdTaker {
  public:
-  Submitter(Ports& ports, CdData& cdData, CddbWindow& window, MailWindow& mail, acdtabs& editor, cddbcatg& form, const SharedState& state);
+  Submitter(const CddbPorts& ports, CdData& cdData, CddbWindow& window, MailWindow& mail, acdtabs& editor, cddbcatg& form,
+            const SharedState& state);
 
   /// Asks for the category of the disc in CD Data.
   void open();
@@ -37,7 +39,7 @@ class Submitter : public forms::FormEvents, private DiscIdTaker {
   void showPlainLetters();
   Mail mail() const;
 
-  Ports& ports_;
+  CddbPorts ports_;
   CdData& cdData_;
   CddbWindow& window_;
   MailWindow& mail_;

@@ -85,7 +85,7 @@ TEST(Architecture, TheViewKnowsNoWindow) {
 }  // namespace
 /// Whether a line can name one of the display's or the keys' controls: regular expressions are slow.
 bool mentions(const std::string& line) {
-  for (const char* part : {"Label", "CDStatusBar", "cntl", "Image"}) {
+  for (const char* part : {"Label", "CDStatusBar", "cntl", "Image", "Pct", "Vbar", "Thumb", "Tline"}) {
     if (line.find(part) != std::string::npos) return true;
   }
   return false;
@@ -103,6 +103,7 @@ TEST(Architecture, DisplayAndKeysHaveOneWriterEach) {
        "(caption|visible|foreColor|backColor|floodPercent|floodColor)",
        {"playback/display.h", "playback/display.cpp", "playback/display_paint.cpp"}},
       {"(icntl[bc]|scntl[bc]|Image[34])", "visible", {"playback/key_looks.cpp"}},
+      {"(Pct[LR]|Vbartop[LR]|Thumb[LR]|Tline[LR])", "(caption|visible|top|height|backColor)", {"faceplate/volume.cpp"}},
       {"(Label17|Label24|Label3[4589]|Label40|Label44|Label19|Label20|Label25)", "foreColor", {"playback/key_looks.cpp"}},
   };
   for (const Owner& owner : owners) {

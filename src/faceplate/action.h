@@ -1,6 +1,7 @@
 // Everything that the deck can be told, by whatever road: a face, a key of the keyboard, an entry of a menu.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 
 namespace orvanta {

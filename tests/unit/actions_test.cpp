@@ -82,14 +82,29 @@ TEST(Actions, MouseSpaceAndLetterGoOneRoad) {
   EXPECT_EQ(rig.sounds.tape, Tape{});
 }
 
-TEST(Status, IsToldOnlyWhenItDiffers) {
+TEST(Actions, AReleaseCountsForItsOwnPressAlone) {
   PlayRig rig;
-  Tape told;
+  // Under its mask the press was not taken; what plays meanwhile goes on.
+  rig.hold(rig.form.icntla[Stop]);
+  rig.play();
+  rig.letGo();
+  EXPECT_EQ(rig.heard(), "playing 1 at 0");
+}
+
+/// What a watcher of the status hears from here on.
+Tape& hear(PlayRig& rig, Tape& told) {
   rig.orvanta.status().watch([&](const DeckStatus& now) {
     told.push_back(std::to_string(static_cast<int>(now.state)) + " " + std::to_string(now.track) + " of " + std::to_string(now.tracks) +
                    " at " + std::to_string(now.second) + " of " + std::to_string(now.length) + " " + now.trackTitle +
                    (now.muted ? " muted" : "") + (now.repeat ? " repeat" : "") + (now.discIn ? "" : " no disc"));
   });
+  return told;
+}
+
+TEST(Status, IsToldOnlyWhenItDiffers) {
+  PlayRig rig;
+  Tape told;
+  hear(rig, told);
   rig.clock.advance(5000);
   EXPECT_EQ(told, Tape{});
   rig.play();
@@ -98,10 +113,22 @@ TEST(Status, IsToldOnlyWhenItDiffers) {
   rig.press(rig.form.Image2[1]);
   rig.key('F');
   rig.clock.advance(5000);
+  rig.key('I');
+  EXPECT_TRUE(rig.orvanta.infoForm.loaded());
   rig.key('J');
+  EXPECT_FALSE(rig.orvanta.infoForm.loaded());
   EXPECT_EQ(told, (Tape{"1 1 of 3 at 0 of 180 Title 1", "1 1 of 3 at 1 of 180 Title 1", "1 1 of 3 at 1 of 180 Title 1 repeat",
                         "1 1 of 3 at 1 of 180 Title 1 muted repeat", "2 1 of 3 at 1 of 180 Title 1 muted repeat",
                         "3 0 of 0 at 0 of 0  muted repeat no disc"}));
+  // After a program the fast tick stands still.
+  PlayRig still;
+  still.program({2});
+  still.at(245);
+  told.clear();
+  hear(still, told);
+  still.player.eject();
+  still.clock.advance(3000);
+  EXPECT_EQ(told, Tape{"3 0 of 0 at 0 of 0  no disc"});
 }
 
 TEST(Status, TitleOfTheTaskButtonOfAMinimisedDeck) {

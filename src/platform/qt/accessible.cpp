@@ -145,7 +145,10 @@ void nameChanged(ControlWidget& widget) {
 void stateChanged(ControlWidget& widget) {
   if (!QAccessible::isActive() || !isHeard(widget)) return;
   if (percentOf(widget.control()) != nullptr) {
-    tell(widget, QAccessible::ValueChanged);
+    // An event of its own kind: a screen reader reads the value out of it.
+    const QString value = QAccessible::queryAccessibleInterface(&widget)->text(QAccessible::Value);
+    QAccessibleValueChangeEvent event(&widget, value);
+    QAccessible::updateAccessibility(&event);
     return;
   }
   QAccessible::State changed;

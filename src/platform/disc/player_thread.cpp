@@ -68,6 +68,7 @@ void Player::tryToHold() {
     heldSince_ = SteadyClock::now();
   }
   known_.notify_all();
+  if (logs("sound")) logLine("sound", "holds the drive");
   lookAtDrive();
 }
 
@@ -275,6 +276,7 @@ void Player::endWhenHeard() {
     shownFrame_ = heardFrame();
     shownState_ = PlayState::Stopped;
     failure_ = broken;
+    if (logs("sound")) logLine("sound", "ended at frame " + std::to_string(shownFrame_));
   }
   dropStream();
 }

@@ -33,6 +33,7 @@
 #include "platform/qt/qt_desktop.h"
 #include "platform/qt/qt_dialogs.h"
 #include "platform/qt/qt_screen.h"
+#include "platform/qt/turns.h"
 #include "platform/sound/mixer_stand_in.h"
 #include "platform/sound/sound_choice.h"
 #include "platform/sound/stream_volume.h"
@@ -282,6 +283,7 @@ int run(int argc, char** argv) {
   QApplication application(argc, argv);
   QApplication::setApplicationName(QStringLiteral("Orvanta LX"));
   QApplication::setQuitOnLastWindowClosed(false);
+  watchTurns();
   return live(application, options, host, drive);
 }
 

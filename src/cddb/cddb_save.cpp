@@ -1,4 +1,5 @@
 // From the record on show into CD Data's controls, and, without a person, on into the disc's files.
+#include "base/log.h"
 #include "base/text.h"
 #include "cddb/cddb_window.h"
 #include "library/cd_data.h"
@@ -18,6 +19,7 @@ void CddbWindow::Command7_Click() {
   }
   // Told of or not, a file that cannot be written leaves the texts on the display.
   cdData_.Command1_Click();
+  logLine("cddb", "named");
   endSession();
 }
 

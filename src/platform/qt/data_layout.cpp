@@ -51,7 +51,7 @@ void DataWindow::lay(const Binding& binding) {
   const bool small = hinted(control, "narrow") || hinted(control, "small");
   grid->addWidget(&binding.widget(), cell.row, cell.column, cell.rows, cell.columns, small ? Qt::AlignLeft : Qt::Alignment());
   const bool frame = control.parent == nullptr && hinted(control, "frame");
-  if (frame || hinted(control, "stretch")) grid->setRowStretch(cell.row, 1);
+  if (frame || hinted(control, "stretch")) grid->setRowStretch(cell.row, hinted(control, "tall") ? 3 : 1);
   // Fields take the room, captions what they need.
   const bool field = binding.fills() && cell.columns == 1 && !small;
   if (field || hinted(control, "wide")) grid->setColumnStretch(cell.column, 1);

@@ -48,7 +48,7 @@ QGroupBox::title { subcontrol-origin: margin; left: 10p; color: #8FA6B2; }
 QCheckBox, QRadioButton { background: transparent; }
 QCheckBox::indicator, QRadioButton::indicator { width: 13p; height: 13p; background: #101315; border: 1p solid #4A5057; border-radius: 3p; }
 QRadioButton::indicator { border-radius: 7p; }
-QCheckBox::indicator:checked, QRadioButton::indicator:checked { background: #50E678; border: 3p solid #101315; }
+QCheckBox::indicator:checked, QRadioButton::indicator:checked { width: 9p; height: 9p; background: #50E678; border: 3p solid #101315; }
 QCheckBox:focus, QRadioButton:focus { color: #FFC247; }
 QProgressBar { background: #101315; border: 1p solid #15171A; border-bottom-color: #4A5057; border-radius: 3p; text-align: center; }
 QProgressBar::chunk { background: #1F6B3A; border-radius: 2p; }

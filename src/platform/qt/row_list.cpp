@@ -65,7 +65,11 @@ void fillRows(QTreeWidget& view, const std::vector<std::string>& rows) {
   }
   for (int row = 0; row < count; ++row) {
     QTreeWidgetItem& item = *view.topLevelItem(row);
-    const QStringList parts = toQt(rows[static_cast<size_t>(row)]).split(QLatin1Char('\t'));
+    QString shown = toQt(rows[static_cast<size_t>(row)]);
+    // What stands behind a long gap is for the program.
+    static const QString kGap(40, QLatin1Char(' '));
+    if (const auto gap = shown.indexOf(kGap); gap > 0) shown.truncate(gap);
+    const QStringList parts = shown.split(QLatin1Char('\t'));
     item.setFirstColumnSpanned(parts.size() == 1);
     for (int column = 0; column < kColumns; ++column) {
       const QString text = column < parts.size() ? parts[column] : QString();

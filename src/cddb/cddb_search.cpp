@@ -1,4 +1,5 @@
 // The CDDB Online tab: a search from its first question to the record on show.
+#include "base/log.h"
 #include "base/text.h"
 #include "cddb/cddb_window.h"
 #include "cddb/wire_text.h"
@@ -40,6 +41,7 @@ void CddbWindow::Command8_Click() {
     if (byItself()) endSession();
     return;
   }
+  logLine("cddb", "search");
   session_.reset();
   sitesUpdate_ = false;
   wait(true);
@@ -127,11 +129,12 @@ void CddbWindow::recordArrived(const std::string& bytes) {
 }
 
 void CddbWindow::showRecord(const std::string& serverLine) {
+  constexpr size_t kLongestRow = 500;  // characters; the whole text is for CD Data
   for (size_t track = 1; track <= record_.count; ++track) {
     const std::string number = std::to_string(track) + ":\t";
     const std::string text = withoutControls(record_.extended[track]);
     form_.List1.add(number + std::string(trim(record_.titles[track])));
-    if (record_.hasExtended && !trim(text).empty()) form_.List3.add(number + std::string(trim(text)));
+    if (record_.hasExtended && !trim(text).empty()) form_.List3.add(number + std::string(firstCharacters(trim(text), kLongestRow)));
   }
   form_.linernote2.caption = record_.notes;
   if (!trim(record_.title).empty()) {

@@ -13,6 +13,8 @@ namespace {
 constexpr const char* kServerPorts = "Please enter a valid Port number (usually 80 for HTTP and 8880 or 888 for CDDBP)";
 constexpr const char* kMailPorts = "Please enter a valid Port number (usually 25 for SMTP Servers)";
 constexpr int kHighestPort = 65535;
+constexpr size_t kUserCaption = 2;
+constexpr size_t kPasswordCaption = 3;
 
 int portIn(const forms::TextBox& box) {
   const double port = leadingNumber(box.caption.get());
@@ -77,7 +79,8 @@ void CddbWindow::showProtocol() {
   } else if (form_.Text1.caption.get().empty()) {
     form_.Text1.caption = proxyKept_;
   }
-  form_.Text3.enabled = form_.Text8.enabled = !cddbp && form_.Check2.value;
+  const bool known = !cddbp && form_.Check2.value;
+  form_.Text3.enabled = form_.Text8.enabled = form_.Captions[kUserCaption].enabled = form_.Captions[kPasswordCaption].enabled = known;
 }
 
 void CddbWindow::loadcombo1() {
@@ -100,6 +103,10 @@ void CddbWindow::chooseProtocol(bool cddbp) {
   if (cddbp == settings_.useCddbp) return;
   settings_.useCddbp = cddbp;
   showProtocol();
+  // A list without servers leaves nothing of the other protocol's behind.
+  form_.Combo1.caption = form_.Text4.caption = "";
+  settings_.cddbServer.clear();
+  settings_.cddbPort = 0;
   loadcombo1();
   chooseSite(0);
 }

@@ -26,6 +26,7 @@ CddbpSession::CddbpSession(Net& net, const CddbSettings& settings, const TrackTa
 void CddbpSession::ask(SessionState due, const std::string& command) {
   logLine("cddb", "> " + command);
   state_ = due;
+  heard_ = 0;
   if (due == SessionState::QueryDue || due == SessionState::RecordDue) shaper_.clear();
   if (connection_ == nullptr || !connection_->send(command + "\r\n")) giveUp("");
 }
@@ -45,7 +46,8 @@ void CddbpSession::connected() {
 
 void CddbpSession::received(std::string_view bytes) {
   if (!due()) return;
-  if (!shaper_.take(bytes)) {
+  heard_ += bytes.size();
+  if (heard_ > ReplyShaper::kMost || !shaper_.take(bytes)) {
     giveUp("The server's reply has no end.");
     return;
   }
@@ -97,7 +99,6 @@ void CddbpSession::siteLine(std::string_view line) {
     sitesEnd();
   } else if (bare.size() >= kShortest && replyCode(bare) != kListFollows) {
     sites_.append(bare).append("\r\n");
-    if (sites_.size() > ReplyShaper::kMost) giveUp("The server's list has no end.");
   }
 }
 

@@ -30,6 +30,7 @@ class CddbpSession : public Session, private ConnectionEvents {
 
   ReplyShaper shaper_;
   std::string sites_;
+  size_t heard_ = 0;       ///< bytes since the last question
   bool siteSeen_ = false;  ///< the list's first line has come
   std::unique_ptr<Connection> connection_;
 };

@@ -16,6 +16,14 @@ std::string_view valueOf(std::string_view line) {
   return equals == std::string_view::npos ? std::string_view() : line.substr(equals + 1);
 }
 
+/// Adds what there is room for, whole characters.
+void add(std::string& text, std::string_view more, size_t most) {
+  const auto amidCharacter = [&](size_t at) { return at < more.size() && (static_cast<unsigned char>(more[at]) & 0xC0U) == 0x80U; };
+  size_t fits = std::min(more.size(), most - std::min(most, text.size()));
+  while (amidCharacter(fits)) --fits;
+  text += more.substr(0, fits);
+}
+
 /// `\t` and `\\` as two blanks, `\n` as a line break.
 std::string unescaped(std::string_view text) {
   std::string result;
@@ -60,7 +68,7 @@ class Reader {
 
  private:
   void discTitle(std::string_view line) {
-    record_.title += trim(valueOf(line));
+    add(record_.title, trim(valueOf(line)), DiscRecord::kMostTitle);
     record_.title = std::string(cleanStart(record_.title));
     pastTitle_ = true;
   }
@@ -70,7 +78,7 @@ class Reader {
     if (kind == "TTIT") {
       trackTitle(line);
     } else if (kind == "EXTD") {
-      notes_ += kept(valueOf(line));
+      add(notes_, kept(valueOf(line)), DiscRecord::kMostText);
     } else if (kind == "EXTT") {
       trackText(line);
     } else if (kind == "PLAY") {
@@ -89,7 +97,7 @@ class Reader {
     } else if (!goesOn) {
       record_.titles[++record_.count].clear();
     }
-    if (!full_) record_.titles[record_.count] += kept(valueOf(line));
+    if (!full_) add(record_.titles[record_.count], kept(valueOf(line)), DiscRecord::kMostTitle);
   }
 
   void trackText(std::string_view line) {
@@ -97,7 +105,7 @@ class Reader {
     const double track = leadingNumber(line.substr(std::min(line.size(), kNumber))) + 1;
     if (track < 1 || track > DiscRecord::kMostTracks) return;
     const std::string_view value = kept(valueOf(line));
-    record_.extended[static_cast<size_t>(track)] += value;
+    add(record_.extended[static_cast<size_t>(track)], value, DiscRecord::kMostText);
     if (!value.empty()) record_.hasExtended = true;
   }
 

@@ -14,9 +14,12 @@ namespace orvanta {
 /// extended texts of a second retrieval are added to the first's.
 struct DiscRecord {
   static constexpr size_t kMostTracks = 100;
-  std::string title;  ///< "Artist / Title"
-  std::string notes;  ///< each line ends in CR LF
-  size_t count = 0;   ///< tracks that the last record named
+  // Bytes that no honest record has: what a broken server sends beyond them is dropped, so that nothing stalls over it.
+  static constexpr size_t kMostTitle = 1000;
+  static constexpr size_t kMostText = 65536;  ///< as it came; line breaks grow in it
+  std::string title;                          ///< "Artist / Title"
+  std::string notes;                          ///< each line ends in CR LF
+  size_t count = 0;                           ///< tracks that the last record named
   bool hasExtended = false;
   /// Worth saving: it names the disc and its tracks.
   bool tellsAnything() const { return count > 0 && title.find_first_not_of(' ') != std::string::npos; }

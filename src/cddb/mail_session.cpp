@@ -36,7 +36,8 @@ MailSession::~MailSession() { *alive_ = false; }
 void MailSession::connected() { events_.mailUnderWay(); }
 
 void MailSession::received(std::string_view bytes) {
-  if (!shaper_.take(bytes)) {
+  heard_ += bytes.size();
+  if (heard_ > ReplyShaper::kMost || !shaper_.take(bytes)) {
     failed("The server's reply has no end.");
     return;
   }

@@ -59,6 +59,7 @@ class MailSession : private ConnectionEvents {
   const Mail mail_;
   int16_t mailState_ = Greeting;
   ReplyShaper shaper_;
+  size_t heard_ = 0;  ///< bytes
   /// False once the session is gone: for code that has just told of something.
   const std::shared_ptr<bool> alive_ = std::make_shared<bool>(true);
   std::unique_ptr<Connection> connection_;

@@ -84,11 +84,14 @@ QueryReply readQueryReply(std::string_view reply, const Road& road) {
     result.total = std::max(lines.count, kFramingLines + 1) - kFramingLines;
     for (size_t i = 1; i < lines.kept.size() && result.rows.size() < result.total; ++i) result.rows.push_back(listedRow(lines.kept[i]));
   }
+  // A list that broke off before its first match offers nothing to wait for.
+  if (result.rows.empty()) result.found = Found::Nothing;
   return result;
 }
 
 std::string matchRow(std::string_view category, std::string_view title, std::string_view discId) {
-  return plain(category) + " - " + lineAsText(title) + std::string(kGap, ' ') + plain(discId);
+  constexpr size_t kLongestCategory = 100;
+  return plain(category.substr(0, kLongestCategory)) + " - " + lineAsText(title) + std::string(kGap, ' ') + plain(discId);
 }
 
 Match matchOfRow(std::string_view row) {

@@ -25,6 +25,10 @@ bool endsMail(std::string_view line) { return line.size() < 4 || line[3] != '-';
 }  // namespace
 
 bool ReplyShaper::take(std::string_view bytes) {
+  // Once an arrival, not once a line.
+  waiting_.erase(0, start_);
+  searched_ -= start_;
+  start_ = 0;
   if (waiting_.size() + bytes.size() > kMost) {
     clear();
     return false;
@@ -35,14 +39,14 @@ bool ReplyShaper::take(std::string_view bytes) {
 
 void ReplyShaper::clear() {
   waiting_.clear();
-  searched_ = 0;
+  start_ = searched_ = 0;
 }
 
 std::optional<std::string> ReplyShaper::next(Shape shape) {
   if (shape == Shape::Mail) return nextUpTo(endsMail);
-  const auto end = waiting_.find('\n');
+  const auto end = waiting_.find('\n', start_);
   if (shape == Shape::Line || end == std::string::npos) return nextUpTo(anyLine);
-  const int code = replyCode(cleanStart(waiting_.substr(0, end)));
+  const int code = replyCode(cleanStart(std::string_view(waiting_).substr(start_, end - start_)));
   return nextUpTo(code == kEntryFollows || code == kMatchesFollow ? isDot : anyLine);
 }
 
@@ -54,9 +58,8 @@ std::optional<std::string> ReplyShaper::nextUpTo(bool (*last)(std::string_view l
     searched_ = end + 1;
     if (last(line)) break;
   }
-  std::string reply = withLineEnds(std::string_view(waiting_).substr(0, searched_));
-  waiting_.erase(0, searched_);
-  searched_ = 0;
+  std::string reply = withLineEnds(std::string_view(waiting_).substr(start_, searched_ - start_));
+  start_ = searched_;
   return reply;
 }
 

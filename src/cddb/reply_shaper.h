@@ -28,7 +28,8 @@ class ReplyShaper {
   std::optional<std::string> nextUpTo(bool (*last)(std::string_view line));
 
   std::string waiting_;
-  size_t searched_ = 0;  ///< of what waits, so many bytes hold no end of the reply
+  size_t start_ = 0;     ///< of the reply that comes next; what stands before it has been given
+  size_t searched_ = 0;  ///< up to here is no end of it
 };
 
 /// Every line end as CR LF; a lone CR is none.

@@ -62,7 +62,8 @@ std::string discIdOf(std::string_view reply) {
   const auto start = reply.rfind('\n');
   std::string_view line = cleanStart(start == std::string_view::npos ? reply : reply.substr(start + 1));
   if (line.size() > kIdAndReturn) line.remove_prefix(line.size() - kIdAndReturn);
-  return std::string(line.substr(0, kIdAndReturn - 1));
+  // It goes back to the server, on one line.
+  return withoutControls(line.substr(0, kIdAndReturn - 1));
 }
 
 }  // namespace orvanta

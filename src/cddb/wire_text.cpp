@@ -27,7 +27,10 @@ std::string fromWire(std::string_view bytes) {
   return text;
 }
 
-std::string lineAsText(std::string_view line) { return std::string(trim(withoutControls(fromWire(line)))); }
+std::string lineAsText(std::string_view line) {
+  constexpr size_t kMost = 500;  // characters; honest lines have 256 bytes
+  return std::string(trim(firstCharacters(withoutControls(fromWire(line)), kMost)));
+}
 
 std::string withReason(const std::string& text, const std::string& reason) { return reason.empty() ? text : text + "\n\n" + reason; }
 

@@ -10,7 +10,7 @@ namespace orvanta {
 /// order mark goes.
 std::string fromWire(std::string_view bytes);
 
-/// A server's line to be shown: without its line end and other control characters.
+/// A server's line to be shown: without its line end and other control characters, and no longer than a box can hold.
 std::string lineAsText(std::string_view line);
 
 /// Words for a box, and what the server or the system said as a paragraph of its own.

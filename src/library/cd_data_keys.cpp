@@ -125,7 +125,7 @@ void CdData::submit() {
     ports_.dialogs.message(BoxStyle::Critical, "Orvanta", "Unable To Submit - Track Limit Exceeded For CDDB Submission From Orvanta");
     return;
   }
-  for (forms::TextBox* box : {&form_.Text2, &form_.Text4}) box->caption = withoutControls(box->caption.get());
+  for (forms::TextBox* box : {&form_.Text2, &form_.Text4}) box->caption = withoutControls(trim(box->caption.get()));
   upward_.submitToCddb();
 }
 

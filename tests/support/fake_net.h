@@ -51,7 +51,8 @@ class FakeNet : public Net {
   End end = End::Close;
   bool refuses = false;
   int status = 200;
-  Tape tape;  ///< what was asked of the network, and "drop"
+  bool inOrder = false;  ///< each question gets the script's next answer, whatever it was
+  Tape tape;             ///< what was asked of the network, and "drop"
   std::vector<HttpRequest> requests;
 
  private:
@@ -83,7 +84,9 @@ class FakeNet : public Net {
     Alive alive = std::make_shared<bool>(true);
   };
 
-  const Exchanged* answerTo(const std::string& asked) const {
+  const Exchanged* answerTo(const std::string& asked) {
+    static const Exchanged kGone{"", "", true};
+    if (inOrder) return ++answered_ < script.size() ? &script[answered_] : &kGone;
     const auto found = std::find_if(script.begin(), script.end(), [&](const Exchanged& each) { return each.asked == asked; });
     return found == script.end() ? nullptr : &*found;
   }
@@ -118,6 +121,7 @@ class FakeNet : public Net {
     event();
   }
 
+  size_t answered_ = 0;
   std::deque<std::function<void()>> due_;
   std::unique_ptr<Timer> timer_;
 };

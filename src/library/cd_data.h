@@ -19,13 +19,13 @@ namespace orvanta {
 
 class HtmlExport;
 class LibraryUpward;
-class RecordPrint;
+class DiscPrint;
 
 /// Whom the window's keys reach.
 struct CdDataParts {
   Genres& genres;
   HtmlExport& html;
-  RecordPrint& print;
+  DiscPrint& print;
   Display& display;
 };
 

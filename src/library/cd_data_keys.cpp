@@ -1,8 +1,8 @@
 // The keys of the CD Data window.
 #include "base/text.h"
 #include "library/cd_data.h"
+#include "library/disc_print.h"
 #include "library/html_export.h"
-#include "library/print_record.h"
 #include "library/upward.h"
 #include "platform/ports/dialogs.h"
 #include "platform/ports/processes.h"

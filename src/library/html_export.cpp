@@ -6,8 +6,8 @@
 
 #include "base/code_page.h"
 #include "base/text.h"
+#include "library/disc_facts.h"
 #include "library/list_text.h"
-#include "library/record_rows.h"
 #include "platform/ports/dialogs.h"
 #include "platform/ports/files.h"
 #include "state/data_folder.h"
@@ -75,7 +75,7 @@ std::string HtmlExport::page(const DiscState& disc) const {
 
 std::string HtmlExport::facts(const DiscState& disc) const {
   std::string text = openTable();
-  for (const RecordRow& row : recordRows(form_, disc)) {
+  for (const DiscFact& row : discFacts(form_, disc)) {
     if (!row.always && trim(row.value).empty()) continue;
     const bool link = row.caption == "ARTIST WEB SITE:";
     text += cell("44%", row.caption);

@@ -3,10 +3,10 @@
 
 #include "library/cd_data.h"
 #include "library/cd_info.h"
+#include "library/disc_print.h"
 #include "library/genres.h"
 #include "library/html_export.h"
 #include "library/playlist.h"
-#include "library/print_record.h"
 #include "playback/playback.h"
 
 namespace orvanta {
@@ -30,7 +30,7 @@ struct Library {
 
   Genres genres;
   HtmlExport html;
-  RecordPrint print;
+  DiscPrint print;
   CdData cdData;
   Playlist playlist;
   CdInfo info;

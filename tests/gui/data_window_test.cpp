@@ -294,7 +294,7 @@ TEST(DataWindow, PrintsIntoAPdf) {
   rig.editor.List2.set(1, "2:\tWords of the second");
   const QString path = QDir::temp().filePath(QStringLiteral("orvanta-print-test.pdf"));
   PdfPrinter printer(rig.gate, path);
-  RecordPrint(printer, rig.editor).run(rig.core.state.disc);
+  DiscPrint(printer, rig.editor).run(rig.core.state.disc);
   QProcess text;
   text.start(QStringLiteral("pdftotext"), {QStringLiteral("-layout"), path, QStringLiteral("-")});
   if (!text.waitForStarted()) GTEST_SKIP() << "no pdftotext";

@@ -1,9 +1,9 @@
 // Print columns, with pages left to the printer.
-#include "library/print_record.h"
+#include "library/disc_print.h"
 
 #include "base/text.h"
+#include "library/disc_facts.h"
 #include "library/list_text.h"
-#include "library/record_rows.h"
 #include "platform/ports/printer.h"
 
 namespace orvanta {
@@ -21,7 +21,7 @@ constexpr size_t kSlice = 100;
 
 }  // namespace
 
-void RecordPrint::run(const DiscState& disc) {
+void DiscPrint::run(const DiscState& disc) {
   if (!printer_.ask()) return;
   head(disc);
   facts(disc);
@@ -31,19 +31,19 @@ void RecordPrint::run(const DiscState& disc) {
   printer_.endDocument();
 }
 
-void RecordPrint::line(int column, const std::string& text) {
+void DiscPrint::line(int column, const std::string& text) {
   printer_.print(column, text);
   printer_.newLine();
 }
 
-void RecordPrint::pair(int first, const std::string& caption, int second, const std::string& value) {
+void DiscPrint::pair(int first, const std::string& caption, int second, const std::string& value) {
   printer_.print(first, caption);
   line(second, value);
 }
 
-void RecordPrint::spacer() { line(1, "   "); }
+void DiscPrint::spacer() { line(1, "   "); }
 
-void RecordPrint::head(const DiscState& disc) {
+void DiscPrint::head(const DiscState& disc) {
   printer_.newLine();
   printer_.setFont(kFont, kPoints, true);
   printer_.newLine();
@@ -54,13 +54,13 @@ void RecordPrint::head(const DiscState& disc) {
   spacer();
 }
 
-void RecordPrint::facts(const DiscState& disc) {
-  for (const RecordRow& row : recordRows(form_, disc)) {
+void DiscPrint::facts(const DiscState& disc) {
+  for (const DiscFact& row : discFacts(form_, disc)) {
     if (row.printed) pair(kCaption, row.paperCaption.empty() ? row.caption : row.paperCaption, kValue, row.value);
   }
 }
 
-void RecordPrint::notes() {
+void DiscPrint::notes() {
   spacer();
   line(kCaption, "LINER NOTES: ");
   for (const std::string& row : wrapWords(withoutControls(form_.Text3.caption.get()), kNotes)) line(kCaption, row);
@@ -69,7 +69,7 @@ void RecordPrint::notes() {
   pair(kCaption, "TOTAL TIME:", kTitleColumn, form_.Label13.caption);
 }
 
-void RecordPrint::tracks(const DiscState& disc) {
+void DiscPrint::tracks(const DiscState& disc) {
   spacer();
   printer_.print(kCaption, "TRACK");
   pair(kTitleColumn, "DESCRIPTION", 91, "TIME");
@@ -80,7 +80,7 @@ void RecordPrint::tracks(const DiscState& disc) {
   }
 }
 
-void RecordPrint::lyrics() {
+void DiscPrint::lyrics() {
   spacer();
   pair(kCaption, "TRACK", kTitleColumn, "TRACK LYRICS/INFO");
   for (int row = 0; row < form_.List2.count(); ++row) {

@@ -1,12 +1,12 @@
 // Order and captions of the rows are those that readers of older pages know.
-#include "library/record_rows.h"
+#include "library/disc_facts.h"
 
 #include "base/text.h"
 #include "library/list_text.h"
 
 namespace orvanta {
 
-std::vector<RecordRow> recordRows(const acdtabs& form, const DiscState& disc) {
+std::vector<DiscFact> discFacts(const acdtabs& form, const DiscState& disc) {
   const auto own = [](const forms::Label& label) { return upper(label.caption.get()); };
   return {{"ARTIST:", form.Text2.caption, true},
           {"TITLE:", form.Text4.caption, true},

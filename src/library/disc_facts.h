@@ -9,7 +9,7 @@
 
 namespace orvanta {
 
-struct RecordRow {
+struct DiscFact {
   std::string caption;
   std::string value;
   bool always = false;            ///< shown on the page without a value too
@@ -17,7 +17,7 @@ struct RecordRow {
   std::string paperCaption = {};  ///< where it differs; "" for the same
 };
 
-std::vector<RecordRow> recordRows(const acdtabs& form, const DiscState& disc);
+std::vector<DiscFact> discFacts(const acdtabs& form, const DiscState& disc);
 
 /// Lyrics of a row of List2, cut off where its number's width is taken to end.
 std::string lyricsOfRow(const forms::ListBox& list, int row);

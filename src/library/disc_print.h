@@ -8,9 +8,9 @@ namespace orvanta {
 
 class Printer;
 
-class RecordPrint {
+class DiscPrint {
  public:
-  RecordPrint(Printer& printer, const acdtabs& form) : printer_(printer), form_(form) {}
+  DiscPrint(Printer& printer, const acdtabs& form) : printer_(printer), form_(form) {}
   /// Asks for a printer and prints the window's disc; a cancel is silent.
   void run(const DiscState& disc);
 

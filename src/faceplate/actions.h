@@ -21,6 +21,9 @@ class Actions {
   /// It slid off: the key comes back up and does nothing.
   void letGo(Action action);
 
+  /// A key that stands for nothing yet gives way and clicks all the same.
+  void click() const { on_.sounds.play(Sound::Click1); }
+
   /// Whether a person would be heard now.
   bool enabled(Action action, int argument = 0) const { return actOf(action).enabled(on_, argument); }
   /// Whether a menu marks it as on.

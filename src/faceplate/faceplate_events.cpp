@@ -37,7 +37,11 @@ void FaceplateEvents::mouseDown(forms::Control* control, const forms::Mouse& mou
     return;
   }
   look_.down(*control);
-  if (const auto route = routeOf(*control)) actions_.press(route->action);
+  if (const auto route = routeOf(*control)) {
+    actions_.press(route->action);
+  } else if (control->tabStop) {
+    actions_.click();
+  }
 }
 
 /// The window is dragged only once the mouse moves, so that a click, or two, leaves it where it is.

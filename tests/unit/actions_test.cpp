@@ -80,6 +80,9 @@ TEST(Actions, MouseSpaceAndLetterGoOneRoad) {
   rig.gate.enter([&] { rig.orvanta.actions().run(Action::Stop, By::Program); });
   EXPECT_EQ(rig.device.tape, Tape{"Stop"});
   EXPECT_EQ(rig.sounds.tape, Tape{});
+  // A key whose window is still to come gives way and clicks.
+  rig.press(rig.form.Image10[0]);
+  EXPECT_EQ(rig.sounds.tape, Tape{"/data/system/click1.wav"});
 }
 
 TEST(Actions, AReleaseCountsForItsOwnPressAlone) {

@@ -30,6 +30,13 @@ void setUp(CoreRig& rig, const std::function<void(Settings&)>& change) {
   rig.processes.onStart = nullptr;
 }
 
+TEST(Setup, ABorderChangesTheWindowsSizeAtOnce) {
+  Hands rig([](Hands& fresh) { fresh.screen.twips = 12; });
+  EXPECT_EQ(rig.form.width, 9534);
+  setUp(rig, [](Settings& settings) { settings.faceplateBorder = 1; });
+  EXPECT_EQ(rig.form.width, 9552);
+}
+
 TEST(Colours, SwitchedOffInTheSetupLeaveNothingBehind) {
   const auto wear = [](Settings& settings) {
     settings.lcdCustom = 1;

@@ -9,6 +9,7 @@
 #include <QDir>
 #include <QFile>
 #include <QInputMethodEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPlainTextEdit>
@@ -23,6 +24,7 @@
 #include <QTextDocumentFragment>
 #include <QTimer>
 #include <QTreeWidget>
+#include <QWheelEvent>
 
 #include "platform/forms/design.h"
 #include "platform/qt/data_window.h"
@@ -336,19 +338,33 @@ TEST(DataWindow, TicksAndSecretsAreTheFormsToShow) {
   EXPECT_TRUE(rig.widget<QPlainTextEdit>(form.linernote2).isReadOnly());
 }
 
-/// A window of other names.
-struct Sheet : forms::Form {
-  Sheet() : Form("Sheet") {}
+/// A window of other names: a page with a tab of its own, a field that the form has the last word in, one of each other kind.
+struct Sheet : forms::Form, forms::FormEvents {
+  Sheet() : Form("Sheet") { setEvents(this); }
+  forms::Panel page{*this, "page"};
+  forms::Button tab{*this, "tab"};
   forms::Bar progress{*this, "progress"};
+  forms::Label letter{*this, "letter"};
   forms::TextBox word{*this, "word"};
+  forms::Combo choice{*this, "choice"};
   forms::ListBox lines{*this, "lines"};
+  std::string pressed;
+
+  void mouseDown(forms::Control* control, const forms::Mouse& /*mouse*/) override { pressed = control->name(); }
+  void edited(forms::Control& control) override {
+    if (&control == &word) word.caption = "kept";
+  }
 
  protected:
   std::span<const forms::GridRow> grid() const override {
     static constexpr forms::GridRow kRows[] = {{"Sheet", forms::kNoIndex, "", {0, 0, 3000, 4500}, "Sheet", ""},
-                                               {"progress", forms::kNoIndex, "Sheet", {0, 0, 1, 1}, "", "Progress"},
-                                               {"word", forms::kNoIndex, "Sheet", {1, 0, 1, 1}, "", "Word", true},
-                                               {"lines", forms::kNoIndex, "Sheet", {2, 0, 1, 1}, "", "Lines", true}};
+                                               {"page", forms::kNoIndex, "Sheet", {1, 0, 1, 2}, "", ""},
+                                               {"tab", forms::kNoIndex, "Sheet", {0, 0, 1, 1}, "Page", "", true, true, "", "tab"},
+                                               {"progress", forms::kNoIndex, "page", {0, 0, 1, 1}, "", "Progress"},
+                                               {"letter", forms::kNoIndex, "Sheet", {2, 0, 1, 1}, "&Word:", "", false, true, "", "buddy"},
+                                               {"word", forms::kNoIndex, "Sheet", {2, 1, 1, 1}, "", "Word", true},
+                                               {"choice", forms::kNoIndex, "Sheet", {3, 0, 1, 2}, "", "Choice", true},
+                                               {"lines", forms::kNoIndex, "Sheet", {4, 0, 1, 2}, "", "Lines", true}};
     return kRows;
   }
 };
@@ -357,21 +373,53 @@ TEST(DataWindow, ServesAnyForm) {
   Windows rig;
   Sheet sheet;
   sheet.show(rig.qtDesktop);
+  const QPointer<DataWindow> window = &Windows::of(sheet);
   auto& bar = rig.widget<QProgressBar>(sheet.progress);
   sheet.progress.floodPercent = 40;
   EXPECT_EQ(bar.value(), 40);
   EXPECT_FALSE(bar.isTextVisible());
   sheet.progress.caption = "Reading";
   EXPECT_EQ(bar.text(), "Reading");
+  EXPECT_TRUE(bar.isVisible());
+  sheet.page.left = sheet.width + 1;
+  EXPECT_FALSE(bar.isVisible()) << "a page that lies beside the form";
+  auto& tab = rig.widget<QPushButton>(sheet.tab);
+  QTest::mouseClick(&tab, Qt::LeftButton);
+  EXPECT_EQ(sheet.pressed, "tab");
+  EXPECT_FALSE(tab.isChecked()) << "the form left it as it was";
+
+  auto& word = rig.widget<QLineEdit>(sheet.word);
+  EXPECT_EQ(rig.widget<QLabel>(sheet.letter).buddy(), &word);
   sheet.word.caption = "as it is";
   sheet.setFocus(sheet.lines);
   sheet.setFocus(sheet.word);
-  EXPECT_EQ(rig.widget<QLineEdit>(sheet.word).selectedText(), "as it is");
+  EXPECT_EQ(word.selectedText(), "as it is");
+  sheet.word.selectAll();
+  QTest::keyClick(&word, Qt::Key_X);
+  EXPECT_EQ(word.text(), "kept");
+  EXPECT_FALSE(sheet.word.allSelected);
+
+  auto& choice = rig.widget<QComboBox>(sheet.choice);
+  sheet.choice.caption = "my own";
+  sheet.choice.setItems({"one", "two"});
+  QWheelEvent wheel(QPointF(5, 5), choice.mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase,
+                    false);
+  QApplication::sendEvent(&choice, &wheel);
+  EXPECT_EQ(choice.currentText(), "my own") << "through new items, and under a wheel that passes";
+
   for (const char* line : {"1:\tone", "2:\ttwo"}) sheet.lines.add(line);
   sheet.lines.setListIndex(1);
   auto& lines = rig.widget<QTreeWidget>(sheet.lines);
   ASSERT_EQ(lines.topLevelItemCount(), 2);
   EXPECT_TRUE(lines.topLevelItem(1)->isSelected() && lines.topLevelItem(1)->text(1) == "two");
+  QTest::mousePress(lines.viewport(), Qt::LeftButton, {}, lines.visualItemRect(lines.topLevelItem(0)).center());
+  EXPECT_EQ(sheet.pressed, "lines");
+
+  sheet.Form::unload();
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  EXPECT_TRUE(window.isNull());
+  sheet.Form::load(rig.qtDesktop);
+  EXPECT_EQ(formAsText(sheet).find("40%"), std::string::npos) << "a window that is loaded anew begins anew";
 }
 
 }  // namespace

@@ -50,6 +50,7 @@ TEST(CddbFaults, TakesWhatServersMakeOfTheirLines) {
   for (const auto& each : cases) {
     Cddb rig;
     each.change(rig.net.script);
+    rig.net.piece = 65536;
     rig.begin();
     rig.clock.advance(5000);
     const std::string header = rig.form.Label12.caption;
@@ -75,6 +76,21 @@ TEST(CddbFaults, ShowsWhatAPersonMustChooseFrom) {
   rig.clock.advance(1000);
   EXPECT_EQ(rig.form.Label12.caption.get(), "Some Artist - Some Title");
   EXPECT_TRUE(ended(rig));
+}
+
+TEST(CddbFaults, LeavesNothingOfAProtocolWhoseServersAreKnown) {
+  Cddb rig;
+  rig.store.autoConnect = false;
+  rig.begin();
+  rig.files.remove("/data/datacd/srvhttp.txt");
+  rig.clock.advance(500);
+  rig.press(rig.form.Image10[1]);
+  rig.press(rig.editor.Command11);
+  rig.press(rig.cddb.CommandT[1]);
+  rig.press(rig.cddb.Option2[0]);
+  EXPECT_EQ(rig.cddb.Combo1.caption.get() + rig.cddb.Text4.caption.get(), "") << "no server of the other road";
+  rig.press(rig.cddb.Option2[1]);
+  EXPECT_EQ(rig.cddb.Combo1.caption.get() + rig.cddb.Text4.caption.get(), "Site8880");
 }
 
 TEST(CddbFaults, LetsTheExitGoAmidALookup) {

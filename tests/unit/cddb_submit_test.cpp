@@ -117,10 +117,12 @@ TEST(CddbSubmit, MailsWhatWasTypedAndSaysThatItWent) {
 }
 
 TEST(CddbSubmit, TellsWhyAMailDidNotGo) {
+  std::string flood;
+  while (flood.size() < size_t{5} << 20) flood += "100 " + std::string(4000, 'x') + "\r\n";
   const struct {
     const char* what;
     size_t state;  ///< in which the server answers otherwise
-    const char* answer;
+    std::string answer;
     bool closes;
     std::string box;
     std::string status;
@@ -135,6 +137,7 @@ TEST(CddbSubmit, TellsWhyAMailDidNotGo) {
       {"data", 4, "250 not now\r\n", false, "", "Not sent. 250 not now", true},
       {"the record", 5, "550 \x1b[1mspam\r\n", false, "Orvanta: Email to CDDB Failed!\n\n550  [1mspam", "550  [1mspam", false},
       {"the record, for now", 5, "451 try again\r\n", false, "", "Not sent. 451 try again", true},
+      {"a flood of lines", 0, flood, false, "", "Not sent. " + flood.substr(0, 500), false},
       {"closed", 3, "", true, "", "Not sent. mail: the connection was closed", false},
   };
   for (const auto& each : cases) {
@@ -144,6 +147,7 @@ TEST(CddbSubmit, TellsWhyAMailDidNotGo) {
     server[each.state].answered = each.answer;
     server[each.state].closes = each.closes;
     rig.serve(server);
+    rig.net.piece = 65536;
     rig.submit();
     EXPECT_EQ(rig.dialogs.tape, each.box.empty() ? Tape{} : Tape{each.box}) << each.what;
     EXPECT_EQ(rig.status(), each.status) << each.what;

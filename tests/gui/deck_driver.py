@@ -248,14 +248,23 @@ class Deck:
             xdotool("key", "--delay", delay, *keys)
 
     def place(self, name, title=FACEPLATE, across=0.5, down=0.5):
-        """On the screen; None for a control that does not show."""
+        """On the screen; None for a control that does not show, or lies under another window."""
         if not self.lit(name, title):
             return None
         try:
             area = self.control(name, title).get_component_iface().get_extents(Atspi.CoordType.SCREEN)
         except GLib.Error:
             return None
-        return round(area.x + area.width * across), round(area.y + area.height * down)
+        x, y = round(area.x + area.width * across), round(area.y + area.height * down)
+        return None if self.covered(x, y, title) else (x, y)
+
+    def covered(self, x, y, title):
+        """Another window of the deck lies there, or may: nobody presses what they do not see."""
+        try:
+            areas = [node.get_component_iface().get_extents(Atspi.CoordType.SCREEN) for name, node in self.windows() if not name.startswith(title)]
+        except GLib.Error:
+            return True
+        return any(area.x <= x < area.x + area.width and area.y <= y < area.y + area.height for area in areas)
 
     def click(self, name, title=FACEPLATE, button=1, times=1, **where):
         place = self.place(name, title, **where)

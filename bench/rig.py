@@ -34,8 +34,17 @@ def switches(pid):
     return sum(int(line.split()[1]) for task in tasks(pid) for line in text_of(task + "status").splitlines() if "ctxt_switches" in line)
 
 
+def memory(pid, kind):
+    return next(int(line.split()[1]) / 1024 for line in text_of(f"/proc/{pid}/smaps_rollup").splitlines() if line.startswith(kind))
+
+
 def pss(pid):
-    return next(int(line.split()[1]) / 1024 for line in text_of(f"/proc/{pid}/smaps_rollup").splitlines() if line.startswith("Pss:"))
+    """Of what processes share each has its part."""
+    return memory(pid, "Pss:")
+
+
+def own(pid):
+    return memory(pid, "Private_Dirty:")
 
 
 def mapped_files(pid):
@@ -73,8 +82,18 @@ class Rig:
             env=dict(self.env, XDG_RUNTIME_DIR=folder, XDG_CONFIG_HOME=folder, HOME=folder), stderr=subprocess.DEVNULL))
         while subprocess.run(["pactl", "info"], env=self.env, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, check=False).returncode != 0:
             time.sleep(.05)
-        home = self.home_of("deck")
-        subprocess.check_call([programs + "/lxinit", home["XDG_DATA_HOME"] + "/orvanta", self.drive], env=home)
+        self.programs = programs
+        self.set_up(self.home_of("deck"), self.drive)
+
+    def set_up(self, home, drive):
+        subprocess.check_call([self.programs + "/lxinit", home["XDG_DATA_HOME"] + "/orvanta", drive], env=home)
+
+    def another_drive(self, name):
+        drive = self.drive + name
+        os.makedirs(drive)
+        for file in ("disc.bin", "disc.cue"):
+            os.link(f"{self.drive}/{file}", f"{drive}/{file}")
+        return drive
 
     def home_of(self, name):
         home = f"{self.folder}/{name}"

@@ -24,6 +24,7 @@ struct Playback {
   /// From the faceplate's load on.
   void start() {
     ticks.start();
+    status.watch([this](const DeckStatus&) { ticks.wake(); });
     watch.start();
   }
 

@@ -33,6 +33,19 @@ void Ticks::start() {
 void Ticks::timer2_timer() {
   tick();
   upward_.afterTick();
+  restIfQuiet();
+}
+
+void Ticks::wake() {
+  quiet_ = 0;
+  if (timer2_ != nullptr && timer2_->interval() == kRestInterval) timer2_->setInterval(kTimer2Interval);
+}
+
+/// A deck that makes no sound has little to look at: waking for it is all that it costs then. A timer that is off stays so.
+void Ticks::restIfQuiet() {
+  constexpr int kQuiet = 30;
+  quiet_ = engine_.heard() == DeckState::Playing || state_.transport.scanCount != 0 ? 0 : std::min(quiet_ + 1, kQuiet);
+  if (quiet_ == kQuiet && timer2_->interval() == kTimer2Interval) timer2_->setInterval(kRestInterval);
 }
 
 void Ticks::tick() {

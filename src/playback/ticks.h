@@ -20,11 +20,15 @@ class Ticks {
   /// From the faceplate's load on.
   void start();
   void timer2_timer();
+  /// Something has changed: at the full pace again.
+  void wake();
 
   static constexpr int kTimer2Interval = 100;  ///< milliseconds
+  static constexpr int kRestInterval = 300;
 
  private:
   void tick();
+  void restIfQuiet();
   void scanStep();
   void startOfNewTrack();
   void autoStart();
@@ -41,6 +45,7 @@ class Ticks {
   SharedState& state_;
   PlaybackUpward& upward_;
   std::unique_ptr<Timer> timer2_;
+  int quiet_ = 0;  ///< ticks in a row without sound
 };
 
 }  // namespace orvanta

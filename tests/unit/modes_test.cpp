@@ -118,5 +118,30 @@ TEST(RandomWalk, HoldsWhatAlwaysHolds) {
   }
 }
 
+TEST(Ticks, ASilentDeckWakesSeldomUntilSomethingChanges) {
+  PlayRig rig;
+  // Looks at the tray's answers, one each tenth of a second.
+  const auto looks = [&](int tenths) {
+    int count = 0;
+    for (int i = 0; i < tenths; ++i) {
+      rig.player.answer = {TrayOffer::Answer::Notice, ""};
+      rig.clock.advance(100);
+      if (rig.player.answer.answer == TrayOffer::Answer::None) ++count;
+    }
+    rig.player.answer = {};
+    return count;
+  };
+  for (const char* keys : {"", "D", "F", "DG"}) {
+    rig.keys(keys);
+    EXPECT_EQ(looks(20), 20) << keys << ": at once at the full pace";
+    rig.clock.advance(5000);
+    const int later = looks(100);
+    EXPECT_TRUE(std::string_view(keys) == "D" ? later == 100 : later <= 45) << keys << ": " << later;
+    if (std::string_view(keys) == "F") continue;  // a paused deck refuses Repeat
+    rig.key('R');
+    EXPECT_GE(looks(10), 9) << keys << ": not by sound alone";
+  }
+}
+
 }  // namespace
 }  // namespace orvanta::test

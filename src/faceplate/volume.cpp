@@ -205,7 +205,12 @@ void Volume::Image2_MouseUp(size_t index) {
     volume.leftRaw = volume.muteLeft;
   }
   // Failures of mute are not told; a slider that cannot be moved tells soon enough.
-  if (volume.volBlocked == 0) aux_.setVolume(volume.auxDeviceId, packedVolume(volume.leftRaw, volume.rightRaw));
+  if (volume.volBlocked != 0) return;
+  if (mute) {
+    aux_.mute(volume.auxDeviceId);
+  } else {
+    aux_.setVolume(volume.auxDeviceId, packedVolume(volume.leftRaw, volume.rightRaw));
+  }
 }
 
 void Volume::releaseMute() {

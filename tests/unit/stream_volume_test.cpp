@@ -56,6 +56,20 @@ TEST(StreamVolume, AProcessThatReadsNextFindsIt) {
   EXPECT_EQ(rig.files.read("/data/level.dat"), "9 0\n");
 }
 
+/// A deck that is killed while it is muted is heard again at its next start.
+TEST(StreamVolume, AMuteIsNotKept) {
+  VolumeRig rig;
+  rig.volume.setVolume(0, 7);
+  EXPECT_EQ(rig.volume.mute(0), 0);
+  EXPECT_NE(rig.volume.mute(1), 0);
+  rig.clock.advance(5000);
+  EXPECT_EQ(rig.volume.volume(0).volume, 0U);
+  EXPECT_EQ(rig.files.read("/data/level.dat"), "7 0\n");
+  rig.volume.setVolume(0, 0);
+  rig.volume.keep();
+  EXPECT_EQ(rig.files.read("/data/level.dat"), "0 0\n") << "sliders at the bottom are";
+}
+
 TEST(StreamVolume, ReadsWhatItWroteAndNothingElse) {
   constexpr auto kNone = std::optional<uint32_t>{};
   const std::pair<const char*, std::optional<uint32_t>> cases[] = {{"0 0\n", 0U},         {"65535 65535\n", 0xFFFFFFFFU},

@@ -26,6 +26,8 @@ class AuxVolume {
   virtual int setVolume(int device, uint32_t volume) = 0;
   /// A level outlives the process; it is written down a moment after it was set. Now, for a process that reads it next.
   virtual void keep() {}
+  /// Silence that will be lifted again: the level before it is the one that is kept. As setVolume(device, 0) else.
+  virtual int mute(int device) { return setVolume(device, 0); }
 };
 
 }  // namespace orvanta

@@ -44,6 +44,7 @@ StreamVolume::StreamVolume(Level& level, Files& files, Clock& clock, std::string
       path_(std::move(path)),
       changed_(std::move(changed)),
       volume_(keptLevel(files, path_)),
+      lasting_(volume_),
       kept_(volume_),
       timer_(clock.makeTimer([this] { keep(); })) {
   setLevel(level_, volume_);
@@ -55,7 +56,7 @@ AuxReading StreamVolume::volume(int device) const { return device == 0 ? AuxRead
 
 int StreamVolume::setVolume(int device, uint32_t volume) {
   if (device != 0) return kNoSuchDevice;
-  volume_ = volume;
+  volume_ = lasting_ = volume;
   setLevel(level_, volume);
   changed_();
   // The second begins anew with each change: a slider that moves writes nothing.
@@ -64,13 +65,20 @@ int StreamVolume::setVolume(int device, uint32_t volume) {
   return 0;
 }
 
+int StreamVolume::mute(int device) {
+  if (device != 0) return kNoSuchDevice;
+  volume_ = 0;
+  setLevel(level_, 0);
+  return 0;
+}
+
 /// A disk that is full keeps the level of before; the next change tries again.
 void StreamVolume::keep() {
   timer_->setInterval(0);
-  if (path_.empty() || volume_ == kept_) return;
-  const std::string line = std::to_string(volume_ & 0xFFFFU) + " " + std::to_string(volume_ >> 16U) + "\n";
+  if (path_.empty() || lasting_ == kept_) return;
+  const std::string line = std::to_string(lasting_ & 0xFFFFU) + " " + std::to_string(lasting_ >> 16U) + "\n";
   if (files_.write(path_, line)) {
-    kept_ = volume_;
+    kept_ = lasting_;
   } else if (logs("sound")) {
     logLine("sound", path_ + " cannot be written");
   }

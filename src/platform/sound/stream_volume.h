@@ -34,6 +34,7 @@ class StreamVolume : public AuxVolume {
   AuxCaps caps(int device) const override;
   AuxReading volume(int device) const override;
   int setVolume(int device, uint32_t volume) override;
+  int mute(int device) override;
   void keep() override;
 
  private:
@@ -41,8 +42,9 @@ class StreamVolume : public AuxVolume {
   Files& files_;
   std::string path_;
   std::function<void()> changed_;
-  uint32_t volume_;
-  uint32_t kept_;  ///< as in the file
+  uint32_t volume_;   ///< as heard
+  uint32_t lasting_;  ///< the same, or what a mute will be lifted to
+  uint32_t kept_;     ///< as in the file
   std::unique_ptr<Timer> timer_;
 };
 

@@ -1,6 +1,7 @@
 // What is known of other programs, and what becomes of those that are started.
 #include <gtest/gtest.h>
 #include <sys/wait.h>
+#include <unistd.h>
 
 #include <cstdlib>
 
@@ -49,11 +50,15 @@ TEST(HostProcesses, AreWatchedAndLeaveNoZombie) {
   EXPECT_EQ(::waitpid(-1, nullptr, WNOHANG), -1) << "all were taken note of";
 }
 
-TEST(HostProcesses, GetTheEnvironmentOfTheStart) {
+TEST(HostProcesses, GetTheEnvironmentOfTheStartAndNoFile) {
   ::setenv("ORVANTA_BEFORE", "1", 1);
   HostProcesses processes;
   ::setenv("ORVANTA_AFTER", "1", 1);
   EXPECT_EQ(processes.runAndWait({{"sh", "-c", "test \"$ORVANTA_BEFORE$ORVANTA_AFTER\" = 1"}, "", WindowStyle::Normal}), 0);
+  const int mine = ::dup(STDOUT_FILENO);
+  EXPECT_EQ(processes.runAndWait({{"sh", "-c", "test ! -e /proc/$$/fd/" + std::to_string(mine)}, "", WindowStyle::Normal}), 0)
+      << "files of the deck are not the child's";
+  ::close(mine);
   ::unsetenv("ORVANTA_BEFORE");
   ::unsetenv("ORVANTA_AFTER");
 }

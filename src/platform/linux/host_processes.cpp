@@ -34,7 +34,9 @@ std::vector<char*> pointersTo(const std::vector<std::string>& texts) {
 }
 
 /// With no signal held back: this program waits for some of its own in another way. 0 when it cannot be started.
-pid_t spawn(const std::vector<std::string>& arguments, const posix_spawn_file_actions_t& actions, char** environment) {
+pid_t spawn(const std::vector<std::string>& arguments, posix_spawn_file_actions_t& actions, char** environment) {
+  // Libraries open files too, and not all of them close theirs here.
+  posix_spawn_file_actions_addclosefrom_np(&actions, STDERR_FILENO + 1);
   posix_spawnattr_t attributes;
   posix_spawnattr_init(&attributes);
   sigset_t none;

@@ -11,6 +11,7 @@
 #include "app/second_start.h"
 #include "base/text.h"
 #include "platform/linux/host_files.h"
+#include "platform/linux/host_processes.h"
 #include "platform/linux/host_system.h"
 #include "platform/linux/local_socket.h"
 #include "settings_window.h"
@@ -45,12 +46,20 @@ class Setup {
     for (const auto file : kFamily) done = done && writeSettings(file, files_, folder, settings_);
     if (!other_)
       done = done && files_.makeFolder(system_.systemDir()) && writeSettings(SettingsFile::Orvwin, files_, system_.systemDir(), settings_);
+    done = done && (other_ || fill());
     if (done) ask(socketPath("deck", identityOf(HostFiles::actual(folder))), kSettingsChanged, kReply);
     return done;
   }
   std::string reason() const { return files_.reason(); }
 
  private:
+  /// What a data folder needs besides its settings: tray, sounds, lists of servers. What is there is left alone.
+  bool fill() const {
+    HostProcesses processes;
+    return processes.runAndWait(
+               {{joinPath(system_.windowsDir(), "lxinit"), settings_.appDir, settings_.cdProbePath}, "", WindowStyle::Normal}) == 0;
+  }
+
   static constexpr int kReply = 1000;  ///< milliseconds
 
   /// Read plainly: the display colours that the deck works out of them are not to be written back.

@@ -28,6 +28,9 @@ void Links::restartWhenFree() {
   restartLater_ = clock_.makeTimer([this] {
     if (restartWaits()) return;
     restartLater_->setInterval(0);
+    // What plays would be handed on to be played to its end, by a drive that no deck has any more.
+    core_.state.process.playNext = core_.state.transport.playingFlag == kOn;
+    core_.playback_.engine.stopKey();
     restartForDisc();
   });
   restartLater_->setInterval(kLook);
@@ -58,6 +61,7 @@ void Links::exitIfWanted() {
 }
 
 void Links::afterTick() {
+  core_.library_.cdData.keepDraft();
   core_.playback_.status.tell();
   exitIfWanted();
 }

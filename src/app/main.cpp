@@ -151,6 +151,7 @@ struct Deck {
         device(*drive.player, clock),
         tray(*drive.player, drive.real ? "" : drive.path),
         volume(drive.player->level(), host.files, clock, host.inData(DataFile::Level), [&drive] { drive.player->relevel(); }),
+        drivePath(drive.path),
         deckSound(makeSound(options.audio == "default" ? options.audio : "null")),
         ports{device, tray, clock, dialogs, host.files, host.processes, screen, host.system, volume, mixer, sounds, printer, net, desktop},
         orvanta(std::make_unique<Orvanta>(ports)) {
@@ -169,6 +170,7 @@ struct Deck {
   MciDevice device;
   DriveTray tray;
   StreamVolume volume;
+  std::string drivePath;
   std::unique_ptr<MasterVolume> master = systemMasterVolume();
   MixerStandIn mixer{*master};
   SoundSetup deckSound;
@@ -180,7 +182,9 @@ struct Deck {
 /// What second starts and the setup program ask of this deck.
 void serve(SocketServer& server, Deck& deck) {
   while (const auto request = server.next()) {
-    const auto start = secondStartOf(request->line);
+    auto start = secondStartOf(request->line);
+    // One drive by two names is one drive.
+    if (start && identityOf(start->drive) == identityOf(deck.drivePath)) start->drive.clear();
     SocketServer::reply(*request, start || request->line == kSettingsChanged ? "ok" : "no");
     deck.gate.enter([&] {
       if (start) deck.orvanta->secondStart(*start);

@@ -65,9 +65,9 @@ Options readOptions(const std::vector<std::string>& arguments, const std::string
     }
   }
   for (; i < arguments.size(); ++i) options.host.words += (options.host.words.empty() ? "" : " ") + arguments[i];
-  // A program is run in its own folder: a path that starts here must not be looked for there.
+  // A program is run in its own folder: what lies here must not be looked for there, nor where programs usually are.
   const std::string& words = options.host.words;
-  if (words.find('/') != std::string::npos && classify(words).kind == CommandLine::Kind::Program) {
+  if (classify(words).kind == CommandLine::Kind::Program) {
     options.host.words = absolute(words, currentFolder);
   }
   return options;

@@ -60,13 +60,18 @@ void Orvanta::secondStart(const SecondStart& start) {
   if (!start.drive.empty() && start.drive != state.settings.cdProbePath) {
     // A process has one drive: the next one has the other.
     ports_.system.changeDrive(start.drive, start.disc);
+    state.process.nextWords = start.words;
     links_.restartWhenFree();
     return;
   }
   if (!start.disc.empty()) ports_.tray.offer(start.disc);
   if (start.words.empty()) return;
+  if (!start.disc.empty() || !state.disc.in()) {
+    state.process.nextWords = start.words;
+    return;
+  }
   life_.startUp.takeWord(start.words);
-  if (state.disc.in() && leadingNumber(state.process.commandWord) > 0) faceplate_.load.playTrackOfCommandLine();
+  if (leadingNumber(state.process.commandWord) > 0) faceplate_.load.playTrackOfCommandLine();
 }
 
 void Orvanta::takeUpSettings() { life_.setup.takeUp(); }

@@ -13,6 +13,14 @@
 
 namespace orvanta {
 
+/// What this process was told to do and had no disc for.
+std::string Restart::wordsForNext() const {
+  const ProcessState& process = state_.process;
+  if (!process.nextWords.empty()) return process.nextWords;
+  const bool track = leadingNumber(process.commandWord) > 0;
+  return track ? "Track" + process.commandWord + ".cda" : process.commandWord;
+}
+
 void Restart::forDisc(const std::function<void()>& meanwhile) {
   const std::string& folder = state_.settings.appDir;
   const DataFolder data(ports_.files, folder);
@@ -22,7 +30,12 @@ void Restart::forDisc(const std::function<void()>& meanwhile) {
   data.mark(DataFile::HandOver);
   ProcessRequest request{{ports_.system.companion("orvanlx")}, folder, WindowStyle::Normal};
   for (const std::string& argument : ports_.system.handedOn()) request.arguments.push_back(argument);
-  if (state_.process.playNext) request.arguments.emplace_back("--play");
+  const std::string words = wordsForNext();
+  if (!words.empty()) {
+    request.arguments.push_back(words);
+  } else if (state_.process.playNext) {
+    request.arguments.emplace_back("--play");
+  }
   const Processes::Id started = ports_.processes.start(request);
   while (started != 0 && data.marked(DataFile::HandOver)) {
     if (!ports_.processes.running(started)) return;

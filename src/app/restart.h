@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <string>
 
 #include "app/ports.h"
 #include "faceplate/volume.h"
@@ -19,6 +20,8 @@ class Restart {
   void forDisc(const std::function<void()>& meanwhile = {});
 
  private:
+  std::string wordsForNext() const;
+
   LifePorts ports_;
   Volume& volume_;
   SharedState& state_;

@@ -45,7 +45,8 @@ class CdData : public forms::FormEvents {
   bool openForPerson() const { return form_.loaded() && visit_.byPerson; }
   /// Before an exit by the user: asks where something was typed. True when nothing, or nothing of worth, would be lost.
   bool mayBeLost();
-  /// At an end that cannot wait: what was typed is kept beside the disc's files, and offered when the window opens next.
+  /// What was typed since the last time is kept in the data folder, and offered when the disc's window opens next, unless
+  /// OK or Cancel was pressed before: for an end that cannot wait, or does not tell.
   void keepDraft();
   /// The track that plays stands out.
   void markPlaying();
@@ -85,6 +86,8 @@ class CdData : public forms::FormEvents {
     bool tookPlace = false;  ///< the faceplate is hidden for it
     bool fresh = true;       ///< loaded, and not yet activated
     bool changed = false;    ///< by a person since the load
+    bool draftDue = false;   ///< changed since the draft was kept
+    bool draftLeft = false;  ///< an earlier draft lies there still, not taken up
     int16_t tab = MusicInfo;
     bool listMouseDown = false;  ///< the next focus of an input box leaves its text unselected
   };
@@ -122,7 +125,9 @@ class CdData : public forms::FormEvents {
   void askCaptions();
   void submit();
   void close();
-  bool askLoseChanges();
+  void startLibrary();
+  bool ask(const std::string& question);
+  void changedByPerson() { visit_.changed = visit_.draftDue = true; }
 
   // Saving.
   int16_t correction() const;
@@ -134,6 +139,7 @@ class CdData : public forms::FormEvents {
 
   // A draft of an earlier session.
   std::string draftPath() const;
+  Draft draft() const;
   void offerDraft();
   void takeUp(const Draft& draft);
   bool takeUpRow(const std::string& name, const std::string& text);

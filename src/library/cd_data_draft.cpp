@@ -22,22 +22,35 @@ std::string rowName(const forms::ListBox& list, int row) { return list.name() + 
 std::string CdData::draftPath() const { return DataFolder(ports_.files, state_.settings.appDir).draft(disc_.discKey); }
 
 void CdData::keepDraft() {
-  if (!openForPerson() || !visit_.changed) return;
-  takeEntry(titles_);
-  takeEntry(lyrics_);
-  Draft draft;
-  for (const forms::Control* control : form_.controls()) {
-    const bool entry = control == &form_.Text1 || control == &form_.Text8;
-    if (holdsText(*control) && (!entry || entryOf(*control).typedAnything())) draft.emplace_back(control->name(), control->caption.get());
+  if (!openForPerson() || !visit_.draftDue) return;
+  if (!ports_.files.write(draftPath(), draftBytes(draft()))) {
+    logLine("disc", draftPath() + " could not be written: " + ports_.files.reason());
+    return;
   }
-  for (int row = 0; row < form_.List1.count(); ++row) draft.emplace_back(rowName(form_.List1, row), rowTitle(form_.List1.row(row)));
-  for (int row = 0; row < form_.List2.count(); ++row) {
-    draft.emplace_back(rowName(form_.List2, row), state_.library.trackLyrics[static_cast<size_t>(row) + 1]);
-  }
-  if (!ports_.files.write(draftPath(), draftBytes(draft))) logLine("disc", draftPath() + " could not be written: " + ports_.files.reason());
+  visit_.draftDue = visit_.draftLeft = false;
 }
 
-/// Until OK or Cancel the draft stays, so that an end in between loses nothing either.
+/// The window as it would be if what stands in the entry fields were taken into its rows.
+Draft CdData::draft() const {
+  Draft draft;
+  for (const forms::Control* control : form_.controls()) {
+    const RowEntry* entry = control == &form_.Text1 ? &titles_ : control == &form_.Text8 ? &lyrics_ : nullptr;
+    const bool ofNoRow = entry != nullptr && entry->typedAnything() && !entry->waits();
+    if (holdsText(*control) && (entry == nullptr || ofNoRow)) draft.emplace_back(control->name(), control->caption.get());
+  }
+  const auto typedFor = [](const RowEntry& entry, int row) { return entry.waits() && entry.row() == row; };
+  for (int row = 0; row < form_.List1.count(); ++row) {
+    draft.emplace_back(rowName(form_.List1, row), typedFor(titles_, row) ? form_.Text1.caption.get() : rowTitle(form_.List1.row(row)));
+  }
+  for (int row = 0; row < form_.List2.count(); ++row) {
+    draft.emplace_back(rowName(form_.List2, row),
+                       typedFor(lyrics_, row) ? form_.Text8.caption.get() : state_.library.trackLyrics[static_cast<size_t>(row) + 1]);
+  }
+  return draft;
+}
+
+/// Once taken up it stays until OK or Cancel, so that an end in between loses nothing either. One that is not wanted now
+/// is asked about again, until the disc is saved or typed for.
 void CdData::offerDraft() {
   const auto bytes = ports_.files.read(draftPath());
   if (!bytes) return;
@@ -46,11 +59,8 @@ void CdData::offerDraft() {
   const bool wanted = ports_.dialogs.askYesNo(BoxStyle::Question, "Orvanta",
                                               "What was typed for this disc when the program ended was kept.\n\nGo on with it?");
   if (!form_.loaded()) return;
-  if (wanted) {
-    takeUp(draft);
-  } else {
-    ports_.files.remove(draftPath());
-  }
+  visit_.draftLeft = !wanted;
+  if (wanted) takeUp(draft);
 }
 
 void CdData::takeUp(const Draft& draft) {

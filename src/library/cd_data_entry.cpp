@@ -37,7 +37,7 @@ bool oneOf(std::span<const std::string_view> names, const std::string& name) {
 }  // namespace
 
 void CdData::edited(forms::Control& control) {
-  visit_.changed = true;
+  changedByPerson();
   if (oneOf(kInputs, control.name())) {
     entryOf(control).typed();
     return;
@@ -152,7 +152,7 @@ void CdData::takeEntry(RowEntry& entry) {
   const int row = entry.row();
   const std::string text(trim(entry.box().caption.get()));
   entry.taken();
-  state_.library.dataDirty = true;
+  state_.library.dataDirty = state_.library.astrueCancel = true;
   if (&entry == &titles_) {
     form_.List1.set(row, trackRow(disc_, row + 1, std::string(firstCharacters(withoutControls(text), kLongestTitle))));
     return;

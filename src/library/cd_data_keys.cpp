@@ -15,6 +15,7 @@ namespace {
 
 constexpr int kMostToSubmit = 100;
 constexpr int kClearedRows = 50;
+constexpr const char* kLoseChanges = "Lose Changes?";
 
 }  // namespace
 
@@ -43,7 +44,7 @@ void CdData::pressed(const std::string& name) {
   } else if (name == "Command5") {
     clear();
   } else if (name == "Command6") {
-    ports_.processes.start({{ports_.system.companion("orvlib"), "LX"}, state_.settings.appDir, WindowStyle::Normal});
+    startLibrary();
   } else if (name == "Command7") {
     on_.html.run(disc_);
   } else if (name == "Command11") {
@@ -65,9 +66,15 @@ void CdData::addGenre() {
   const auto genre = on_.genres.addGenre();
   if (!genre) return;
   state_.library.askOnCancel = state_.library.dataDirty = true;
-  visit_.changed = true;
+  changedByPerson();
   on_.genres.fillGenres(form_.cat);
   form_.cat.caption = *genre;
+}
+
+void CdData::startLibrary() {
+  const std::string program = ports_.system.companion("orvlib");
+  if (ports_.processes.start({{program, "LX"}, state_.settings.appDir, WindowStyle::Normal}) != 0) return;
+  ports_.dialogs.message(BoxStyle::Warning, "Orvanta", "The library " + program + " could not be started.");
 }
 
 void CdData::askCaptions() {
@@ -75,28 +82,28 @@ void CdData::askCaptions() {
   showUserCaptions();
 }
 
-bool CdData::askLoseChanges() {
+bool CdData::ask(const std::string& question) {
   form_.enabled = false;
-  const bool lose = ports_.dialogs.askYesNo(BoxStyle::Warning, "Orvanta", "Lose Changes?");
+  const bool yes = ports_.dialogs.askYesNo(BoxStyle::Warning, "Orvanta", question);
   form_.enabled = true;
-  return lose;
+  return yes;
 }
 
 /// By a person. What is typed for a row is taken for it; what is typed for none cannot be, and is not dropped unasked.
 void CdData::ok() {
   takeEntry(titles_);
   takeEntry(lyrics_);
-  if (entryWaits() && !askLoseChanges()) return;
+  if (entryWaits() && !ask("What was typed below the list belongs to no track.\n\nSave the rest without it?")) return;
   Command1_Click();
 }
 
 void CdData::cancel() {
-  if ((state_.library.askOnCancel || entryWaits()) && !askLoseChanges()) return;
+  if ((state_.library.askOnCancel || entryWaits()) && !ask(kLoseChanges)) return;
   state_.library.askOnCancel = false;
   close();
 }
 
-bool CdData::mayBeLost() { return !openForPerson() || !visit_.changed || askLoseChanges(); }
+bool CdData::mayBeLost() { return !openForPerson() || !visit_.changed || ask(kLoseChanges); }
 
 void CdData::clear() {
   beginFill();
@@ -117,7 +124,7 @@ void CdData::clear() {
   for (auto& field : disc_.extraInfo) field.clear();
   state_.library.trackLyrics.fill("");
   state_.library.dataDirty = state_.library.askOnCancel = true;
-  visit_.changed = true;
+  changedByPerson();
 }
 
 void CdData::submit() {

@@ -36,6 +36,7 @@ bool CdData::Command1_Click() {
   state_.disc.timeCorrection = disc_.timeCorrection;
   if (onDeck()) updateFaceplate();
   state_.library.askOnCancel = false;
+  visit_.draftLeft = false;
   close();
   return !failed.any();
 }

@@ -15,6 +15,7 @@ TrayAnswers::TrayAnswers(const PlaybackPorts& ports, Engine& engine, SharedState
 void TrayAnswers::take() {
   const TrayOffer offer = tray_.takeAnswer();
   if (offer.answer == TrayOffer::Answer::Refused || offer.answer == TrayOffer::Answer::Notice) {
+    if (offer.answer == TrayOffer::Answer::Refused) state_.process.nextWords.clear();
     refusal_ = offer.refusal;
     box_->setInterval(1);
   } else if (offer.answer == TrayOffer::Answer::Accepted) {

@@ -127,6 +127,7 @@ enum SoundMode : int16_t { kNoSliders = 0, kOwnVolume = 3, kMixerProgram = 4 };
 /// How this process was started, and where its files are.
 struct ProcessState {
   std::string commandWord;  ///< upper case; "" when none
+  std::string nextWords;    ///< of a second start, for the process of the disc that comes next
   bool autoStartMode = false;
   bool autoStartDone = false;
   bool playNext = false;     ///< a person put a disc in while another played: it is played in its turn

@@ -59,6 +59,7 @@ TEST(DataWindow, TypingReachesTheDisc) {
   rig.press(rig.core.form.Image10[1]);
   ASSERT_TRUE(rig.editor.loaded());
   EXPECT_TRUE(rig.window->isVisible()) << "the deck stays beside it";
+  const QPoint place = Windows::of(rig.editor).pos();
   auto& artist = rig.widget<QLineEdit>(rig.editor.Text2);
   QTest::keyClicks(&artist, "Artist");
   QTest::keyClick(&artist, Qt::Key_Return);
@@ -90,6 +91,9 @@ TEST(DataWindow, TypingReachesTheDisc) {
   EXPECT_EQ(rig.core.state.disc.discInfo[5], "My own");
   EXPECT_EQ(rig.core.state.disc.trackTitles[3], "Third");
   EXPECT_EQ(rig.core.state.disc.linerNotes.substr(0, 10), "eins\r\nzwei");
+  EXPECT_NE(place, QPoint());
+  rig.press(rig.core.form.Image10[1]);
+  EXPECT_EQ(Windows::of(rig.editor).pos(), place) << "beside the deck each time";
 }
 
 TEST(DataWindow, TakesWhatIsTypedAsItIs) {

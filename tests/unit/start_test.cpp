@@ -31,7 +31,7 @@ TEST(Options, StandBeforeTheWords) {
   EXPECT_EQ(options.handedOn(), (Tape{"--take-over", "--data", "/cur/here", "--audio", "file:/cur/x.wav", "--scale", "1.500000"}));
   const auto words = [](const char* word) { return readOptions({word}, "/cur").host.words; };
   EXPECT_EQ(words("bin/tool.exe") + " " + words("tool.exe") + " " + words("/opt/tool.exe") + " " + words("sub/track02.cda"),
-            "/cur/bin/tool.exe tool.exe /opt/tool.exe sub/track02.cda")
+            "/cur/bin/tool.exe /cur/tool.exe /opt/tool.exe sub/track02.cda")
       << "a program's folder is where this start was made";
   for (const char* bad : {"--what", "--scale=0", "--audio=loud", "--data"}) EXPECT_NE(readOptions({bad}, "/").error, "") << bad;
 }

@@ -149,7 +149,9 @@ bool HostFiles::makeFolder(const std::string& path) {
     error_ = ::mkdir(made.c_str(), kUserAlone) == 0 || errno == EEXIST ? 0 : errno;
   }
   std::error_code error;
-  return fs::is_directory(target, error);
+  if (fs::is_directory(target, error)) return true;
+  if (error_ == 0) error_ = ENOTDIR;
+  return false;
 }
 
 std::vector<std::string> HostFiles::list(const std::string& folder) const {

@@ -41,7 +41,7 @@ DataWindow::DataWindow(Form& form, CoreGate& gate, const Scale& scale) : road_(f
   setWindowTitle(toQt(form.caption));
   dress(*this, scale_.factor);
   build();
-  resize(scale_.pixels(form.width), scale_.pixels(form.height));
+  place();
 }
 
 void DataWindow::detach() {

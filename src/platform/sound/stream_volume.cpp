@@ -69,6 +69,7 @@ int StreamVolume::mute(int device) {
   if (device != 0) return kNoSuchDevice;
   volume_ = 0;
   setLevel(level_, 0);
+  changed_();
   return 0;
 }
 

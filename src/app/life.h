@@ -17,7 +17,7 @@ struct Life {
         exit(ports, playback.looks, faceplate.volume, faceplate.sounds, form, state),
         restart(ports, faceplate.volume, state),
         recorder(ports, playback.looks, faceplate.place, faceplate.volume, restart, form, state),
-        setup(ports, startUp, faceplate, form, state) {}
+        setup(ports, startUp, playback.display, faceplate, form, state) {}
 
   StartUp startUp;
   Keeper keeper;

@@ -12,6 +12,7 @@ namespace orvanta {
 void Links::openDrawer() {
   core_.cddb_.window.cddbcanz();
   core_.faceplate_.drawer.opendrawer();
+  core_.faceplate_.colours.prompt();
   closeTrackList();
 }
 

@@ -21,6 +21,7 @@ void SetupProgram::run() {
 
 void SetupProgram::takeUp() {
   Settings& settings = state_.settings;
+  const Display::Lit lit = display_.lit();
   for (const auto file : {SettingsFile::Orvwin1, SettingsFile::Orvwin3, SettingsFile::Orvwin4, SettingsFile::Orvwin7}) {
     readSettings(file, ports_.files, settings.appDir, settings);
   }
@@ -29,6 +30,8 @@ void SetupProgram::takeUp() {
   if (settings.smallFaceplate != kOn) faceplate_.layout.sizeLarge();
   faceplate_.volume.activate();
   if (!state_.disc.asleep()) faceplate_.colours.loadorvanta1a();
+  // What loops, pauses, is still to come or stands open goes on doing so.
+  display_.relight(lit);
 }
 
 }  // namespace orvanta

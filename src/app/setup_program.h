@@ -9,8 +9,8 @@ namespace orvanta {
 
 class SetupProgram {
  public:
-  SetupProgram(const LifePorts& ports, const StartUp& startUp, Faceplate& faceplate, CDForm& form, SharedState& state)
-      : ports_(ports), startUp_(startUp), faceplate_(faceplate), form_(form), state_(state) {}
+  SetupProgram(const LifePorts& ports, const StartUp& startUp, Display& display, Faceplate& faceplate, CDForm& form, SharedState& state)
+      : ports_(ports), startUp_(startUp), display_(display), faceplate_(faceplate), form_(form), state_(state) {}
 
   /// Waits until it has ended.
   void run();
@@ -20,6 +20,7 @@ class SetupProgram {
  private:
   LifePorts ports_;
   const StartUp& startUp_;
+  Display& display_;
   Faceplate& faceplate_;
   CDForm& form_;
   SharedState& state_;

@@ -45,6 +45,7 @@ void paintLevelBars(CDForm& form, const Settings& settings) {
 
 void DisplayColours::loadorvanta1() {
   for (auto& lamp : form_.Shape15) lamp.visible = state_.settings.showLights != 0;
+  ownFonts();
   fonts();
   legendFonts();
   panes();
@@ -53,6 +54,31 @@ void DisplayColours::loadorvanta1() {
   titleFonts();
   background();
   pictures();
+}
+
+/// What an earlier visit to the setup has chosen is taken back first.
+void DisplayColours::ownFonts() {
+  if (own_.empty()) {
+    const auto note = [this](forms::Label& label) {
+      own_.push_back({&label, label.font, label.left, label.top, label.width, label.height});
+    };
+    note(form_.Label8);
+    note(form_.Label10);
+    note(form_.Label12);
+    note(form_.Label13);
+    note(form_.Label24);
+    note(form_.Label33);
+    for (auto& label : form_.Label77) note(label);
+    for (auto& label : form_.Label78) note(label);
+  }
+  for (const Own& own : own_) own.label->font = own.font;
+  // The others' places are the layout's.
+  for (const Own& own : own_) {
+    if (own.label != &form_.Label24 && own.label != &form_.Label33) continue;
+    own.label->move(own.left, own.top);
+    own.label->width = own.width;
+    own.label->height = own.height;
+  }
 }
 
 /// Without the display's font plain digits serve, and the time key's caption goes a little up.
@@ -154,7 +180,9 @@ void DisplayColours::loadorvanta1b() {
     for (auto* line : {&form_.Line2, &form_.Line3, &form_.Line4, &form_.Line5}) line->foreColor = colour[kCustomBorderLines];
     form_.backColor = colour[kCustomMetal];
     paint({&form_.Label1, &form_.Label2, &form_.Label3, &form_.Label4, &form_.Label5}, colour[kCustomMetal]);
-    paint({&form_.Panel3D2, &form_.Panel3D6, &form_.Panel3D7, &form_.Panel3D8}, colour[kCustomDoor]);
+    paint({&form_.Panel3D6, &form_.Panel3D7, &form_.Panel3D8}, colour[kCustomDoor]);
+    // While it is open the door's place is the hole behind it.
+    if (form_.Panel3D2.bevelInner != 1) paint({&form_.Panel3D2}, colour[kCustomDoor]);
     paint({&form_.Panel3D3, &form_.SSPanel1}, colour[kCustomKeypad]);
   } else if (enough) {
     form_.backColor = kMetal;

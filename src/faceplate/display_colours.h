@@ -40,16 +40,23 @@ class DisplayColours {
   void loadorvanta1a();
   /// The look without an audio disc in the drive, with its prompt.
   void disabledLook();
+  /// How a disc gets in, or that there is no drive.
+  void prompt();
 
  private:
+  /// A label's own font and place, before the settings have their say.
+  struct Own {
+    forms::Label* label;
+    forms::Font font;
+    int left, top, width, height;
+  };
+  void ownFonts();
   void fonts();
   void legendFonts();
   void panes();
   void titleFonts();
   void background();
   void legends();
-  /// How a disc gets in, or that there is no drive.
-  void prompt();
   void pictures();
 
   Files& files_;
@@ -61,6 +68,7 @@ class DisplayColours {
   Layout& layout_;
   CDForm& form_;
   SharedState& state_;
+  std::vector<Own> own_;
 };
 
 }  // namespace orvanta

@@ -53,6 +53,7 @@ Volume::Channel Volume::channel(Side side) {
 void Volume::activate() {
   int16_t& mode = state_.settings.soundMode;
   if (mode > kNoSliders && mode < kOwnVolume) mode = kOwnVolume;
+  if (mutedBy_ != mode) releaseMute();
   if (mode == kOwnVolume && state_.volume.volBlocked == -1) cdvol();
   layout_.placeVolumePanel();
   if (mode == kOwnVolume && state_.volume.volDrag == kArea) state_.volume.volDrag = kNoDrag;
@@ -189,10 +190,12 @@ void Volume::Image2_MouseUp(size_t index) {
   const bool mute = index == 1;
   // A second mute would keep the silence in place of the level.
   if (mute == muted()) return;
+  // The sound comes back by the road that it went.
+  if (mute) mutedBy_ = state_.settings.soundMode;
   form_.Image2[1].visible = !mute;
   form_.Image2[0].visible = mute;
   paintLevelBars(form_, state_.settings);
-  if (byMixer()) {
+  if (mutedBy_ == kMixerProgram) {
     mixer_.setMute(mute);
     return;
   }
@@ -218,7 +221,11 @@ void Volume::releaseMute() {
 }
 
 void Volume::Image9_MouseUp(size_t index) {
-  if (!byMixer()) sliders_.link(index == 0);
+  if (byMixer()) {
+    sounds_.beep();
+  } else {
+    sliders_.link(index == 0);
+  }
 }
 
 // ---- the sliders
@@ -226,7 +233,10 @@ void Volume::Image9_MouseUp(size_t index) {
 bool Volume::mouseDown(const forms::Control& control, const forms::Mouse& mouse) {
   const auto side = sliders_.sideOf(control);
   if (!side) return false;
-  if (mouse.button == forms::MouseButton::Left && sliders_.press(*side, control, mouse)) moved(*side);
+  if (mouse.button != forms::MouseButton::Left) return true;
+  // From here on the arrows are its.
+  form_.setFocus(*side == SliderPair::Left ? form_.VolumeL : form_.VolumeR);
+  if (sliders_.press(*side, control, mouse)) moved(*side);
   return true;
 }
 

@@ -84,7 +84,8 @@ class Volume {
   CDForm& form_;
   SharedState& state_;
   SliderPair sliders_;
-  bool fresh_ = true;  ///< the mixer program is not prepared yet
+  int16_t mutedBy_ = 0;  ///< soundMode when mute was pressed last
+  bool fresh_ = true;    ///< the mixer program is not prepared yet
 };
 
 }  // namespace orvanta

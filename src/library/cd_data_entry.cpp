@@ -152,7 +152,7 @@ void CdData::takeEntry(RowEntry& entry) {
   const int row = entry.row();
   const std::string text(trim(entry.box().caption.get()));
   entry.taken();
-  state_.library.dataDirty = state_.library.astrueCancel = true;
+  state_.library.dataDirty = state_.library.askOnCancel = true;
   if (&entry == &titles_) {
     form_.List1.set(row, trackRow(disc_, row + 1, std::string(firstCharacters(withoutControls(text), kLongestTitle))));
     return;

@@ -4,6 +4,8 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 #include "state/shared_state.h"
 #include "windows/cdform.h"
@@ -90,6 +92,11 @@ class Display {
   void paintUser();
   /// One of the two title lines.
   void paintTitle(size_t line, Colour colour);
+  /// What is lit and what is dim now, whatever the colours for that are.
+  using Lit = std::vector<std::pair<forms::Label*, LcdColour>>;
+  Lit lit();
+  /// The same lights again, in other colours.
+  void relight(const Lit& lit);
   /// The numbers of the disc's tracks, once they are known, and whether a program is stored.
   void calendar();
   /// Without a disc: how one gets in.

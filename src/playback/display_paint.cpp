@@ -86,6 +86,28 @@ void Display::paintUser() {
 
 void Display::paintTitle(size_t line, Colour colour) { (line == 0 ? form_.Label12 : form_.Label13).foreColor = colour; }
 
+Display::Lit Display::lit() {
+  Lit all;
+  const auto note = [&](forms::Label& label, std::initializer_list<LcdColour> colours) {
+    for (const LcdColour colour : colours) {
+      if (label.foreColor != lcd(colour)) continue;
+      all.emplace_back(&label, colour);
+      return;
+    }
+  };
+  note(form_.Label14, {kLcdLit, kLcdDrawer});
+  note(form_.Label16, {kLcdLabelOff, kLcdLabelOn, kLcdLit});
+  note(form_.Label21, {kLcdLabelOn, kLcdRepeatOn, kLcdRepeatOff});
+  note(form_.Label30, {kLcdLabelOff, kLcdLabelOn, kLcdDrawer});
+  note(form_.Label43, {kLcdLit, kLcdDim});
+  for (size_t lamp = 0; lamp <= kLampCells; ++lamp) note(form_.Label22[lamp], {kLcdLit, kLcdLitInCont, kLcdDim, kLcdDrawer});
+  return all;
+}
+
+void Display::relight(const Lit& lit) {
+  for (const auto& [label, colour] : lit) label->foreColor = lcd(colour);
+}
+
 void Display::calendar() {
   const int shown = std::min<int>(state_.disc.trackCount, kLampCells);
   for (int track = 1; track <= static_cast<int>(kLampCells); ++track) {

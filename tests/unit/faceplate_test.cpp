@@ -63,6 +63,69 @@ TEST(Colours, SwitchedOffInTheSetupLeaveNothingBehind) {
   EXPECT_EQ(rig.form.Label12.foreColor, Colour{0});
 }
 
+/// A visit to the setup that changes nothing: what loops, pauses, is still to come or stands open looks as it did.
+TEST(Colours, AVisitToTheSetupLeavesEveryStateAsItIs) {
+  struct Case {
+    const char* what;
+    std::function<void(Hands&)> bring;
+  };
+  const auto keys = [](const char* all) {
+    return [all](Hands& rig) {
+      for (const char* each = all; *each != '\0'; ++each) {
+        rig.key(*each);
+        rig.clock.advance(3000);
+      }
+    };
+  };
+  const auto program = [](Hands& rig) {
+    rig.press(rig.form.Image4[0]);
+    for (const size_t track : {2U, 0U, 1U}) rig.press(rig.form.Image17[track]);
+    for (const int key : {'D', 'S'}) {
+      rig.key(key);
+      rig.clock.advance(3000);
+    }
+  };
+  const Case cases[] = {{"stopped", keys("")},
+                        {"a loop", keys("DWW")},
+                        {"one end of a loop", keys("DW")},
+                        {"paused", keys("DF")},
+                        {"repeat", keys("RD")},
+                        {"a program with tracks played", program},
+                        {"open", keys("DJ")},
+                        {"intro", [](Hands& rig) { rig.press(rig.form.Image4[3]); }}};
+  for (const Case& c : cases) {
+    for (const bool custom : {false, true}) {
+      const auto dress = [&](Hands& fresh) {
+        fresh.settings.lcdCustom = custom ? 1 : 0;
+        fresh.settings.lcdFore = 0x000000;
+        fresh.settings.lcdBack = 0x29CF95;
+      };
+      Hands rig(dress);
+      Hands twin(dress);
+      c.bring(rig);
+      c.bring(twin);
+      setUp(rig, [](Settings&) {});
+      twin.clock.advance(1200);
+      EXPECT_EQ(changes(twin.look(), rig.look()), Tape{}) << c.what << (custom ? ", custom" : "");
+    }
+  }
+  // Fonts that are switched off are gone too.
+  Hands rig;
+  const std::string before = rig.look();
+  const auto fonts = [](Settings& settings) {
+    settings.noLcdFont = 1;
+    settings.fonts[0] = {"Serif", 14, 1, 1, 1, 0x123456};
+  };
+  setUp(rig, fonts);
+  EXPECT_EQ(rig.form.Label8.font.get().family, "Arial");
+  EXPECT_EQ(rig.form.Label12.font.get().family, "Serif");
+  setUp(rig, [](Settings& settings) {
+    settings.noLcdFont = 0;
+    settings.fonts[0] = {"", 0, 0, 0, 0, 0};
+  });
+  EXPECT_EQ(changes(before, rig.look()), Tape{});
+}
+
 TEST(Colours, LegendsCanBeReadOnAnyGround) {
   for (const Colour ground : {0x332E2BU, 0x000000U, 0xFFFFFFU, 0xE0E0E0U, 0x808080U, 0x0000FFU, 0x00FFFFU, 0xFF0000U, 0xE6E1DCU}) {
     Hands rig([&](Hands& fresh) { fresh.settings.customColor = {1, ground, ground, ground, 0x60D818, 0, 0, 0, 0, 0, 0}; });

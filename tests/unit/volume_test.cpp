@@ -111,6 +111,27 @@ TEST(Volume, TheMixersKeysAreNotEnteredTwice) {
   rig.mixer.onKeys = nullptr;
   rig.up();
   EXPECT_TRUE(rig.auxVolume.written.empty()) << "the device is never touched";
+
+  const auto turnTo = [](Sliders& deck) {
+    deck.form.deactivated();
+    deck.desktop.lastShown = nullptr;
+    deck.gate.enter([&] { deck.form.activated(); });
+  };
+  // A mute comes back by the road that it went, whatever the setup has turned to meanwhile.
+  Sliders own(0x80008000);
+  own.press(own.form.Image2[1]);
+  EXPECT_EQ(own.auxVolume.reading.volume, 0U);
+  own.state.settings.soundMode = 4;
+  turnTo(own);
+  EXPECT_EQ(own.auxVolume.reading.volume, 0x80008000U);
+  EXPECT_TRUE(own.form.Image2[1].visible);
+  own.mixer.tape.clear();
+  own.press(own.form.Image2[1]);
+  own.state.settings.soundMode = 3;
+  turnTo(own);
+  EXPECT_EQ(own.mixer.tape.size(), 12U) << "there and back";
+  EXPECT_EQ(own.auxVolume.reading.volume, 0x80008000U);
+  EXPECT_EQ(own.percent(), 50);
 }
 
 struct FakeMaster : MasterVolume {

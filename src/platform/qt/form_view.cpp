@@ -25,10 +25,18 @@ using forms::Change;
 
 namespace {
 
+/// Of several files that are dragged at once the sheet, else the first; "" for none of this machine.
+std::string droppedFile(const QDropEvent& event) {
+  const auto urls = event.mimeData()->urls();
+  const auto sheet =
+      std::find_if(urls.begin(), urls.end(), [](const QUrl& url) { return url.path().endsWith(".cue", Qt::CaseInsensitive); });
+  const auto chosen = sheet != urls.end() ? sheet : urls.begin();
+  return chosen == urls.end() ? std::string() : chosen->toLocalFile().toStdString();
+}
+
 /// The file stays its owner's: a drop is never taken as a move, which would let the source delete it.
 bool takeCopy(QDropEvent& event) {
-  const auto urls = event.mimeData()->urls();
-  const bool taken = !urls.isEmpty() && urls.front().isLocalFile() && event.possibleActions().testFlag(Qt::CopyAction);
+  const bool taken = !droppedFile(event).empty() && event.possibleActions().testFlag(Qt::CopyAction);
   event.setDropAction(taken ? Qt::CopyAction : Qt::IgnoreAction);
   event.setAccepted(taken);
   return taken;
@@ -236,7 +244,7 @@ void FormWindow::dragEnterEvent(QDragEnterEvent* event) {
   dragMoveEvent(event);
   if (!event->isAccepted()) return;
   bool taken = false;
-  gate_.enter([&] { taken = form_.takesFile(event->mimeData()->urls().front().toLocalFile().toStdString()); });
+  gate_.enter([&] { taken = form_.takesFile(droppedFile(*event)); });
   rim_->setGeometry(rect());
   rim_->raise();
   rim_->setVisible(taken);
@@ -249,8 +257,7 @@ void FormWindow::dragMoveEvent(QDragMoveEvent* event) { takeCopy(*event); }
 void FormWindow::dropEvent(QDropEvent* event) {
   rim_->hide();
   if (!takeCopy(*event)) return;
-  const std::string path = event->mimeData()->urls().front().toLocalFile().toStdString();
-  gate_.enter([&] { form_.fileDropped(path); });
+  gate_.enter([&] { form_.fileDropped(droppedFile(*event)); });
 }
 
 // ---- the window

@@ -62,7 +62,6 @@ void Links::exitIfWanted() {
 }
 
 void Links::afterTick() {
-  core_.library_.cdData.keepDraft();
   core_.playback_.status.tell();
   exitIfWanted();
 }

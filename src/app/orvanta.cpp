@@ -51,7 +51,7 @@ void Orvanta::showFaceplate() {
   form.smallFonts = state.process.smallFonts;
   library_.genres.readUserCaptions();
   form.show(ports_.desktop);
-  life_.keeper.start();
+  life_.keeper.start([this] { keepDrafts(); });
 }
 
 void Orvanta::secondStart(const SecondStart& start) {

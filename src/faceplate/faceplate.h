@@ -24,8 +24,14 @@ struct Faceplate {
         keyboard(actions, entry, volume, form),
         load(ports, playback, colours, layout, volume, sounds, form, state),
         events(load, actions, keyboard, volume, layout, place, choice, title, form, state) {
-    playback.status.watch([this](const DeckStatus& now) { title.show(now); });
+    playback.status.watch([this, &form](const DeckStatus& now) {
+      title.show(now);
+      form.Image16[Repeat].engaged = now.repeat;
+      form.scntla[kAbKey].engaged = now.loop;
+    });
   }
+
+  static constexpr size_t kAbKey = 2;  ///< in the row of the scan keys
 
   WindowPlace place;
   Layout layout;

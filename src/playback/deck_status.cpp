@@ -30,6 +30,7 @@ DeckStatus StatusBoard::now() const {
   }
   status.playMode = state_.transport.playMode;
   status.repeat = state_.settings.repeatOn == kOn;
+  status.loop = state_.transport.abSetA;
   status.muted = form_.Image2[0].visible;
   status.left = 100 - state_.volume.leftAtten;
   status.right = 100 - state_.volume.rightAtten;

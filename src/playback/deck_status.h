@@ -20,6 +20,7 @@ struct DeckStatus {
   std::string trackTitle;  ///< "" before a track was selected or played
   int16_t playMode = Cont;
   bool repeat = false;
+  bool loop = false;  ///< between A and B, or from A on
   bool discIn = false;
   bool muted = false;
   int left = 0;  ///< level in percent

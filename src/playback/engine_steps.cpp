@@ -134,6 +134,7 @@ void Engine::programEntry(int16_t entry) {
   }
   transport.curTrack = track;
   display_.track(entry);
+  display_.clearTime("");
   device_.command("Stop");
   playCurrent();
 }

@@ -215,6 +215,11 @@ TEST(View, ScreenReadersHearWhatKeysAreAndDo) {
   deck.gate.enter([&] { deck.core.form.press(deck.core.form.icntla[Play]); });
   EXPECT_EQ(differs(stopped), (Tape{"Next", "Pause", "Play, on, pressed", "Previous", "Scan back", "Scan forward", "Stop"}));
   const Tape playing = heard();
+  for (const Tape& told : {Tape{"Repeat, on, pressed"}, Tape{}}) {
+    deck.gate.enter([&] { deck.core.form.press(deck.core.form.Image16[2]); });
+    deck.clock.advance(200);
+    EXPECT_EQ(differs(playing), told);
+  }
   deck.gate.enter([&] { deck.core.form.press(deck.core.form.Image2[1]); });
   deck.gate.enter([&] { deck.core.form.press(deck.core.form.Image4[1]); });
   EXPECT_EQ(differs(playing),

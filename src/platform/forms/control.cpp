@@ -46,7 +46,7 @@ bool Control::available() const {
   return enabled && (mask == nullptr || !mask->visible) && (grey == nullptr || grey->foreColor != colours::kGrey);
 }
 
-bool Control::on() const { return with(Role::Light) != nullptr && with(Role::Light)->visible; }
+bool Control::on() const { return with(Role::Light) == nullptr ? engaged : with(Role::Light)->visible; }
 
 void TextBox::selectAll() {
   allSelected = false;

@@ -93,6 +93,7 @@ class Control : protected PropertyOwner {
   Property<int> height{*this, Change::Geometry};
   Property<bool> visible{*this, Change::Visibility, true};
   Property<bool> enabled{*this, Change::Enabled, true};
+  Property<bool> engaged{*this, Change::Enabled, false};  ///< a key without a light of its own whose act is on
   Property<std::string> caption{*this, Change::Text};
   Property<std::string> toolTip{*this, Change::Text};
   Property<Colour> foreColor{*this, Change::Look, colours::kBlack};
@@ -111,7 +112,7 @@ class Control : protected PropertyOwner {
   bool shown() const;
   /// A press would do something: enabled, not under its mask, its caption not grey.
   bool available() const;
-  /// Its light is lit.
+  /// Its light is lit, or its act is on.
   bool on() const;
 
   /// What its kind has beside the values of all controls, put back for a window that is loaded anew.

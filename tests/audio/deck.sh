@@ -12,7 +12,8 @@ chmod 700 "$home"
 export LSAN_OPTIONS=suppressions=$(cd "$(dirname "$0")/.." && pwd)/lsan.supp
 export XDG_CONFIG_HOME=$home/config XDG_DATA_HOME=$home/data XDG_RUNTIME_DIR=$home
 pids=""
-trap 'kill $pids 2>/dev/null || true; rm -rf "$home"' EXIT
+# What a deck that is ending still writes must not come back behind the broom.
+trap 'kill $pids 2>/dev/null || true; wait $pids 2>/dev/null || true; rm -rf "$home" 2>/dev/null || { sleep 1; rm -rf "$home"; }' EXIT
 data=$home/data/orvanta
 drive=$build/share/orvanta/demo
 

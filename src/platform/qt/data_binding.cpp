@@ -47,10 +47,11 @@ void Binding::typed(const QString& text) {
   if (road_.form() != nullptr) follow(Change::Text);
 }
 
-/// Presses on lists, and the right button everywhere, are the form's to know.
+/// Presses on lists, and the right button everywhere but where a menu of the widget's own would take the release, are
+/// the form's to know.
 bool Binding::mouse(QEvent& event) {
   const bool right = static_cast<QMouseEvent&>(event).button() == Qt::RightButton;
-  if (!right && !tellsPresses()) return false;
+  if (right ? hasOwnMenu() : !tellsPresses()) return false;
   const auto button = right ? forms::MouseButton::Right : forms::MouseButton::Left;
   road_.enter([&](Form& form) {
     if (event.type() == QEvent::MouseButtonPress) {
@@ -59,7 +60,7 @@ bool Binding::mouse(QEvent& event) {
       form.mouseUp({button, -1, -1});
     }
   });
-  return right && !hasOwnMenu();
+  return right;
 }
 
 bool Binding::eventFilter(QObject* watched, QEvent* event) {

@@ -83,6 +83,7 @@ std::optional<int> handedToFirst(const Options& options, Host& host) {
   // A program on the command line is run in place of a deck, whether or not one is there.
   const std::string& words = options.host.words;
   const bool forProgram = classify(words).kind == CommandLine::Kind::Program && host.files.exists(words);
+  if (options.takeOver) host.server.waitInLine();
   if (options.takeOver || forProgram) return std::nullopt;
   const std::string line = lineOf({options.disc, options.host.drive, words});
   constexpr int kReply = 5000;  // milliseconds

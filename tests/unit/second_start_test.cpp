@@ -102,6 +102,16 @@ TEST_F(SocketTest, OneListensForAFolder) {
     ASSERT_TRUE(request);
     EXPECT_EQ(request->line, "later");
   }
+  {
+    auto first = std::make_unique<SocketServer>(path, folder.path());
+    SocketServer next(path, folder.path());
+    next.waitInLine();
+    EXPECT_FALSE(next.listen());
+    first.reset();
+    for (int tries = 0; tries < 500 && !next.listen(); ++tries) std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    EXPECT_TRUE(next.listen());
+    EXPECT_FALSE(SocketServer(path, folder.path()).listen()) << "whoever comes later";
+  }
   EXPECT_FALSE(std::filesystem::exists(path)) << "nothing is left behind";
   EXPECT_FALSE(askWhoListens(path, "hello", 20).delivered);
   // One folder by two spellings.

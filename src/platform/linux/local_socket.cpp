@@ -10,11 +10,13 @@
 #include <sys/un.h>
 
 #include <algorithm>
+#include <atomic>
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <functional>
+#include <thread>
 
 #include "base/text.h"
 
@@ -96,8 +98,33 @@ SocketServer::~SocketServer() {
   if (listener_) ::unlink(path_.c_str());
 }
 
+/// Outlives its server in a thread that may wait for ever.
+struct SocketServer::Turn {
+  UniqueFd folder;
+  std::atomic<bool> come = false;
+};
+
+void SocketServer::waitInLine() {
+  if (lockFolder_.empty() || lock_ || turn_) return;
+  auto turn = std::make_shared<Turn>();
+  turn->folder = UniqueFd(::open(lockFolder_.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  if (!turn->folder) return;
+  turn_ = turn;
+  std::thread([turn] {
+    while (::flock(turn->folder.get(), LOCK_EX) != 0) {
+      if (errno != EINTR) return;
+    }
+    turn->come = true;
+  }).detach();
+}
+
 bool SocketServer::listen() {
   if (listener_) return true;
+  if (turn_) {
+    if (!turn_->come) return false;
+    lock_ = std::move(turn_->folder);
+    turn_.reset();
+  }
   if (!lockFolder_.empty() && !lock_) {
     UniqueFd folder(::open(lockFolder_.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (folder && ::flock(folder.get(), LOCK_EX | LOCK_NB) != 0) return false;

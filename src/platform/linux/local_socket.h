@@ -3,6 +3,7 @@
 
 #include <chrono>
 #include <list>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -30,6 +31,8 @@ class SocketServer {
 
   /// Tries once more where another one listened at first. True when it listens.
   bool listen();
+  /// Whoever has the folder now is about to go: from here on this one is the next to have it, before any that comes later.
+  void waitInLine();
   /// To be waited on for reading, for whatever next() has to do; -1 when it does not listen.
   int fd() const { return listener_ ? events_.get() : -1; }
 
@@ -55,6 +58,8 @@ class SocketServer {
   std::string path_;
   std::string lockFolder_;
   UniqueFd lock_;
+  struct Turn;
+  std::shared_ptr<Turn> turn_;  ///< while it waits in line
   UniqueFd events_;
   UniqueFd listener_;
   std::list<Peer> peers_;

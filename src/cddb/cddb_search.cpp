@@ -60,7 +60,7 @@ void CddbWindow::sessionStatus(const std::string& text) {
 
 /// The mail has its own window by now, which stays on top.
 void CddbWindow::discIdKnown(const std::string& discId) {
-  if (cdData_.openForPerson()) taker_->discIdArrived(discId);
+  taker_->discIdArrived(discId);
   if (session_ != nullptr) session_->leave();
   endSession();
 }

@@ -48,6 +48,16 @@ constexpr std::pair<const char*, const char*> kGenres[] = {
 /// The text of a row of lyrics, behind its number.
 std::string rowText(const std::string& row) { return row.substr(std::min(row.size(), row.find('\t') + 1)); }
 
+/// Some forty characters around the first that plain letters do not have.
+std::string changedPart(std::string_view text) {
+  constexpr size_t kBefore = 15;
+  constexpr size_t kSample = 40;
+  size_t same = 0;
+  while (same < characterCount(text) && plainAscii(firstCharacters(text, same + 1)) == firstCharacters(text, same + 1)) ++same;
+  if (same > kBefore) text.remove_prefix(firstCharacters(text, same - kBefore).size());
+  return std::string(firstCharacters(text, kSample));
+}
+
 }  // namespace
 
 std::string categoryOf(const std::string& genre) {
@@ -106,8 +116,7 @@ void Submitter::showPlainLetters() {
   const auto first = std::find_if(texts.begin(), texts.end(), changed);
   form_.plain.visible = first != texts.end();
   if (first == texts.end()) return;
-  constexpr size_t kSample = 40;
-  const std::string sample(firstCharacters(trim(withoutControls(*first)), kSample));
+  const std::string sample = changedPart(trim(withoutControls(*first)));
   form_.plain.caption =
       "The CDDB takes plain letters only. What has none is replaced: \"" + sample + "\" is sent as \"" + plainAscii(sample) + "\".";
 }
@@ -142,6 +151,10 @@ bool Submitter::keyDown(const forms::KeyPress& key) {
 void Submitter::Command1_Click() {
   if (submitCategory_.empty()) return;
   form_.unload();
+  // From here on CD Data may be closed: what was to be submitted is.
+  const DiscState& disc = cdData_.disc();
+  submission_ = submission("");
+  frames_ = tocFrames({disc.trackCount, disc.trackLengths, disc.trackFrames});
   editor_.Label25.caption = "Submitting...";
   editor_.Label25.visible = true;
   editor_.Label25.refresh();
@@ -153,8 +166,8 @@ void Submitter::Command3_Click() { form_.unload(); }
 // ---- the record
 
 void Submitter::discIdArrived(const std::string& discId) {
-  const DiscState& disc = cdData_.disc();
-  const auto record = writeRecord(submission(discId), tocFrames({disc.trackCount, disc.trackLengths, disc.trackFrames}));
+  submission_.discId = discId;
+  const auto record = writeRecord(submission_, frames_);
   if (!record) {
     editor_.Label25.visible = false;
     editor_.Label25.refresh();

@@ -47,6 +47,8 @@ class Submitter : public forms::FormEvents, private DiscIdTaker {
   cddbcatg& form_;
   const SharedState& state_;
   std::string submitCategory_;
+  Submission submission_;  ///< as it was when it was asked for
+  TocFrames frames_;       ///< of its disc
 };
 
 /// The CDDB's category for a genre of the library; "" for none.

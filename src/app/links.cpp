@@ -39,7 +39,7 @@ void Links::restartWhenFree() {
 
 bool Links::restartWaits() const {
   return core_.library_.cdData.openForPerson() || core_.cddb_.window.openForPerson() || core_.mailForm.loaded() ||
-         core_.playlistForm.loaded() || dialogs_.open();
+         core_.categoryForm.loaded() || core_.playlistForm.loaded() || dialogs_.open();
 }
 
 void Links::runSetup() { core_.life_.setup.run(); }
@@ -108,6 +108,8 @@ bool Links::mailSenderKnown() const { return storedCddbSettings(core_.ports_.fil
 bool Links::lookupMayStart() const {
   return core_.state.disc.in() && !core_.mailForm.loaded() && !core_.playlistForm.loaded() && !dialogs_.open();
 }
+
+void Links::showSearching(bool now) { core_.playback_.display.searching(now); }
 
 void Links::readTextsAgain() { core_.playback_.load.readTextsAgain(); }
 

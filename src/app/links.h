@@ -48,6 +48,7 @@ class Links : public PlaybackUpward, public FaceplateUpward, public LibraryUpwar
   void submitToCddb() override;
   bool mailSenderKnown() const override;
   bool lookupMayStart() const override;
+  void showSearching(bool now) override;
   void readTextsAgain() override;
 
   // Windows and programs that are still to come aboard; their keys do nothing yet.

@@ -1,6 +1,7 @@
 // The rooms, and what the host asks of the deck.
 #include "app/orvanta.h"
 
+#include "app/command_line.h"
 #include "base/text.h"
 #include "platform/ports/aux_volume.h"
 #include "platform/ports/cd_device.h"
@@ -55,22 +56,24 @@ void Orvanta::showFaceplate() {
 }
 
 void Orvanta::secondStart(const SecondStart& start) {
+  // Words that mean nothing must not stand in the way of play.
+  const std::string words = classify(start.words).kind == CommandLine::Kind::Plain ? "" : start.words;
   form.minimised = false;
   if (form.view() != nullptr) form.view()->raise();
   if (!start.drive.empty() && start.drive != state.settings.cdProbePath) {
     // A process has one drive: the next one has the other.
     ports_.system.changeDrive(start.drive, start.disc);
-    state.process.nextWords = start.words;
+    state.process.nextWords = words;
     links_.restartWhenFree();
     return;
   }
   if (!start.disc.empty()) ports_.tray.offer(start.disc);
-  if (start.words.empty()) return;
+  if (words.empty()) return;
   if (!start.disc.empty() || !state.disc.in()) {
-    state.process.nextWords = start.words;
+    state.process.nextWords = words;
     return;
   }
-  life_.startUp.takeWord(start.words);
+  life_.startUp.takeWord(words);
   if (leadingNumber(state.process.commandWord) > 0) faceplate_.load.playTrackOfCommandLine();
 }
 

@@ -65,8 +65,6 @@ void CddbWindow::timer1_timer() {
   } else if (automatic() && !boxOpen_ && session_ == nullptr && ready(form_)) {
     form_.Command8.enabled = true;
     Command8_Click();
-  } else if (submitting() && !boxOpen_ && !cdData_.openForPerson()) {
-    endSession();
   }
 }
 
@@ -87,7 +85,8 @@ void CddbWindow::lookUpWhenFree() {
   }
   if (!able || !(wanted || (unknown && settings_.autoConnect))) return;
   upward_.closeTrackList();
-  showSearching(faceplate_, state_.disc);
+  putSearching(state_.disc);
+  upward_.showSearching(true);
   state_.library.cddbMode = kAutomatic;
   form_.show(ports_.desktop);
 }
@@ -160,9 +159,9 @@ void CddbWindow::endSession() {
   state_.library.cddbMode = kResting;
   form_.unload();
   ports_.screen.setPointer(Pointer::Normal);
-  faceplate_.Image14.visible = false;
+  upward_.showSearching(false);
   if (!wasAutomatic || !searching(state_.disc)) return;
-  cleanSearching(faceplate_, state_.disc);
+  clearSearching(state_.disc);
   upward_.readTextsAgain();
 }
 

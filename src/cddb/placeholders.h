@@ -2,7 +2,6 @@
 #pragma once
 
 #include "state/shared_state.h"
-#include "windows/cdform.h"
 
 namespace orvanta {
 
@@ -11,19 +10,12 @@ inline constexpr const char* kSearchingTitle = "Please Wait...";
 
 inline bool searching(const DiscState& disc) { return disc.discArtist == kSearchingArtist; }
 
-inline void showSearching(CDForm& faceplate, DiscState& disc) {
-  faceplate.Label12.caption = "Connecting to CDDB Online...";
-  faceplate.Image14.visible = true;
+inline void putSearching(DiscState& disc) {
   disc.discArtist = kSearchingArtist;
   disc.discTitle = kSearchingTitle;
 }
 
-/// Texts that were read or saved meanwhile stay.
-inline void cleanSearching(CDForm& faceplate, DiscState& disc) {
-  faceplate.Image14.visible = false;
-  if (!searching(disc)) return;
-  faceplate.Label12.caption = "";
-  faceplate.Label13.caption = "";
+inline void clearSearching(DiscState& disc) {
   disc.discArtist.clear();
   disc.discTitle.clear();
 }

@@ -126,6 +126,8 @@ class CdData : public forms::FormEvents {
   void submit();
   void close();
   void startLibrary();
+  /// What stands in the entry fields goes to its rows. False: it belongs to none, and a person thought better of it.
+  bool takeEntries();
   bool ask(const std::string& question);
   void changedByPerson() { visit_.changed = visit_.draftDue = true; }
 

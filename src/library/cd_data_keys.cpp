@@ -83,18 +83,24 @@ void CdData::askCaptions() {
 }
 
 bool CdData::ask(const std::string& question) {
+  // Under another window of its own it takes no input afterwards either.
+  const bool before = form_.enabled;
   form_.enabled = false;
   const bool yes = ports_.dialogs.askYesNo(BoxStyle::Warning, "Orvanta", question);
-  form_.enabled = true;
+  form_.enabled = before;
   return yes;
 }
 
 /// By a person. What is typed for a row is taken for it; what is typed for none cannot be, and is not dropped unasked.
 void CdData::ok() {
+  if (!takeEntries()) return;
+  Command1_Click();
+}
+
+bool CdData::takeEntries() {
   takeEntry(titles_);
   takeEntry(lyrics_);
-  if (entryWaits() && !ask("What was typed below the list belongs to no track.\n\nSave the rest without it?")) return;
-  Command1_Click();
+  return !entryWaits() || ask("What was typed below the list belongs to no track.\n\nGo on without it?");
 }
 
 void CdData::cancel() {
@@ -132,6 +138,7 @@ void CdData::submit() {
     ports_.dialogs.message(BoxStyle::Critical, "Orvanta", "Unable To Submit - Track Limit Exceeded For CDDB Submission From Orvanta");
     return;
   }
+  if (!takeEntries()) return;
   for (forms::TextBox* box : {&form_.Text2, &form_.Text4}) box->caption = withoutControls(trim(box->caption.get()));
   upward_.submitToCddb();
 }

@@ -141,7 +141,7 @@ void DiscLoad::clearOnRequest() {
   disc.discArtist.clear();
   disc.discTitle.clear();
   display_.emptyHeader();
-  form_.Image14.visible = false;
+  display_.searching(false);
   upward_.closeDiscWindows();
 }
 

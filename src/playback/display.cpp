@@ -71,6 +71,11 @@ void Display::showHeader() {
   form_.Label13.caption = title(number());
 }
 
+void Display::searching(bool now) {
+  form_.Image14.visible = now;
+  if (now) form_.Label12.caption = "Connecting to CDDB Online...";
+}
+
 void Display::clearTexts() {
   form_.Label12.caption = "";
   form_.Label13.caption = "";

@@ -55,6 +55,8 @@ class Display {
   void showHeader();
   void emptyHeader() { form_.Label12.caption = ""; }
   void clearTexts();
+  /// The disc is looked up: the lamp, and the word in the header.
+  void searching(bool now);
   /// In the title's place: a state, or nothing.
   void word(std::string_view text) { form_.Label13.caption = std::string(text); }
   /// Without sound the time runs and nothing is heard: the title's line says why, for as long as that lasts.

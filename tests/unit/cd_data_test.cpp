@@ -28,25 +28,6 @@ TEST(CdData, ClearTakesEverythingAndSavesNothing) {
   EXPECT_EQ(rig.file(""), "(none)");
 }
 
-TEST(CdData, SavesUnseenForAProgram) {
-  CoreRig rig;
-  rig.startWith(discA());
-  rig.clock.advance(2000);
-  acdtabs& window = rig.orvanta.editor;
-  rig.gate.enter([&] {
-    rig.orvanta.cdData().openUnseen();
-    EXPECT_GT(window.left, rig.screen.widthTwips());
-    EXPECT_FALSE(window.Command11.visible || window.Command12.visible);
-    window.Text2.caption = "Found";
-    window.List1.set(0, "1:\tSong\t4:06");
-    rig.state.library.dataDirty = kOn;
-    rig.orvanta.cdData().Command1_Click();
-  });
-  EXPECT_FALSE(window.loaded());
-  EXPECT_NE(rig.files.files["/DATA/DATACD/19443766.CD"].find("\"Found\"\r\n\"\"\r\n\"Song\""), std::string::npos);
-  EXPECT_EQ(std::count(rig.desktop.tape.begin(), rig.desktop.tape.end(), "hide"), 1) << "the window's own, at its end";
-}
-
 // ---- page and print
 
 TEST(CdData, ThePageOfABareDiscAndOfAFullOne) {

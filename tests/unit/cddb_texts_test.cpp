@@ -90,22 +90,6 @@ TEST(CddbShaper, RefusesAReplyWithoutEnd) {
 
 const std::string kGap(100, ' ');
 
-TEST(CddbMatches, ReadsRecordedReplies) {
-  const QueryReply two = readQueryReply(replyOf("23-http-inexact"), kHttpRoad);
-  EXPECT_EQ(two.found, Found::Inexact);
-  EXPECT_EQ(two.total, 2U);
-  EXPECT_EQ(two.rows, (Tape{"Data  - Rammstein+Sixtynine / (black) Mutter" + kGap + "940c700b",
-                            "Misc  - Rammstein+Sixtynine / (black) Mutter" + kGap + "940c700b"}));
-  EXPECT_EQ(matchOfRow(two.rows[1]), (Match{"misc", "940c700b"}));
-  const QueryReply one = readQueryReply(replyOf("22-http-exact200-proto4"), kHttpRoad);
-  EXPECT_EQ(one.found, Found::Exact);
-  EXPECT_EQ(one.rows, (Tape{"Misc - Roxette / Tourism" + kGap + "f5108c10"}));
-  EXPECT_EQ(matchOfRow(one.rows[0]), (Match{"misc", "f5108c10"}));
-  const QueryReply several = readQueryReply(replyOf("21-http-exact210-proto4"), kHttpRoad);
-  EXPECT_EQ(several.found, Found::Nothing) << "a list of exact ones is for clients of a higher level";
-  EXPECT_EQ(readQueryReply(replyOf("24-http-none"), kHttpRoad).serverLine, "202 No match for disc ID 19032a03.");
-}
-
 TEST(CddbMatches, TakesWhateverCountsAsAReply) {
   expectAnswers("answers/matches.txt", [](const std::string& reply) {
     std::string told;

@@ -85,22 +85,6 @@ TEST(EditorSaves, AFailureIsToldOnceAndNothingIsLost) {
   }
 }
 
-TEST(EditorSaves, ASaveUnseenTellsAndGoes) {
-  CoreRig rig;
-  rig.startWith(discA());
-  rig.clock.advance(2000);
-  rig.files.full = true;
-  rig.gate.enter([&] {
-    rig.orvanta.cdData().openUnseen();
-    rig.orvanta.editor.Text2.caption = "Found";
-    rig.state.library.dataDirty = kOn;
-    EXPECT_FALSE(rig.orvanta.cdData().Command1_Click());
-  });
-  EXPECT_EQ(rig.dialogs.tape.size(), 1U);
-  EXPECT_FALSE(rig.orvanta.editor.loaded());
-  EXPECT_EQ(rig.form.Label12.caption.get(), "Found") << "the display keeps it for now";
-}
-
 // ---- texts that come with a disc
 
 struct Sheet : Editor {

@@ -112,7 +112,7 @@ TEST(Architecture, DisplayAndKeysHaveOneWriterEach) {
       if (!entry.is_regular_file() || owner.files.count(path) == 1 || path.rfind("platform/", 0) == 0) continue;
       // The windows of the library and the CDDB have controls of the same names.
       const bool windows = path.rfind("library/", 0) == 0 || path.rfind("cddb/", 0) == 0;
-      const std::string control = (windows ? "faceplate_\\." : "\\w+\\.") + std::string(owner.controls);
+      const std::string control = (windows ? "faceplate_?\\." : "\\w+\\.") + std::string(owner.controls);
       const std::regex written("\\b" + control + "(\\[[^\\]]*\\])?\\." + owner.properties + " = ");
       // One of a list, or all of an array, that something is done to.
       const std::regex several("([{,] ?&|: )" + control + "(\\[[^\\]]*\\])?[,})]");

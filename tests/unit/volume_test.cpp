@@ -29,38 +29,6 @@ struct Sliders : CoreRig {
   VolumeState& volume = state.volume;
 };
 
-/// Where the thumb goes for a place p, and the percent it then shows.
-std::pair<int, int> formula(int p) {
-  if (p < 100) p = 75;
-  if (p > 1060) p = 1070;
-  return {p, static_cast<int>(107.5 - 0.1 * p)};
-}
-
-TEST(Volume, EveryPlaceOfADrag) {
-  for (const int part : {0, 1, 2}) {
-    Sliders rig(0x80008000);
-    forms::Control& control = part == 0   ? static_cast<forms::Control&>(rig.form.VolumeL)
-                              : part == 1 ? rig.form.VbartopL
-                                          : rig.form.VbarbtmL;
-    rig.down(control, 100, rig.form.ThumbL.top);  // on the thumb: nothing moves
-    EXPECT_EQ(rig.percent(), part == 1 ? rig.percent() : 50);
-    for (int y = 0; y <= 1300; ++y) {
-      rig.move(control, y);
-      const int from = part == 0 ? y - 60 : part == 1 ? 90 + y - 84 : 65 + y - 84;
-      const auto [place, percent] = formula(from);
-      ASSERT_EQ(rig.form.ThumbL.top, place) << part << ' ' << y;
-      ASSERT_EQ(rig.percent(), percent) << part << ' ' << y;
-      ASSERT_EQ(rig.form.TlineL[1].height, 79);
-      ASSERT_EQ(rig.form.VbartopL.height, place - 90);
-      ASSERT_EQ(rig.form.ThumbR.top, place) << "linked";
-    }
-    EXPECT_EQ(rig.auxVolume.reading.volume, 0U) << "silence is sure at 0";
-    rig.up();
-    EXPECT_EQ(rig.volume.volDrag, kNoDrag);
-    EXPECT_EQ(rig.form.ThumbL.backColor, Colour{0xB8B8BA});
-  }
-}
-
 TEST(Volume, MovesByDifferences) {
   Sliders rig;
   rig.down(rig.form.VolumeL, 100, 635);

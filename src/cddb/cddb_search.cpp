@@ -36,12 +36,14 @@ TrackTable CddbWindow::trackTable() const {
 void CddbWindow::Command8_Click() {
   if (!settings_.complete()) {
     wait(false);
-    box(BoxStyle::Critical, "Orvanta CDDB Online Search",
-        "Unable to continue... All required information in the setup tab has not been input");
+    box(BoxStyle::Critical, "Orvanta CDDB Online Search", kIncomplete);
     if (byItself()) endSession();
     return;
   }
   logLine("cddb", "search");
+  // Old matches are those of a connection that has gone.
+  form_.List2.clear();
+  form_.Command9.enabled = false;
   session_.reset();
   sitesUpdate_ = false;
   wait(true);
@@ -105,6 +107,8 @@ void CddbWindow::matchesFound(const QueryReply& reply) {
 
 /// Extended texts stay: a second record's are added to them.
 void CddbWindow::Command9_Click() {
+  // The record of another match is still due: it would be taken for this one's.
+  if (session_ != nullptr && session_->due()) return;
   form_.List1.clear();
   form_.Label24.caption = form_.Label27.caption = form_.linernote2.caption = "";
   const int row = form_.List2.listIndex();

@@ -166,6 +166,20 @@ bool CddbWindow::takeAddress() {
 // ---- OK
 
 /// Out of the controls; false when something is missing, of which the user has been told.
+/// A name of the list stands for its server; anything else that was typed is the server.
+bool CddbWindow::takeServer() {
+  const std::string typed(trim(form_.Combo1.caption.get()));
+  if (typed.empty()) {
+    box(BoxStyle::Warning, "Orvanta", kIncomplete);
+    return false;
+  }
+  const bool listed = std::any_of(sites_.begin(), sites_.end(), [&](const Site& site) { return site.siteName == typed; });
+  if (listed || typed == settings_.cddbSiteName) return true;
+  const bool whole = settings_.useCddbp || typed.find("://") != std::string::npos;
+  settings_.cddbServer = whole ? typed : "http://" + typed + "/~cddb/cddb.cgi";
+  return true;
+}
+
 bool CddbWindow::takeSetup() {
   forms::Control* missing = nullptr;
   if (!trimmed(form_.Text5).empty()) {
@@ -174,6 +188,7 @@ bool CddbWindow::takeSetup() {
     box(BoxStyle::Warning, "Orvanta", "You must enter your email address to access the CDDB Online!");
     missing = &form_.Text5;
   }
+  if (missing == nullptr && !takeServer()) missing = &form_.Combo1;
   if (missing == nullptr && !enterPort(form_.Text4, kServerPorts)) missing = &form_.Text4;
   if (missing != nullptr) {
     if (activeTab_ != Setup) showTab(Setup);

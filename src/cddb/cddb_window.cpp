@@ -118,6 +118,7 @@ void CddbWindow::load() {
   clrcon();
   wait(false);
   showSettings();
+  form_.parked = unseen_;
   if (unseen_) {
     form_.left = ports_.screen.widthTwips() + kOutOfSight;
   } else {
@@ -144,7 +145,7 @@ void CddbWindow::unload() {
 
 /// Where a lookup out of sight finds something to choose, it comes into sight.
 void CddbWindow::centre() {
-  unseen_ = false;
+  form_.parked = unseen_ = false;
   form_.left = std::max(0, (ports_.screen.widthTwips() - form_.width) / 2);
   form_.top = std::max(0, (ports_.screen.heightTwips() - form_.height) / 2);
 }

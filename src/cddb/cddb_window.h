@@ -118,6 +118,8 @@ class CddbWindow : public forms::FormEvents, private SessionEvents {
   bool enterAddress();
   bool takeAddress();
   bool enterPort(forms::TextBox& box, const char* usual);
+  static constexpr const char* kIncomplete = "Unable to continue... All required information in the setup tab has not been input";
+  bool takeServer();
   bool takeSetup();
   bool writeSetup();
 

@@ -56,6 +56,8 @@ class Session {
   Session& operator=(const Session&) = delete;
 
   const Road& road() const { return road_; }
+  /// A reply is due.
+  bool due() const { return state_ != SessionState::Idle; }
   /// Asks for the record of a match; nothing while a reply is due.
   void retrieve(const Match& match);
   /// Tells the server that it is over, where that is said.
@@ -72,7 +74,6 @@ class Session {
   /// A whole reply.
   void replied(const std::string& reply);
   void giveUp(const std::string& reason);
-  bool due() const { return state_ != SessionState::Idle; }
   std::string joined(std::initializer_list<std::string_view> words) const;
 
   SessionEvents& events_;

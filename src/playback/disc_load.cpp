@@ -92,6 +92,7 @@ void DiscLoad::readTextsAgain() {
   if (files_.exists(state_.disc.cdFilePath)) {
     readTexts();
   } else {
+    fillFromSheet(state_.disc, device_.texts());
     display_.showHeader();
   }
 }

@@ -64,11 +64,16 @@ TEST(CddbFaults, TakesWhatServersMakeOfTheirLines) {
 }
 
 TEST(CddbFaults, ShowsWhatAPersonMustChooseFrom) {
+  Cddb hidden;
+  hidden.net.script[3].answered = "";
+  hidden.begin();
+  hidden.clock.advance(1000);
+  EXPECT_TRUE(hidden.cddb.loaded() && hidden.cddb.parked) << "nothing comes up by itself";
   Cddb rig;
   rig.net.script[3].answered = "211 list\r\n" + times("misc 1f032a03 Some Artist / Some Title\r\n", 10000) + ".\r\n";
   rig.begin();
   rig.clock.advance(3000);
-  EXPECT_LT(rig.cddb.left.get(), rig.screen.widthTwips()) << "out of its hiding";
+  EXPECT_FALSE(rig.cddb.parked) << "out of its hiding";
   EXPECT_EQ(rig.cddb.Label29.caption.get(), "Total Titles Found:10000");
   EXPECT_EQ(rig.cddb.List2.count(), 500);
   rig.gate.enter([&] { rig.cddb.userRow(rig.cddb.List2, 499, {499}); });
@@ -91,6 +96,17 @@ TEST(CddbFaults, LeavesNothingOfAProtocolWhoseServersAreKnown) {
   EXPECT_EQ(rig.cddb.Combo1.caption.get() + rig.cddb.Text4.caption.get(), "") << "no server of the other road";
   rig.press(rig.cddb.Option2[1]);
   EXPECT_EQ(rig.cddb.Combo1.caption.get() + rig.cddb.Text4.caption.get(), "Site8880");
+  // A server that is typed is the one that is asked; none at all is told.
+  const auto serverTyped = [&](const char* text) {
+    rig.gate.enter([&] { rig.cddb.userText(rig.cddb.Combo1, text); });
+    rig.press(rig.cddb.Command1);
+    return rig.files.files["/DATA/CDDBOL.DAT"].substr(0, 31);
+  };
+  const std::string before = rig.files.files["/DATA/CDDBOL.DAT"].substr(0, 31);
+  EXPECT_EQ(serverTyped(""), before);
+  EXPECT_TRUE(rig.cddb.loaded() && rig.dialogs.tape.size() == 1U);
+  EXPECT_EQ(serverTyped("my.server.org"), "\"my.server.org\"\r\n\"my.server.org");
+  EXPECT_FALSE(rig.cddb.loaded());
 }
 
 TEST(CddbFaults, LetsTheExitGoAmidALookup) {

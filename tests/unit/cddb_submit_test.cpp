@@ -100,7 +100,7 @@ TEST(CddbSubmit, MailsWhatWasTypedAndSaysThatItWent) {
     EXPECT_EQ(rig.screen.pointer, Pointer::Hourglass);
     while (!rig.mail.loaded()) {
       rig.clock.advance(10);
-      EXPECT_FALSE(rig.cddb.view() != nullptr && rig.cddb.left.get() < rig.screen.widthTwips()) << "out of sight";
+      EXPECT_FALSE(rig.cddb.view() != nullptr && !rig.cddb.parked) << "out of sight";
     }
     EXPECT_EQ(rig.status(), "");
     rig.clock.advance(10000);
@@ -259,7 +259,7 @@ TEST(CddbSubmit, IsGivenUpByAnotherStartAndNotWithCdData) {
   EXPECT_TRUE(rig.over() && rig.editor.enabled);
   rig.submit();
   rig.press(rig.editor.Command11);
-  EXPECT_TRUE(rig.orvanta.cddbForm.loaded() && rig.cddb.left.get() < rig.screen.widthTwips()) << "a search of one's own instead";
+  EXPECT_TRUE(rig.orvanta.cddbForm.loaded() && !rig.cddb.parked) << "a search of one's own instead";
   rig.press(rig.cddb.Command3);
   rig.submit();
   rig.press(rig.editor.Command1);

@@ -17,7 +17,7 @@ class Orvanta;
 
 class Links : public PlaybackUpward, public FaceplateUpward, public LibraryUpward, public CddbUpward {
  public:
-  Links(Orvanta& core, Clock& clock, const Dialogs& dialogs) : core_(core), clock_(clock), dialogs_(dialogs) {}
+  Links(Orvanta& core, Clock& clock, Dialogs& dialogs) : core_(core), clock_(clock), dialogs_(dialogs) {}
 
   // The door, discs and processes.
   void openDrawer() override;
@@ -63,7 +63,7 @@ class Links : public PlaybackUpward, public FaceplateUpward, public LibraryUpwar
 
   Orvanta& core_;
   Clock& clock_;
-  const Dialogs& dialogs_;
+  Dialogs& dialogs_;
   bool exitWanted_ = false;
   std::unique_ptr<Timer> restartLater_;
 };

@@ -25,6 +25,13 @@ std::string lastLine(const std::string& reply) {
   return std::string(cleanStart(end == std::string::npos ? reply : reply.substr(end + 1)));
 }
 
+/// A reply of several lines as one.
+std::string allLines(const std::string& reply) {
+  std::string text;
+  for (const std::string& line : splitLines(reply)) text += (text.empty() ? "" : " ") + line;
+  return lineAsText(cleanStart(text));
+}
+
 }  // namespace
 
 MailSession::MailSession(Net& net, const Mail& mail, MailEvents& events) : events_(events), mail_(mail) {
@@ -45,20 +52,20 @@ void MailSession::received(std::string_view bytes) {
   while (*alive && connection_ != nullptr) {
     const auto reply = shaper_.next(Shape::Mail);
     if (!reply) return;
-    replied(lastLine(*reply));
+    replied(lastLine(*reply), allLines(*reply));
   }
 }
 
-void MailSession::replied(const std::string& reply) {
+void MailSession::replied(const std::string& reply, const std::string& whole) {
   const int mailCode = replyCode(reply);
-  logLine("cddb", "mail: " + lineAsText(reply));
+  logLine("cddb", "mail: " + whole);
   if (const Accepted& good = kAccepted[mailState_]; mailCode >= good.from && mailCode <= good.to) {
     askNext();
   } else if (mailState_ == Record && mailCode >= kRejected && mailCode < kBeyondCodes) {
     connection_.reset();
-    events_.mailRejected(lineAsText(reply));
+    events_.mailRejected(whole);
   } else {
-    events_.mailRefused(lineAsText(reply));
+    events_.mailRefused(whole);
   }
 }
 

@@ -51,7 +51,8 @@ class MailSession : private ConnectionEvents {
   void closed() override { failed(""); }
   void failed(const std::string& reason) override;
 
-  void replied(const std::string& reply);
+  /// `whole`: all its lines as one, for the user.
+  void replied(const std::string& reply, const std::string& whole);
   void askNext();
   void say(const std::string& bytes);
 

@@ -78,8 +78,15 @@ void MailWindow::mailRefused(const std::string& serverLine) {
 }
 
 void MailWindow::mailBroken(const std::string& reason) {
-  if (!refused_) tellEditor("Not sent. " + mail_.smtpServer + ": " + (reason.empty() ? "the connection was closed" : reason));
-  form_.unload();
+  const std::string told = "Not sent. " + mail_.smtpServer + ": " + (reason.empty() ? "the connection was closed" : reason);
+  if (!refused_) tellEditor(told);
+  if (editor_.loaded()) {
+    form_.unload();
+    return;
+  }
+  // CD Data has gone: what stands here stands until its reader has cancelled it.
+  if (!refused_) form_.status.caption = told;
+  ports_.screen.setPointer(Pointer::Normal);
 }
 
 void MailWindow::endWith(BoxStyle style, const std::string& text) {

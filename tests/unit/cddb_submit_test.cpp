@@ -132,7 +132,7 @@ TEST(CddbSubmit, TellsWhyAMailDidNotGo) {
       {"a greeting that is none", 0, "250 what\r\n", false, "", "Not sent. 250 what", true},
       {"busy, then closed", 0, "421 busy\r\n", true, "", "Not sent. 421 busy", false},
       {"helo", 1, "501 who?\r\n", false, "", "Not sent. 501 who?", true},
-      {"the sender", 2, "553-5.1.0 not\r\n553 5.1.0 you\r\n", false, "", "Not sent. 553 5.1.0 you", true},
+      {"the sender", 2, "553-5.1.0 not\r\n553 5.1.0 you\r\n", false, "", "Not sent. 553-5.1.0 not 553 5.1.0 you", true},
       {"the receiver", 3, "450 later\r\n", false, "", "Not sent. 450 later", true},
       {"data", 4, "250 not now\r\n", false, "", "Not sent. 250 not now", true},
       {"the record", 5, "550 \x1b[1mspam\r\n", false, "Orvanta: Email to CDDB Failed!\n\n550  [1mspam", "550  [1mspam", false},
@@ -164,6 +164,24 @@ TEST(CddbSubmit, TellsWhyAMailDidNotGo) {
     EXPECT_EQ(rig.dialogs.tape.back(), kSent) << each.what;
     EXPECT_NE(std::find(rig.net.tape.begin(), rig.net.tape.end(), kMessage + "\r\n"), rig.net.tape.end()) << each.what;
   }
+  // With CD Data closed the mail's own window is all there is to read it in, and the power key asks first.
+  Submitting alone;
+  alone.open();
+  auto gone = mailServer();
+  gone[3].answered = "";
+  gone[3].closes = true;
+  alone.serve(gone);
+  alone.press(alone.editor.Command12);
+  alone.press(alone.category.Command1);
+  alone.press(alone.editor.Command1);
+  alone.clock.advance(1000);
+  EXPECT_TRUE(alone.mail.loaded() && !alone.editor.loaded());
+  EXPECT_EQ(alone.mail.status.caption.get(), "Not sent. mail: the connection was closed");
+  EXPECT_EQ(alone.screen.pointer, Pointer::Normal);
+  alone.dialogs.tape.clear();
+  alone.key(forms::key::kEscape);
+  EXPECT_EQ(alone.dialogs.tape, Tape{"Orvanta? A submission to the CDDB is still being sent.\n\nEnd the program all the same?"});
+  EXPECT_FALSE(alone.gate.ended());
   Submitting silent;
   silent.open();
   auto server = mailServer();

@@ -61,7 +61,7 @@ void MailSession::replied(const std::string& reply, const std::string& whole) {
   logLine("cddb", "mail: " + whole);
   if (const Accepted& good = kAccepted[mailState_]; mailCode >= good.from && mailCode <= good.to) {
     askNext();
-  } else if (mailState_ == Record && mailCode >= kRejected && mailCode < kBeyondCodes) {
+  } else if (mailState_ == Text && mailCode >= kRejected && mailCode < kBeyondCodes) {
     connection_.reset();
     events_.mailRejected(whole);
   } else {

@@ -44,7 +44,7 @@ class MailSession : private ConnectionEvents {
 
  private:
   /// Whose reply is due.
-  enum MailState : int16_t { Greeting, Helo, Sender, Receiver, Data, Record };
+  enum MailState : int16_t { Greeting, Helo, Sender, Receiver, Data, Text };
 
   void connected() override;
   void received(std::string_view bytes) override;

@@ -1,15 +1,17 @@
 // What both roads have in common: the order of the questions, and what their replies lead to.
 #include "cddb/session.h"
 
+#include <utility>
 #include "base/log.h"
+
 #include "cddb/cddbp_session.h"
 #include "cddb/http_session.h"
 #include "cddb/wire_text.h"
 
 namespace orvanta {
 
-Session::Session(const Road& road, const CddbSettings& settings, const TrackTable& table, Purpose purpose, SessionEvents& events)
-    : events_(events), purpose_(purpose), settings_(settings), road_(road), cddbQueryArgs_(tocText(table, road.separator)) {}
+Session::Session(const Road& road, CddbSettings settings, const TrackTable& table, Purpose purpose, SessionEvents& events)
+    : events_(events), purpose_(purpose), settings_(std::move(settings)), road_(road), cddbQueryArgs_(tocText(table, road.separator)) {}
 
 Session::~Session() { *alive_ = false; }
 

@@ -50,7 +50,7 @@ enum class SessionState { Idle, BannerDue, HelloDue, DiscIdDue, QueryDue, Record
 
 class Session {
  public:
-  Session(const Road& road, const CddbSettings& settings, const TrackTable& table, Purpose purpose, SessionEvents& events);
+  Session(const Road& road, CddbSettings settings, const TrackTable& table, Purpose purpose, SessionEvents& events);
   virtual ~Session();
   Session(const Session&) = delete;
   Session& operator=(const Session&) = delete;

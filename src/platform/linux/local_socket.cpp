@@ -192,7 +192,7 @@ Asked askWhoListens(const std::string& path, const std::string& line, int millis
   const auto address = addressOf(path);
   const UniqueFd fd(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0));
   if (!address || !fd) return {};
-  const timeval patience{milliseconds / 1000, milliseconds % 1000 * 1000};
+  const timeval patience{milliseconds / 1000, suseconds_t{milliseconds % 1000} * 1000};
   ::setsockopt(fd.get(), SOL_SOCKET, SO_SNDTIMEO, &patience, sizeof patience);
   // EAGAIN: somebody listens, and so many wait that there is no room for one more.
   if (::connect(fd.get(), reinterpret_cast<const sockaddr*>(&*address), sizeof *address) != 0) return {errno == EAGAIN, std::nullopt};

@@ -50,7 +50,7 @@ void Links::record() {
 
 void Links::exitProgram() {
   const std::string sending = "A submission to the CDDB is still being sent.\n\nEnd the program all the same?";
-  if (core_.mailForm.loaded() && !dialogs_.askYesNo(BoxStyle::Question, "Orvanta", sending)) return;
+  if (core_.cddb_.mail.sending() && !dialogs_.askYesNo(BoxStyle::Question, "Orvanta", sending)) return;
   if (core_.library_.cdData.mayBeLost()) core_.life_.exit.exitProgram();
 }
 

@@ -86,6 +86,7 @@ void MailWindow::mailBroken(const std::string& reason) {
   }
   // CD Data has gone: what stands here stands until its reader has cancelled it.
   if (!refused_) form_.status.caption = told;
+  refused_ = true;
   ports_.screen.setPointer(Pointer::Normal);
 }
 

@@ -20,6 +20,9 @@ class MailWindow : public forms::FormEvents, private MailEvents {
   /// Mails a record; nothing without one. A mail that is still under way is given up.
   void send(const Mail& mail);
 
+  /// A mail is on its way: neither refused nor broken.
+  bool sending() const { return form_.loaded() && !refused_; }
+
   void Command3_Click();
 
   void load() override;
@@ -41,7 +44,7 @@ class MailWindow : public forms::FormEvents, private MailEvents {
   acdtabs& editor_;
   cddbmail& form_;
   Mail mail_;
-  bool refused_ = false;  ///< the server has said why nothing goes on
+  bool refused_ = false;  ///< the server has said why nothing goes on, or has gone
   std::unique_ptr<MailSession> session_;
   std::unique_ptr<Connection> listener_;
 };

@@ -110,8 +110,8 @@ TEST(Architecture, DisplayAndKeysHaveOneWriterEach) {
     for (const auto& entry : fs::recursive_directory_iterator(sourceFolder() + "/src")) {
       const std::string path = fs::relative(entry.path(), sourceFolder() + "/src").string();
       if (!entry.is_regular_file() || owner.files.count(path) == 1 || path.rfind("platform/", 0) == 0) continue;
-      // The windows of the library and the CDDB have controls of the same names.
-      const bool windows = path.rfind("library/", 0) == 0 || path.rfind("cddb/", 0) == 0;
+      // The windows of the library and the CDDB, and the strip, have controls of the same names.
+      const bool windows = path.rfind("library/", 0) == 0 || path.rfind("cddb/", 0) == 0 || path.rfind("strip/", 0) == 0;
       const std::string control = (windows ? "faceplate_?\\." : "\\w+\\.") + std::string(owner.controls);
       const std::regex written("\\b" + control + "(\\[[^\\]]*\\])?\\." + owner.properties + " = ");
       // One of a list, or all of an array, that something is done to.

@@ -1,9 +1,10 @@
-// The faceplate's layouts against their table, and what goes with a change of layout, colours and fonts.
+// The windows' layouts against their tables.
 #include <gtest/gtest.h>
 
 #include <fstream>
 #include <sstream>
 
+#include "strip/strip_layout.h"
 #include "tests/support/core_rig.h"
 #include "tests/support/places.h"
 
@@ -27,8 +28,8 @@ std::vector<std::string> cells(const std::string& line) {
   return all;
 }
 
-std::vector<Row> table() {
-  std::ifstream file(sourceFolder() + "/tests/data/faceplate.csv");
+std::vector<Row> table(const std::string& name) {
+  std::ifstream file(sourceFolder() + "/tests/data/" + name);
   std::string line;
   std::getline(file, line);
   const auto names = cells(line);
@@ -39,6 +40,17 @@ std::vector<Row> table() {
     for (size_t i = 0; i < names.size() && i < values.size(); ++i) row[names[i]] = values[i];
   }
   return rows;
+}
+
+/// nullptr for the row of the form itself.
+const forms::Control* controlOf(const forms::Form& form, const Row& row) {
+  const std::string& index = row.at("index");
+  return form.find(row.at("name"), index.empty() ? forms::kNoIndex : std::stoi(index));
+}
+
+using Edges = std::vector<std::pair<const char*, int>>;
+Edges edgesOf(const forms::Control& control) {
+  return {{"left", control.left}, {"top", control.top}, {"width", control.width}, {"height", control.height}};
 }
 
 struct Variant {
@@ -70,7 +82,7 @@ std::string wanted(const Row& row, const std::string& edge, const Variant& varia
 }
 
 TEST(Layout, EveryControlStandsWhereTheTableHasIt) {
-  const auto rows = table();
+  const auto rows = table("faceplate.csv");
   ASSERT_GT(rows.size(), 200U);
   for (const Variant& variant : kVariants) {
     CoreRig rig;
@@ -85,17 +97,76 @@ TEST(Layout, EveryControlStandsWhereTheTableHasIt) {
         EXPECT_EQ(rig.form.width, std::stoi(variant.small ? row.at("small_width") : row.at(variant.twips == 12 ? "width0" : "width")));
         continue;
       }
-      const auto* control = rig.form.find(name, row.at("index").empty() ? forms::Control::kNoIndex : std::stoi(row.at("index")));
+      const auto* control = controlOf(rig.form, row);
       ASSERT_NE(control, nullptr) << name;
       // At 12 twips the title lines follow their text; see below. The mark "mask" of the volume panel leaves with it.
       const bool follows = variant.twips == 12 && (name == "Label12" || name == "Label13");
-      for (const auto& [edge, value] : std::initializer_list<std::pair<const char*, int>>{
-               {"left", control->left}, {"top", control->top}, {"width", control->width}, {"height", control->height}}) {
+      for (const auto& [edge, value] : edgesOf(*control)) {
         if (follows && (edge == std::string("top") || edge == std::string("height"))) continue;
         const std::string text = wanted(row, edge, variant);
         const int number = text == "Screen.Width+100" ? rig.screen.widthTwips() + 100 : std::stoi(text);
         EXPECT_EQ(value, number) << variant.name << ' ' << name << row.at("index") << ' ' << edge;
       }
+    }
+  }
+}
+
+struct StripState {
+  bool coarse;
+  bool unfolded;
+  bool border;
+  bool sliders;
+};
+
+/// What the strip's table says of an edge.
+int wantedEdge(const Row& row, const std::string& edge, const StripState& state) {
+  const std::string fine = state.coarse ? "" : "0";
+  const bool upright = edge == "top" || edge == "height";
+  const bool place = edge == "left" || edge == "top";
+  const std::string& more = row.at(upright ? "nob_dh" : "nob_dw");
+  const int grown = state.border || place || more.empty() ? 0 : std::stoi(more);
+  if (!state.border && place && !row.at("nob_left").empty()) return std::stoi(row.at("nob_" + edge));
+  if (state.unfolded && upright && !row.at("unf" + fine + "_" + edge).empty()) return std::stoi(row.at("unf" + fine + "_" + edge)) + grown;
+  return std::stoi(row.at(edge + fine)) + grown;
+}
+
+bool wantedVisible(const Row& row, const StripState& state) {
+  std::string shows = row.at("visible");
+  if (state.unfolded && !row.at("unf_visible").empty()) shows = row.at("unf_visible");
+  if (!state.border && !row.at("nob_visible").empty()) shows = row.at("nob_visible");
+  if (!state.sliders && !row.at("nos_visible").empty()) shows = row.at("nos_visible");
+  return shows == "y";
+}
+
+TEST(Layout, TheStripStandsWhereItsTableHasIt) {
+  const auto rows = table("popup.csv");
+  ASSERT_GT(rows.size(), 80U);
+  for (int bits = 0; bits < 16; ++bits) {
+    const StripState state{(bits & 1) != 0, (bits & 2) != 0, (bits & 4) != 0, (bits & 8) != 0};
+    FakeDesktop desktop;
+    SharedState shared;
+    shared.settings.faceplateBorder = state.border ? kOn : kOff;
+    shared.settings.soundMode = state.sliders ? kOwnVolume : kNoSliders;
+    VolCntl form;
+    form.smallFonts = state.coarse;
+    form.load(desktop);
+    StripLayout layout(form, shared);
+    layout.apply();
+    // There and back leaves nothing behind.
+    layout.unfold();
+    if (!state.unfolded) layout.fold();
+    EXPECT_EQ(shared.display.popupLayout, state.unfolded ? kOn : kOff);
+    for (const Row& row : rows) {
+      const std::string where = std::to_string(bits) + ' ' + row.at("name") + row.at("index") + ' ';
+      const auto* control = controlOf(form, row);
+      const Edges edges = control != nullptr ? edgesOf(*control) : Edges{{"width", form.width}, {"height", form.height}};
+      for (const auto& [edge, value] : edges) EXPECT_EQ(value, wantedEdge(row, edge, state)) << where << edge;
+      if (control == nullptr) continue;
+      const std::string& silent = row.at("nos_caption");
+      // The titles are the disc's; the table shows a sample.
+      const bool title = row.at("name") == "Label12" || row.at("name") == "Label13";
+      EXPECT_EQ(control->visible, wantedVisible(row, state)) << where;
+      EXPECT_EQ(control->caption.get(), title ? "" : !state.sliders && !silent.empty() ? silent : row.at("caption")) << where;
     }
   }
 }

@@ -85,6 +85,14 @@ struct Place {
   int height = 0;
 };
 
+/// What a window is to the desktop.
+struct WindowTraits {
+  bool onTop = false;     ///< above all others
+  bool inTaskbar = true;  ///< has a task button
+  bool bodyless = false;  ///< nothing of it but the task button shows
+  bool behind = false;    ///< below all others
+};
+
 class Form : private PropertyOwner {
  public:
   explicit Form(std::string_view name);
@@ -95,6 +103,7 @@ class Form : private PropertyOwner {
   const std::string& name() const { return name_; }
   FormView* view() const { return view_.get(); }
   const std::vector<Control*>& controls() const { return controls_; }
+  virtual WindowTraits traits() const { return {}; }
   /// nullptr when there is none of that name and index.
   Control* find(std::string_view controlName, int index = Control::kNoIndex) const;
 

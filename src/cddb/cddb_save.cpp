@@ -17,6 +17,7 @@ void CddbWindow::Command7_Click() {
     Command1_Click();
     return;
   }
+  state_.disc.searching = false;
   // Told of or not, a file that cannot be written leaves the texts on the display.
   cdData_.Command1_Click();
   logLine("cddb", "named");

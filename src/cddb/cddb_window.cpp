@@ -4,7 +4,6 @@
 #include <algorithm>
 
 #include "base/text.h"
-#include "cddb/placeholders.h"
 #include "cddb/upward.h"
 #include "library/cd_data.h"
 #include "platform/ports/screen.h"
@@ -85,7 +84,7 @@ void CddbWindow::lookUpWhenFree() {
   }
   if (!able || !(wanted || (unknown && settings_.autoConnect))) return;
   upward_.closeTrackList();
-  putSearching(state_.disc);
+  state_.disc.searching = true;
   upward_.showSearching(true);
   state_.library.cddbMode = kAutomatic;
   form_.show(ports_.desktop);
@@ -161,9 +160,7 @@ void CddbWindow::endSession() {
   form_.unload();
   ports_.screen.setPointer(Pointer::Normal);
   upward_.showSearching(false);
-  if (!wasAutomatic || !searching(state_.disc)) return;
-  clearSearching(state_.disc);
-  upward_.readTextsAgain();
+  if (wasAutomatic && std::exchange(state_.disc.searching, false)) upward_.readTextsAgain();
 }
 
 void CddbWindow::backToEditor() {

@@ -88,7 +88,7 @@ void FaceplateLoad::playTrackOfCommandLine() {
 
 void FaceplateLoad::setPlayState() {
   state_.transport.playMode = Cont;
-  state_.program.pgmList.fill(0);
+  state_.program.clearList();
   state_.transport.trackGo = kTrackRuns;
   state_.transport.curTrack = 1;
   state_.disc.discStarted = false;

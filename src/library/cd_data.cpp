@@ -196,8 +196,7 @@ bool CdData::onDeck() const {
 /// It wants artist, title, and a first row with something in it.
 void CdData::updateSubmitKey() {
   constexpr size_t kLeast = 4;
-  const std::string title(trim(form_.Text4.caption.get()));
-  const bool named = !title.empty() && !trim(form_.Text2.caption.get()).empty() && title != "Please Wait...";
+  const bool named = !trim(form_.Text4.caption.get()).empty() && !trim(form_.Text2.caption.get()).empty();
   const bool tracks = characterCount(form_.List1.row(0)) > kLeast;
   form_.Command12.enabled = named && tracks && upward_.mailSenderKnown() && state_.library.cddbMode != kNoSubmission;
 }

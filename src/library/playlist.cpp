@@ -212,7 +212,7 @@ void Playlist::play() {
   state_.program.pgmIndex = 0;
   modes_.Image4_MouseUp(PgmKey);
   state_.transport.pausePosition = 0;
-  state_.program.pgmList.fill(0);
+  state_.program.clearList();
   for (size_t i = 0; i < tracks.size() && i < kProgramEntries; ++i) state_.program.pgmList[i + 1] = static_cast<int16_t>(tracks[i]);
   form_.unload();
   // The disc may have gone meanwhile: the program waits for it then.

@@ -18,8 +18,11 @@ DeckStatus StatusBoard::now() const {
   status.state = disc.drawerOpen ? DeckState::DoorOpen : disc.noDiscState != kDiscAtStart ? DeckState::NoDisc : engine_.heard();
   status.discIn = disc.in();
   status.tracks = disc.trackCount;
-  status.artist = disc.discArtist;
-  status.title = disc.discTitle;
+  if (status.discIn) {
+    status.artist = disc.discArtist;
+    status.title = disc.discTitle;
+    status.searching = disc.searching;
+  }
   const int16_t track = state_.transport.curTrack;
   if (status.discIn && track >= 1 && track <= disc.trackCount) {
     const auto at = static_cast<size_t>(track);
@@ -29,6 +32,8 @@ DeckStatus StatusBoard::now() const {
     if (disc.discStarted && at < disc.trackTitles.size()) status.trackTitle = disc.trackTitles[at];
   }
   status.playMode = state_.transport.playMode;
+  status.shuffle = state_.transport.playMode == Pgm && state_.program.shuffled;
+  status.intro = state_.transport.introTrack > 0;
   status.repeat = state_.settings.repeatOn == kOn;
   status.loop = state_.transport.abSetA;
   status.muted = form_.Image2[0].visible;

@@ -16,10 +16,13 @@ struct DeckStatus {
   int second = 0;  ///< of the track that plays
   int length = 0;  ///< its seconds
   std::string artist;
-  std::string title;       ///< of the disc
+  std::string title;       ///< of the disc; both "" while nobody knows it
+  bool searching = false;  ///< the CDDB is asked for them
   std::string trackTitle;  ///< "" before a track was selected or played
   int16_t playMode = Cont;
   bool repeat = false;
+  bool shuffle = false;
+  bool intro = false;
   bool loop = false;  ///< between A and B, or from A on
   bool discIn = false;
   bool muted = false;

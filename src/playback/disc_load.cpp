@@ -138,7 +138,7 @@ void DiscLoad::deferredTable() {
 void DiscLoad::clearOnRequest() {
   DiscState& disc = state_.disc;
   if (!disc.clearDiscRequest) return;
-  disc.clearDiscRequest = false;
+  disc.clearDiscRequest = disc.searching = false;
   disc.discArtist.clear();
   disc.discTitle.clear();
   display_.emptyHeader();

@@ -38,6 +38,7 @@ void Display::disc(int16_t tracks, std::string_view length) {
 
 std::string Display::header() const {
   const DiscState& disc = state_.disc;
+  if (disc.searching) return "Searching CDDB Online - Please Wait...";
   const bool artist = !trim(disc.discArtist).empty();
   const bool title = !trim(disc.discTitle).empty();
   if (!artist && !title) return {};

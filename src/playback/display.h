@@ -47,7 +47,7 @@ class Display {
 
   // ---- texts
 
-  /// "artist - title"; without the dash when one is empty.
+  /// "artist - title"; without the dash when one is empty. While they are looked up, a word for that.
   std::string header() const;
   /// Header and title line. `word` is the device's state; "Stopped" and "Paused" are shown as such.
   void updateHeader(int16_t track, std::string_view word);

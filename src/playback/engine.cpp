@@ -239,8 +239,7 @@ int Engine::landing(int16_t track, double x) const {
 }
 
 void Engine::clrpgm() {
-  state_.program.pgmList.fill(0);
-  state_.program.pgmCount = 0;
+  state_.program.clearList();
   display_.lamps(state_.disc.lampCount, kLcdDim);
 }
 

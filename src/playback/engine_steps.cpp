@@ -158,10 +158,7 @@ void Engine::emptyProgram() {
 void Engine::programEnd() {
   TransportState& transport = state_.transport;
   ProgramState& program = state_.program;
-  if (state_.settings.repeatOn != kOn) {
-    program.pgmList.fill(0);
-    program.pgmCount = 0;
-  }
+  if (state_.settings.repeatOn != kOn) program.clearList();
   fallSilent();
   display_.clearBar();
   transport.playMode = Cont;

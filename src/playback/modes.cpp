@@ -124,8 +124,9 @@ void Modes::shuffle() {
 /// Drawn anew until a track comes that is not in the list yet, so that every order is as likely as any other.
 void Modes::fillWithChance() {
   const DiscState& disc = state_.disc;
+  state_.program.clearList();
+  state_.program.shuffled = true;
   auto& list = state_.program.pgmList;
-  list.fill(0);
   int tracks = 0;
   for (int track = 1; track <= disc.trackCount; ++track) tracks += isAudio(disc, track) ? 1 : 0;
   std::random_device seed;
@@ -151,12 +152,11 @@ void Modes::rclpgm() {
   if (!state_.program.pgmStored) return;
   if (state_.transport.playMode != Pgm) Image4_MouseUp(PgmKey);
   ProgramState& program = state_.program;
-  program.pgmCount = 0;
   // A pause of the disc before has nothing to resume in the program.
   state_.transport.pausePosition = 0;
   const auto values = DiscFiles(files_, state_.disc.cdFilePath).program();
   if (!values) return;
-  program.pgmList.fill(0);
+  program.clearList();
   for (size_t i = 0; i < values->size() && i < 100; ++i) {
     const int track = (*values)[i];
     const bool good = track >= 1 && track <= state_.disc.lampCount;

@@ -45,6 +45,7 @@ struct DiscState : DiscTexts {
   bool trackTableDone = false;
   bool enhancedCd = false;
   bool clearDiscRequest = false;  ///< the clock clears the disc's texts
+  bool searching = false;         ///< the CDDB is asked by itself: the header says so in place of the disc's name
 
   /// Without a disc at the start, or with the drawer open: no key of the play is heard.
   bool asleep() const { return noDiscState != kDiscAtStart || drawerOpen; }
@@ -79,6 +80,13 @@ struct ProgramState {
   int16_t pgmCount = 0;
   bool pgmStored = false;
   bool skipStep = false;  ///< a step asked for by next is pending
+  bool shuffled = false;  ///< the list's order is one of chance
+
+  void clearList() {
+    pgmList.fill(0);
+    pgmCount = 0;
+    shuffled = false;
+  }
 };
 
 struct DisplayState {

@@ -99,7 +99,8 @@ Tape& hear(PlayRig& rig, Tape& told) {
   rig.orvanta.status().watch([&](const DeckStatus& now) {
     told.push_back(std::to_string(static_cast<int>(now.state)) + " " + std::to_string(now.track) + " of " + std::to_string(now.tracks) +
                    " at " + std::to_string(now.second) + " of " + std::to_string(now.length) + " " + now.trackTitle +
-                   (now.muted ? " muted" : "") + (now.repeat ? " repeat" : "") + (now.discIn ? "" : " no disc"));
+                   (now.muted ? " muted" : "") + (now.shuffle ? " shuffle" : "") + (now.intro ? " intro" : "") +
+                   (now.repeat ? " repeat" : "") + (now.discIn ? "" : " no disc"));
   });
   return told;
 }
@@ -123,6 +124,17 @@ TEST(Status, IsToldOnlyWhenItDiffers) {
   EXPECT_EQ(told, (Tape{"1 1 of 3 at 0 of 180 Title 1", "1 1 of 3 at 1 of 180 Title 1", "1 1 of 3 at 1 of 180 Title 1 repeat",
                         "1 1 of 3 at 1 of 180 Title 1 muted repeat", "2 1 of 3 at 1 of 180 Title 1 muted repeat",
                         "3 0 of 0 at 0 of 0  muted repeat no disc"}));
+  // An order of chance ends with its program, and Intro with a press on stop.
+  PlayRig modes;
+  modes.press(modes.form.Image4[IntroKey]);
+  modes.clock.advance(1500);
+  EXPECT_TRUE(modes.orvanta.status().last().intro);
+  modes.press(modes.form.Image16[Shuffle]);
+  EXPECT_EQ(std::pair(modes.orvanta.status().last().intro, modes.orvanta.status().last().shuffle), std::pair(false, true));
+  modes.press(modes.form.Image4[OneKey]);
+  EXPECT_FALSE(modes.orvanta.status().last().shuffle);
+  modes.program({2});
+  EXPECT_FALSE(modes.orvanta.status().last().shuffle);
   // After a program the fast tick stands still.
   PlayRig still;
   still.program({2});

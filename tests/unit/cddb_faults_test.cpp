@@ -67,8 +67,13 @@ TEST(CddbFaults, ShowsWhatAPersonMustChooseFrom) {
   Cddb hidden;
   hidden.net.script[3].answered = "";
   hidden.begin();
+  hidden.key('D');
   hidden.clock.advance(1000);
   EXPECT_TRUE(hidden.cddb.loaded() && hidden.cddb.parked) << "nothing comes up by itself";
+  // The word for it is the display's alone: nobody takes it for the disc's name.
+  const DeckStatus& status = hidden.orvanta.status().last();
+  EXPECT_EQ(hidden.form.Label12.caption.get(), "Searching CDDB Online - Please Wait...");
+  EXPECT_EQ(status.artist + status.title + (status.searching ? " searching" : ""), " searching");
   Cddb rig;
   rig.net.script[3].answered = "211 list\r\n" + times("misc 1f032a03 Some Artist / Some Title\r\n", 10000) + ".\r\n";
   rig.begin();

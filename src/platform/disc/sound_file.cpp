@@ -1,18 +1,17 @@
 // WAVE and FLAC files of an image, by libsndfile over our own reading: so the file stays closed to programs that
 // are started, and a disk that fails is told from a file that ends.
-#include <sndfile.h>
-
 #include <algorithm>
 
 #include "platform/disc/image_file.h"
 #include "platform/disc/toc.h"
+#include "platform/sound/sndfile_library.h"
 
 namespace orvanta {
 
 namespace {
 
 struct SoundCloser {
-  void operator()(SNDFILE* file) const { sf_close(file); }
+  void operator()(SNDFILE* file) const { SndfileLibrary::loaded()->close(file); }
 };
 
 class SoundFile : public ImageFile {
@@ -26,11 +25,12 @@ class SoundFile : public ImageFile {
     io.seek = [](sf_count_t offset, int whence, void* self) { return of(self).seek(offset, whence); };
     io.read = [](void* out, sf_count_t count, void* self) { return of(self).read(static_cast<char*>(out), count); };
     io.write = [](const void* /*bytes*/, sf_count_t /*count*/, void* /*self*/) -> sf_count_t { return 0; };
-    file_.reset(sf_open_virtual(&io, SFM_READ, &info_, this));
+    if (library_ != nullptr) file_.reset(library_->openVirtual(&io, SFM_READ, &info_, this));
   }
 
   /// Why it is no file for a disc; "" for a good one.
   std::string fault() {
+    if (library_ == nullptr) return " needs libsndfile, which is not installed";
     if (!file_) return " is not a sound file";
     if (info_.channels != 2 || info_.samplerate != kSampleRate) return " is not stereo sound at 44,100 samples a second";
     if (info_.frames <= 0) return " holds no sound";
@@ -57,11 +57,11 @@ class SoundFile : public ImageFile {
   static SoundFile& of(void* self) { return *static_cast<SoundFile*>(self); }
 
   int64_t readPairs(int64_t offset, int64_t wanted, int16_t* samples) {
-    if (offset != next_ && sf_seek(file_.get(), offset, SEEK_SET) < 0) {
+    if (offset != next_ && library_->seek(file_.get(), offset, SEEK_SET) < 0) {
       next_ = -1;
       return 0;
     }
-    const int64_t got = std::clamp<int64_t>(sf_readf_short(file_.get(), samples, wanted), 0, wanted);
+    const int64_t got = std::clamp<int64_t>(library_->readPairs(file_.get(), samples, wanted), 0, wanted);
     next_ = offset + got;
     return got;
   }
@@ -79,6 +79,7 @@ class SoundFile : public ImageFile {
     return std::max<int64_t>(got, 0);
   }
 
+  const SndfileLibrary* library_ = SndfileLibrary::loaded();
   int64_t bytes_ = 0;
   int64_t at_ = 0;  ///< byte that libsndfile reads next
   bool diskFailed_ = false;

@@ -2,13 +2,12 @@
 #include "platform/sound/cubeb_output.h"
 
 #include <cubeb/cubeb.h>
-#include <dlfcn.h>
 
 #include <algorithm>
 #include <atomic>
 #include <cstring>
-#include <type_traits>
 
+#include "platform/linux/late_library.h"
 #include "platform/sound/clocked_output.h"
 #include "platform/sound/samples.h"
 
@@ -19,7 +18,7 @@ namespace {
 /// What lies at the sound server, and passes until a moved slider is heard.
 constexpr uint32_t kLatencyPairs = kSampleRate / 10;
 
-/// The library's calls. It is loaded with the first sound: a dozen others come with it, which a start has no use for.
+/// The library's calls. It is loaded with the first sound.
 struct Cubeb {
   decltype(&cubeb_init) init = nullptr;
   decltype(&cubeb_destroy) destroy = nullptr;
@@ -28,18 +27,17 @@ struct Cubeb {
   decltype(&cubeb_stream_start) start = nullptr;
   decltype(&cubeb_stream_stop) stop = nullptr;
   decltype(&cubeb_stream_get_position) position = nullptr;
-  bool loaded = false;
+  LateLibrary library{"libcubeb.so.0"};
+  bool whole() const { return library.whole(); }
 
   Cubeb() {
-    void* library = dlopen("libcubeb.so.0", RTLD_NOW | RTLD_LOCAL);
-    if (library == nullptr) return;
-    const auto find = [&](auto& call, const char* name) {
-      call = reinterpret_cast<std::remove_reference_t<decltype(call)>>(dlsym(library, name));
-      return call != nullptr;
-    };
-    loaded = find(init, "cubeb_init") && find(destroy, "cubeb_destroy") && find(open, "cubeb_stream_init") &&
-             find(close, "cubeb_stream_destroy") && find(start, "cubeb_stream_start") && find(stop, "cubeb_stream_stop") &&
-             find(position, "cubeb_stream_get_position");
+    library.find(init, "cubeb_init");
+    library.find(destroy, "cubeb_destroy");
+    library.find(open, "cubeb_stream_init");
+    library.find(close, "cubeb_stream_destroy");
+    library.find(start, "cubeb_stream_start");
+    library.find(stop, "cubeb_stream_stop");
+    library.find(position, "cubeb_stream_get_position");
   }
 };
 
@@ -129,7 +127,7 @@ CubebOutputs::~CubebOutputs() = default;
 
 void CubebOutputs::connect() {
   context_ = std::make_unique<Context>();
-  if (!library().loaded || library().init(&context_->handle, "Orvanta LX", nullptr) != CUBEB_OK) context_->handle = nullptr;
+  if (!library().whole() || library().init(&context_->handle, "Orvanta LX", nullptr) != CUBEB_OK) context_->handle = nullptr;
 }
 
 std::unique_ptr<SoundOutput> CubebOutputs::make(SampleFeed& feed, bool afterFailure) {

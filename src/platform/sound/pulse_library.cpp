@@ -1,25 +1,16 @@
 #include "platform/sound/pulse_library.h"
 
-#include <dlfcn.h>
-
-#include <type_traits>
+#include "platform/linux/late_library.h"
 
 namespace orvanta {
 
 namespace {
 
-struct Loaded : PulseLibrary {
-  bool whole = false;
+struct LoadedPulse : PulseLibrary {
+  LateLibrary library{"libpulse.so.0"};
 
-  Loaded() {
-    void* library = dlopen("libpulse.so.0", RTLD_LAZY | RTLD_LOCAL);
-    if (library == nullptr) return;
-    const auto find = [&](auto& call, const char* name) {
-      call = reinterpret_cast<std::remove_reference_t<decltype(call)>>(dlsym(library, name));
-      return call != nullptr;
-    };
-    whole = true;
-#define ORVANTA_PULSE_FIND(name) whole = find(name, "pa_" #name) && whole;
+  LoadedPulse() {
+#define ORVANTA_PULSE_FIND(name) library.find(name, "pa_" #name);
     ORVANTA_PULSE_CALLS(ORVANTA_PULSE_FIND)
 #undef ORVANTA_PULSE_FIND
   }
@@ -28,8 +19,8 @@ struct Loaded : PulseLibrary {
 }  // namespace
 
 const PulseLibrary* PulseLibrary::loaded() {
-  static const Loaded library;
-  return library.whole ? &library : nullptr;
+  static const LoadedPulse loaded;
+  return loaded.library.whole() ? &loaded : nullptr;
 }
 
 }  // namespace orvanta

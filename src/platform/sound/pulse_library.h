@@ -1,5 +1,4 @@
-// The calls of the sound server's library. It is loaded with the first sound: a dozen others come with it, which a
-// start has no use for.
+// The calls of the sound server's library. It is loaded with the first sound.
 #pragma once
 
 #include <pulse/pulseaudio.h>

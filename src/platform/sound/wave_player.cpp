@@ -1,14 +1,13 @@
 // Files through libsndfile; what cannot be read is silent.
 #include "platform/sound/wave_player.h"
 
-#include <sndfile.h>
-
 #include <algorithm>
 #include <chrono>
 #include <utility>
 #include <vector>
 
 #include "platform/sound/samples.h"
+#include "platform/sound/sndfile_library.h"
 
 namespace orvanta {
 
@@ -20,13 +19,15 @@ constexpr auto kFarewell = std::chrono::milliseconds(500);
 
 /// Sample pairs at the stream's rate; empty when the file is none.
 std::vector<int16_t> pairsOf(const std::string& path) {
+  const SndfileLibrary* library = SndfileLibrary::loaded();
+  if (library == nullptr) return {};
   SF_INFO info{};
-  SNDFILE* file = sf_open(path.c_str(), SFM_READ, &info);
+  SNDFILE* file = library->open(path.c_str(), SFM_READ, &info);
   if (file == nullptr) return {};
   const sf_count_t count = std::min<sf_count_t>(info.frames, sf_count_t{kLongest} * info.samplerate);
   std::vector<int16_t> samples(static_cast<size_t>(count * info.channels));
-  const auto got = static_cast<size_t>(std::max<sf_count_t>(sf_readf_short(file, samples.data(), count), 0));
-  sf_close(file);
+  const auto got = static_cast<size_t>(std::max<sf_count_t>(library->readPairs(file, samples.data(), count), 0));
+  library->close(file);
   const auto channels = static_cast<size_t>(info.channels);
   std::vector<int16_t> pairs;
   const auto wanted = static_cast<size_t>(got * uint64_t{kSampleRate} / static_cast<uint64_t>(info.samplerate));

@@ -1,6 +1,7 @@
 // Whole-file reading and writing. A write goes to a file beside the old one, which it then replaces.
 #include "platform/linux/host_files.h"
 
+#include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -10,6 +11,7 @@
 #include <cstdio>
 #include <ctime>
 #include <filesystem>
+#include <memory>
 #include <system_error>
 
 #include "base/text.h"
@@ -33,13 +35,17 @@ bool writeAll(int fd, std::string_view bytes) {
   return true;
 }
 
-/// A name that differs from `wanted` in letter case alone; "" when the folder has none.
-std::string inFolder(const fs::path& folder, const std::string& wanted) {
-  std::error_code error;
-  for (auto entry = fs::directory_iterator(folder.empty() ? "." : folder, error); !error && entry != fs::directory_iterator();
-       entry.increment(error)) {
-    std::string name = entry->path().filename().string();
-    if (equalsNoCase(name, wanted)) return name;
+struct FolderCloser {
+  void operator()(DIR* folder) const { ::closedir(folder); }
+};
+
+/// A name that differs from `wanted` in letter case alone; "" when the folder has none. Each file that is not there costs
+/// such a look, and the discs' folder may have many thousand names.
+std::string inFolder(const fs::path& folder, std::string_view wanted) {
+  const std::unique_ptr<DIR, FolderCloser> open(::opendir(folder.empty() ? "." : folder.c_str()));
+  if (!open) return {};
+  while (const dirent* entry = ::readdir(open.get())) {
+    if (const std::string_view name = entry->d_name; equalsNoCase(name, wanted)) return entry->d_name;
   }
   return {};
 }

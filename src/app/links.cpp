@@ -42,7 +42,10 @@ bool Links::restartWaits() const {
          core_.categoryForm.loaded() || core_.playlistForm.loaded() || dialogs_.open();
 }
 
-void Links::runSetup() { core_.life_.setup.run(); }
+void Links::runSetup() {
+  core_.life_.setup.run();
+  core_.shell_.wallpaper.settingsChanged();
+}
 
 void Links::record() {
   if (core_.life_.recorder.ready() && core_.library_.cdData.mayBeLost()) core_.life_.recorder.run();
@@ -96,6 +99,10 @@ void Links::closeDiscWindows() {
   closeTrackList();
   if (!core_.library_.cdData.openForPerson()) core_.editor.unload();
 }
+
+void Links::switchWallpaper() { core_.shell_.wallpaper.wpfp1(); }
+
+void Links::showHelp(int topic) { core_.shell_.help.show(topic); }
 
 // ---- the CDDB
 

@@ -51,8 +51,10 @@ class Links : public PlaybackUpward, public FaceplateUpward, public LibraryUpwar
   void showSearching(bool now) override;
   void readTextsAgain() override;
 
+  void showHelp(int topic) override;
+  void switchWallpaper() override;
+
   // Windows and programs that are still to come aboard; their keys do nothing yet.
-  void showHelp(int /*topic*/) override {}
   void showMenu() override {}
   void launchEnhancedDisc() override {}
   void lookForLyrics() override {}

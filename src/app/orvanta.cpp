@@ -29,6 +29,8 @@ LibraryPorts forLibrary(const Ports& all) {
 
 CddbPorts forCddb(const Ports& all) { return {all.clock, all.dialogs, all.files, all.net, all.screen, all.desktop}; }
 
+ShellPorts forShell(const Ports& all) { return {all.dialogs, all.files, all.processes, all.screen, all.system, all.desktop}; }
+
 LifePorts forLife(const Ports& all) {
   return {all.device, all.auxVolume, all.clock, all.dialogs, all.files, all.processes, all.screen, all.system};
 }
@@ -42,6 +44,7 @@ Orvanta::Orvanta(Ports& ports)
       faceplate_(forFaceplate(ports), playback_, form, state, links_),
       library_(forLibrary(ports), playback_, {editor, playlistForm, infoForm}, form, state, links_),
       cddb_(forCddb(ports), library_.cdData, editor, {cddbForm, categoryForm, mailForm}, form, state, links_),
+      shell_(forShell(ports), faceplate_.drawer, wallpaperForm, form, state),
       life_(forLife(ports), playback_, faceplate_, form, state) {
   playback_.status.watch([this](const DeckStatus& /*now*/) { library_.cdData.markPlaying(); });
 }
@@ -51,7 +54,10 @@ void Orvanta::startUp(const HostOptions& options) { life_.startUp.run(options); 
 void Orvanta::showFaceplate() {
   form.smallFonts = state.process.smallFonts;
   library_.genres.readUserCaptions();
+  const bool first = !form.loaded();
+  if (first) shell_.wallpaper.beforeDeck();
   form.show(ports_.desktop);
+  if (first) shell_.wallpaper.behindDeck();
   life_.keeper.start([this] { keepDrafts(); });
 }
 
@@ -77,7 +83,10 @@ void Orvanta::secondStart(const SecondStart& start) {
   if (leadingNumber(state.process.commandWord) > 0) faceplate_.load.playTrackOfCommandLine();
 }
 
-void Orvanta::takeUpSettings() { life_.setup.takeUp(); }
+void Orvanta::takeUpSettings() {
+  life_.setup.takeUp();
+  shell_.wallpaper.settingsChanged();
+}
 
 void Orvanta::endOfSession() {
   if (!form.loaded()) end();

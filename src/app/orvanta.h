@@ -9,6 +9,7 @@
 #include "library/library.h"
 #include "platform/ports/ports.h"
 #include "playback/playback.h"
+#include "shell/shell.h"
 
 namespace orvanta {
 
@@ -46,6 +47,7 @@ class Orvanta {
   cddbmain cddbForm;
   cddbcatg categoryForm;
   cddbmail mailForm;
+  Form26 wallpaperForm;
   SharedState state;
 
  private:
@@ -57,6 +59,7 @@ class Orvanta {
   Faceplate faceplate_;
   Library library_;
   Cddb cddb_;
+  Shell shell_;
   Life life_;
 };
 

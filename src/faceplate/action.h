@@ -48,6 +48,7 @@ enum class Action : uint8_t {
   Playlist,
   EnhancedDisc,
   Menu,
+  Wallpaper,
   Help,
   Exit,
 };

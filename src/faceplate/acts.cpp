@@ -155,6 +155,7 @@ const Act kActs[] = {
     {Action::Playlist, kClicks, Refuses::Row, upward<&FaceplateUpward::showPlaylist>, discIn, off},
     {Action::EnhancedDisc, kClicks, Refuses::Row, upward<&FaceplateUpward::launchEnhancedDisc>, always, off},
     {Action::Menu, kSilent, Refuses::Row, upward<&FaceplateUpward::showMenu>, always, off},
+    {Action::Wallpaper, kSilent, Refuses::Row, upward<&FaceplateUpward::switchWallpaper>, always, off},
     {Action::Help, kSilent, Refuses::Row, [](P on, By, int) { on.upward.showHelp(kHelpTopic); }, always, off},
     {Action::Exit, kClicks, Refuses::Row, upward<&FaceplateUpward::exitProgram>, always, off},
 };

@@ -34,6 +34,9 @@ class Drawer {
   /// Leaves the hourglass: a new process follows. Nothing on the small or expanded faceplate.
   void closedrawer();
 
+  /// It slides.
+  bool busy() const { return motion_ != Motion::None; }
+
   /// Shows the frames that are due by now, for one who waits without a timer.
   void follow();
 

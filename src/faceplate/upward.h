@@ -8,6 +8,7 @@ class FaceplateUpward {
   virtual ~FaceplateUpward() = default;
   virtual void showHelp(int topic) = 0;
   virtual void showMenu() = 0;
+  virtual void switchWallpaper() = 0;
   virtual void showCdData() = 0;
   virtual void showPlaylist() = 0;
   virtual void showTrackList() = 0;

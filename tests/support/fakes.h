@@ -133,11 +133,12 @@ class FakeProcesses : public Processes {
   bool running(Id id) const override { return alive.count(id) > 0; }
   int runAndWait(const ProcessRequest& request) override { return start(request) != 0 ? exitCode : -1; }
   bool nameRuns(const std::string& program) const override { return names.count(program) > 0; }
-  bool canStart(const std::string& program) const override { return missing.count(program) == 0; }
+  bool canStart(const std::string& program) const override { return !bare && missing.count(program) == 0; }
 
   Tape tape;
   std::set<Id> alive;
   std::set<std::string> missing;  ///< programs that are not there
+  bool bare = false;              ///< a host without any program
   int exitCode = 0;               ///< of what is waited for
   std::set<std::string> names;
   bool fail = false;
@@ -155,6 +156,7 @@ class FakeScreen : public Screen {
   int textWidthTwips(const std::string& text, const std::string& /*family*/, double points, bool /*bold*/) const override {
     return static_cast<int>(static_cast<double>(text.size()) * points * 10);
   }
+  PictureSize pictureSize(const std::string& /*path*/) const override { return picture; }
   std::vector<WorkArea> workAreas() const override {
     return areas.empty() ? std::vector<WorkArea>{{"", {0, 0, widthTwips(), heightTwips()}}} : areas;
   }
@@ -166,6 +168,7 @@ class FakeScreen : public Screen {
   int bits = 24;
   std::set<std::string> missing;
   std::vector<WorkArea> areas;  ///< none: the whole screen
+  PictureSize picture;          ///< of every picture file
   Pointer pointer = Pointer::Normal;
 };
 

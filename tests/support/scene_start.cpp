@@ -40,6 +40,12 @@ const std::map<std::string, Preparation> kPreparations = {
        rig.settings.faceplateBitmapOn = 1;
        rig.files.files[upper(w.value)] = "x";
      }},
+    {"paper",
+     [](PlayRig& rig, const Word& w) {
+       rig.settings.wallpaperFile = w.list().at(0);
+       rig.screen.picture = {w.number(1), w.number(2)};
+     }},
+    {"papercolour", [](PlayRig& rig, const Word& w) { rig.settings.wallpaperColor = colour(w); }},
     {"file", [](PlayRig& rig, const Word& w) {
        const size_t colon = w.value.find(':');
        rig.files.files[upper(w.value.substr(0, colon))] = w.value.substr(colon + 1);
@@ -53,6 +59,9 @@ int16_t* setting(Settings& settings, const std::string& name) {
                                                   {"expandedDisplay", &settings.expandedDisplay},
                                                   {"editorFromFaceplate", &settings.editorFromFaceplate},
                                                   {"lcdCustom", &settings.lcdCustom},
+                                                  {"minToTray", &settings.minToTray},
+                                                  {"wallpaper", &settings.wallpaperOption},
+                                                  {"filling", &settings.wallpaperMode},
                                                   {"showLights", &settings.showLights},
                                                   {"border", &settings.faceplateBorder}};
   for (const auto& [known, value] : all) {

@@ -60,6 +60,7 @@ class Scene {
   Tape asked(const std::string& what) const {
     if (what == "start") return atStart_;
     if (what == "all") return Snapshot(*front_).whole();
+    if (what == "body") return {placeOf(*front_) + " " + std::to_string(front_->backColor)};
     if (what != "look") return {};
     Tape all = Snapshot(*front_).captions();
     static const std::set<std::string> display = {"Label6", "Label8", "Label9", "Label10", "Label12", "Label13", "Label14", "Label30"};
@@ -140,10 +141,11 @@ class Scene {
     if (act.verb == "no-start") return unstartable_ = act.value, true;
     if (act.verb == "notice") return rig_.player.answer = {TrayOffer::Answer::Notice, act.value}, true;
     if (act.verb == "program") return program(act);
-    if (act.verb == "look" || act.verb == "all" || act.verb == "start") return asked_ = act.verb, true;
+    if (act.verb == "look" || act.verb == "all" || act.verb == "body" || act.verb == "start") return asked_ = act.verb, true;
     if (act.verb == "artist") return rig_.state.disc.discArtist = act.value, true;
     if (act.verb == "clear-disc") return rig_.state.disc.clearDiscRequest = kOn, true;
     if (act.verb == "setup") return rig_.state.process.setupWanted = kOn, true;
+    if (act.verb == "wallpaper") return enter([&] { rig_.orvanta.actions().run(Action::Wallpaper); });
     if (act.verb == "fails") return rig_.player.failure = true, rig_.player.stop(), true;
     if (act.verb == "drag") return enter([&] { rig_.form.dragged(act.number(0), act.number(1)); });
     if (act.verb == "device") return rig_.player.play(act.number(), rig_.player.disc.leadOut), true;
@@ -175,8 +177,8 @@ class Scene {
     static const std::map<std::string, int> named = {
         {"<Enter>", forms::key::kEnter},    {"<Space>", forms::key::kSpace}, {"<Tab>", forms::key::kTab},   {"<Esc>", forms::key::kEscape},
         {"<Up>", forms::key::kUp},          {"<Down>", forms::key::kDown},   {"<Left>", forms::key::kLeft}, {"<Right>", forms::key::kRight},
-        {"<Back>", forms::key::kBackspace}, {"<F4>", forms::key::kF1 + 3},   {"<F5>", forms::key::kF1 + 4}, {"<F6>", forms::key::kF1 + 5},
-        {"<F7>", forms::key::kF1 + 6}};
+        {"<Back>", forms::key::kBackspace}, {"<F1>", forms::key::kF1},       {"<F4>", forms::key::kF1 + 3}, {"<F5>", forms::key::kF1 + 4},
+        {"<F6>", forms::key::kF1 + 5},      {"<F7>", forms::key::kF1 + 6}};
     if (const auto found = named.find(act.verb); found != named.end()) return key(found->second), true;
     for (const char c : act.verb) {
       if ((c < 'A' || c > 'Z') && (c < '0' || c > '9')) return false;
@@ -310,7 +312,8 @@ class Scene {
                                {&rig_.orvanta.infoForm, false, {}, {}},
                                {&rig_.orvanta.cddbForm, false, {}, {}},
                                {&rig_.orvanta.categoryForm, false, {}, {}},
-                               {&rig_.orvanta.mailForm, false, {}, {}}};
+                               {&rig_.orvanta.mailForm, false, {}, {}},
+                               {&rig_.orvanta.wallpaperForm, false, {}, {}}};
   forms::Form* front_ = &rig_.form;
   std::string summary_;
   std::string focus_;

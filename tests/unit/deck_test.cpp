@@ -10,7 +10,7 @@ class Deck : public testing::TestWithParam<const char*> {};
 
 TEST_P(Deck, DoesAsItIsWritten) { expectTranscript(std::string("deck/") + GetParam() + ".txt"); }
 
-INSTANTIATE_TEST_SUITE_P(All, Deck, testing::Values("play", "hands", "looks", "sliders", "comings", "windows", "online", "starts"),
+INSTANTIATE_TEST_SUITE_P(All, Deck, testing::Values("play", "hands", "looks", "sliders", "comings", "windows", "online", "shell", "starts"),
                          [](const auto& each) { return std::string(each.param); });
 
 }  // namespace

@@ -26,6 +26,11 @@ struct WorkArea {
   int height() const { return twips.bottom - twips.top; }
 };
 
+struct PictureSize {
+  int width = 0;
+  int height = 0;
+};
+
 class Screen {
  public:
   virtual ~Screen() = default;
@@ -39,6 +44,8 @@ class Screen {
   virtual bool hasFont(const std::string& family) const = 0;
   /// How wide one line of text would be drawn.
   virtual int textWidthTwips(const std::string& text, const std::string& family, double points, bool bold) const = 0;
+  /// Of a picture file at its natural size, in twips; 0 x 0 for one that cannot be read.
+  virtual PictureSize pictureSize(const std::string& path) const = 0;
   /// Of all screens, the primary one first; never none.
   virtual std::vector<WorkArea> workAreas() const = 0;
   /// One pointer for the whole program, last write wins; it never blocks input.

@@ -16,6 +16,11 @@ class System {
   virtual std::string windowsDir() const = 0;
   /// The path of a program of the family, whether or not it is installed.
   std::string companion(const std::string& name) const { return windowsDir() + "/" + name; }
+  /// The path of a file that comes with the programs, as a help text.
+  std::string shared(const std::string& name) const {
+    const std::string programs = windowsDir();
+    return programs.substr(0, programs.rfind('/')) + "/share/orvanta/" + name;
+  }
   /// Where data lies unless the settings say otherwise: $XDG_DATA_HOME/orvanta.
   virtual std::string defaultDataDir() const = 0;
   /// The desktop's own mixer program; "" when none is installed.

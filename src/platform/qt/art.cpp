@@ -31,7 +31,7 @@ void paintPlain(Art& art) {
       art.painter.setPen(QPen(qColour(c.foreColor), 1));
       art.painter.drawLine(QPointF(0, .5), QPointF(art.w, art.h + .5));
       break;
-    case forms::Kind::Image: break;
+    case forms::Kind::Image: ownPicture(art); break;
     default: fill(art.painter, QRectF(0, 0, art.w, art.h), qColour(c.backColor)); break;
   }
 }

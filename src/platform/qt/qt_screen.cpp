@@ -3,6 +3,7 @@
 
 #include <QCursor>
 #include <QGuiApplication>
+#include <QImageReader>
 #include <QScreen>
 #include <algorithm>
 #include <cmath>
@@ -36,6 +37,11 @@ int QtScreen::textWidthTwips(const std::string& text, const std::string& family,
     width += advance.x();
   }
   return static_cast<int>(width / kMeasured * points * kTwipsPerPoint);
+}
+
+PictureSize QtScreen::pictureSize(const std::string& path) const {
+  const QSize size = QImageReader(QString::fromStdString(path)).size();
+  return size.isValid() ? PictureSize{scale_.twips(size.width()), scale_.twips(size.height())} : PictureSize{};
 }
 
 std::vector<WorkArea> QtScreen::workAreas() const {

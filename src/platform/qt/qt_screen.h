@@ -17,6 +17,7 @@ class QtScreen : public Screen {
   int planes() const override { return 1; }
   bool hasFont(const std::string& family) const override;
   int textWidthTwips(const std::string& text, const std::string& family, double points, bool bold) const override;
+  PictureSize pictureSize(const std::string& path) const override;
   std::vector<WorkArea> workAreas() const override;
   void setPointer(Pointer pointer) override;
 

@@ -1,0 +1,24 @@
+// What the shell is given of the world.
+#pragma once
+
+namespace orvanta {
+
+class Dialogs;
+class Files;
+class Processes;
+class Screen;
+class System;
+namespace forms {
+class Desktop;
+}
+
+struct ShellPorts {
+  Dialogs& dialogs;
+  Files& files;
+  Processes& processes;
+  Screen& screen;
+  System& system;
+  forms::Desktop& desktop;
+};
+
+}  // namespace orvanta

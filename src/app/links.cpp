@@ -108,7 +108,7 @@ void Links::showHelp(int topic) { core_.shell_.help.show(topic); }
 
 void Links::openCddb() { core_.cddb_.window.open(); }
 
-void Links::automaticLookup() { core_.cddb_.window.discKnown(); }
+void Links::automaticLookup() { core_.cddb_.lookup.discKnown(); }
 
 void Links::submitToCddb() { core_.cddb_.submitter.open(); }
 

@@ -34,9 +34,9 @@ TrackTable CddbWindow::trackTable() const {
 }
 
 void CddbWindow::Command8_Click() {
-  if (!settings_.complete()) {
+  if (!setup_.settings().complete()) {
     wait(false);
-    box(BoxStyle::Critical, "Orvanta CDDB Online Search", kIncomplete);
+    showBox(ports_, BoxStyle::Critical, "Orvanta CDDB Online Search", kIncomplete);
     if (byItself()) endSession();
     return;
   }
@@ -44,12 +44,12 @@ void CddbWindow::Command8_Click() {
   // Old matches are those of a connection that has gone.
   form_.List2.clear();
   form_.Command9.enabled = false;
+  setup_.giveUpUpdate();
   session_.reset();
-  sitesUpdate_ = false;
   wait(true);
   form_.inetstatus.caption = "Attempting to Connect to CDDB Server...";
   form_.inetstatus.refresh();
-  session_ = startSession(ports_.net, settings_, trackTable(), submitting() ? Purpose::DiscId : Purpose::Lookup, *this);
+  session_ = startSession(ports_.net, setup_.settings(), trackTable(), submitting() ? Purpose::DiscId : Purpose::Lookup, *this);
 }
 
 void CddbWindow::sessionStatus(const std::string& text) {
@@ -69,13 +69,13 @@ void CddbWindow::discIdKnown(const std::string& discId) {
 
 void CddbWindow::tableRefused(const std::string& serverLine) {
   wait(false);
-  box(BoxStyle::Critical, "Orvanta", withReason("Unable to connect to the Internet", serverLine));
+  showBox(ports_, BoxStyle::Critical, "Orvanta", withReason("Unable to connect to the Internet", serverLine));
   if (byItself()) endSession();
 }
 
 void CddbWindow::discNotFound(const std::string& serverLine) {
   wait(false);
-  box(BoxStyle::Information, kTitle, withReason(kNotFound, serverLine));
+  showBox(ports_, BoxStyle::Information, kTitle, withReason(kNotFound, serverLine));
   form_.inetstatus.caption = "Audio CD not found in the CDDB";
   if (automatic()) endSession();
 }
@@ -159,43 +159,27 @@ void CddbWindow::nothingArrived() {
 }
 
 void CddbWindow::sessionFailed(const std::string& reason) {
-  const bool cddbp = settings_.useCddbp || sitesUpdate_;
+  const bool cddbp = setup_.settings().useCddbp || setup_.updating();
   wait(false);
   if (!cddbp) form_.inetstatus.caption = "Unable to communicate with host";
-  box(BoxStyle::Critical, kTitle, withReason(noHost(cddbp), reason));
+  showBox(ports_, BoxStyle::Critical, kTitle, withReason(noHost(cddbp), reason));
   backToEditor();
 }
 
 // ---- the list of servers
 
 void CddbWindow::Command10_Click() {
-  takeAddress();
   showTab(Online);
   session_.reset();
   wait(true);
   form_.Command8.enabled = false;
-  lists().beginUpdate();
-  form_.Combo1.clear();
-  sitesUpdate_ = true;
-  CddbSettings asking = settings_;
-  asking.cddbServer = cddb_defaults::kHost;
-  asking.cddbPort = cddb_defaults::kPort;
-  session_ = startSession(ports_.net, asking, {}, Purpose::Sites, *this);
+  session_ = startSession(ports_.net, setup_.beginUpdate(), {}, Purpose::Sites, *this);
 }
 
 void CddbWindow::sitesArrived(const std::string& list) {
-  sitesUpdate_ = false;
   wait(false);
-  const bool stored = lists().finishUpdate(list);
-  if (stored) {
-    box(BoxStyle::Information, "Orvanta", "CDDB Sites Listing Successfully Downloaded!");
-  } else {
-    lists().giveUpUpdate();
-    box(BoxStyle::Warning, "Orvanta", "The list of servers could not be written.\n\nThe one that was there stays.");
-  }
+  setup_.finishUpdate(list);
   form_.Command8.enabled = true;
-  loadcombo1();
-  chooseSite(0);
   showTab(Setup);
 }
 

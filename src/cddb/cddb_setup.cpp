@@ -1,9 +1,12 @@
-// The Setup tab: servers, protocol, proxy, the user's address, mail.
+// Servers, protocol, proxy, the user's address, mail.
+#include "cddb/cddb_setup.h"
+
 #include <algorithm>
 
 #include "base/text.h"
-#include "cddb/cddb_window.h"
 #include "platform/ports/files.h"
+#include "platform/ports/screen.h"
+#include "state/data_folder.h"
 #include "state/not_written.h"
 
 namespace orvanta {
@@ -37,12 +40,22 @@ Address addressIn(const std::string& text) {
 
 }  // namespace
 
-/// As they are stored: what was chosen here and cancelled is forgotten.
-void CddbWindow::readSettings() { settings_ = storedCddbSettings(ports_.files, state_.settings.appDir); }
+void showBox(const CddbPorts& ports, BoxStyle style, const char* title, const std::string& text) {
+  ports.screen.setPointer(Pointer::Normal);
+  ports.dialogs.message(style, title, text);
+}
 
-ServerLists CddbWindow::lists() const { return {ports_.files, state_.settings.appDir}; }
+// ---- the tab
 
-void CddbWindow::showSettings() {
+void CddbSetup::load() {
+  updating_ = false;
+  settings_ = storedCddbSettings(ports_.files, deck_.appDir);
+  form_.Command12.visible = form_.Text6.visible = form_.Label32.visible = false;
+  form_.Command10.visible = settings_.complete();
+  show();
+}
+
+void CddbSetup::show() {
   form_.Text6.caption = settings_.submitAddress.empty() ? cddb_defaults::kSubmissions : settings_.submitAddress;
   form_.Text7.caption = settings_.smtpServer;
   form_.Text2.caption = std::to_string(settings_.smtpPort);
@@ -67,7 +80,7 @@ void CddbWindow::showSettings() {
 }
 
 /// The proxy serves HTTP alone; a list of servers comes over CDDBP alone.
-void CddbWindow::showProtocol() {
+void CddbSetup::showProtocol() {
   const bool cddbp = settings_.useCddbp;
   form_.Option2[0].value = !cddbp;
   form_.Option2[1].value = cddbp;
@@ -83,14 +96,14 @@ void CddbWindow::showProtocol() {
   form_.Text3.enabled = form_.Text8.enabled = form_.Captions[kUserCaption].enabled = form_.Captions[kPasswordCaption].enabled = known;
 }
 
-void CddbWindow::loadcombo1() {
+void CddbSetup::loadcombo1() {
   sites_ = lists().load(settings_.useCddbp);
   std::vector<std::string> names;
   for (const Site& site : sites_) names.push_back(site.siteName);
   form_.Combo1.setItems(std::move(names));
 }
 
-void CddbWindow::chooseSite(size_t index) {
+void CddbSetup::chooseSite(size_t index) {
   if (index >= sites_.size()) return;
   const Site& site = sites_[index];
   form_.Combo1.caption = site.siteName;
@@ -99,7 +112,7 @@ void CddbWindow::chooseSite(size_t index) {
   form_.Text4.caption = std::to_string(site.sitePort);
 }
 
-void CddbWindow::chooseProtocol(bool cddbp) {
+void CddbSetup::chooseProtocol(bool cddbp) {
   if (cddbp == settings_.useCddbp) return;
   settings_.useCddbp = cddbp;
   showProtocol();
@@ -111,15 +124,26 @@ void CddbWindow::chooseProtocol(bool cddbp) {
   chooseSite(0);
 }
 
-void CddbWindow::edited(forms::Control& control) {
-  if (&control != &form_.Combo1) return;
-  const auto chosen = std::find_if(sites_.begin(), sites_.end(), [&](const Site& site) { return site.siteName == control.caption.get(); });
+void CddbSetup::serverEdited() {
+  const std::string& name = form_.Combo1.caption;
+  const auto chosen = std::find_if(sites_.begin(), sites_.end(), [&](const Site& site) { return site.siteName == name; });
   if (chosen != sites_.end()) chooseSite(static_cast<size_t>(chosen - sites_.begin()));
+}
+
+void CddbSetup::pressed(const std::string& name) {
+  if (name == "Command12") {
+    form_.Text6.caption = cddb_defaults::kSubmissions;
+  } else if (name == "Check1") {
+    form_.Check1.value = !form_.Check1.value;
+  } else if (name == "Check2") {
+    form_.Check2.value = !form_.Check2.value;
+    showProtocol();
+  }
 }
 
 // ---- ENTER
 
-bool CddbWindow::enter(forms::Control& control) {
+bool CddbSetup::enter(forms::Control& control) {
   struct Link {
     forms::Control& from;
     forms::Control& to;
@@ -140,22 +164,22 @@ bool CddbWindow::enter(forms::Control& control) {
   return true;
 }
 
-bool CddbWindow::enterPort(forms::TextBox& field, const char* usual) {
+bool CddbSetup::enterPort(const forms::TextBox& field, const char* usual) {
   if (portIn(field) > 0) return true;
-  box(BoxStyle::Warning, "Orvanta", usual);
+  showBox(ports_, BoxStyle::Warning, "Orvanta", usual);
   return false;
 }
 
-bool CddbWindow::enterAddress() {
+bool CddbSetup::enterAddress() {
   if (!takeAddress()) {
-    box(BoxStyle::Critical, "Orvanta", "Invalid email address format - example of proper format: someone@example.com");
+    showBox(ports_, BoxStyle::Critical, "Orvanta", "Invalid email address format - example of proper format: someone@example.com");
     return false;
   }
   if (trimmed(form_.Text7).empty()) form_.Text7.caption = settings_.emailDomain;
   return true;
 }
 
-bool CddbWindow::takeAddress() {
+bool CddbSetup::takeAddress() {
   const Address address = addressIn(form_.Text5.caption);
   if (address.user.empty()) return false;
   settings_.emailUser = address.user;
@@ -165,12 +189,11 @@ bool CddbWindow::takeAddress() {
 
 // ---- OK
 
-/// Out of the controls; false when something is missing, of which the user has been told.
 /// A name of the list stands for its server; anything else that was typed is the server.
-bool CddbWindow::takeServer() {
+bool CddbSetup::takeServer() {
   const std::string typed(trim(form_.Combo1.caption.get()));
   if (typed.empty()) {
-    box(BoxStyle::Warning, "Orvanta", kIncomplete);
+    showBox(ports_, BoxStyle::Warning, "Orvanta", kIncomplete);
     return false;
   }
   const bool listed = std::any_of(sites_.begin(), sites_.end(), [&](const Site& site) { return site.siteName == typed; });
@@ -180,21 +203,19 @@ bool CddbWindow::takeServer() {
   return true;
 }
 
-bool CddbWindow::takeSetup() {
-  forms::Control* missing = nullptr;
+forms::Control* CddbSetup::missing() {
   if (!trimmed(form_.Text5).empty()) {
-    if (!enterAddress()) missing = &form_.Text5;
+    if (!enterAddress()) return &form_.Text5;
   } else if (!trim(settings_.cddbServer).empty()) {
-    box(BoxStyle::Warning, "Orvanta", "You must enter your email address to access the CDDB Online!");
-    missing = &form_.Text5;
+    showBox(ports_, BoxStyle::Warning, "Orvanta", "You must enter your email address to access the CDDB Online!");
+    return &form_.Text5;
   }
-  if (missing == nullptr && !takeServer()) missing = &form_.Combo1;
-  if (missing == nullptr && !enterPort(form_.Text4, kServerPorts)) missing = &form_.Text4;
-  if (missing != nullptr) {
-    if (activeTab_ != Setup) showTab(Setup);
-    form_.setFocus(*missing);
-    return false;
-  }
+  if (!takeServer()) return &form_.Combo1;
+  return enterPort(form_.Text4, kServerPorts) ? nullptr : &form_.Text4;
+}
+
+forms::Control* CddbSetup::take() {
+  if (forms::Control* field = missing()) return field;
   settings_.cddbSiteName = form_.Combo1.caption;
   settings_.cddbPort = portIn(form_.Text4);
   settings_.proxyServer = settings_.useCddbp ? proxyKept_ : trimmed(form_.Text1);
@@ -204,22 +225,51 @@ bool CddbWindow::takeSetup() {
   settings_.submitAddress = trimmed(form_.Text6);
   settings_.smtpServer = trimmed(form_.Text7);
   settings_.smtpPort = mailPort(portIn(form_.Text2));
-  return true;
+  return nullptr;
 }
 
-/// False when a file could not be written: the window stays with what was typed.
-bool CddbWindow::writeSetup() {
-  const std::string& folder = state_.settings.appDir;
+bool CddbSetup::write() {
+  const std::string& folder = deck_.appDir;
   const bool mail = !settings_.submitAddress.empty() && !settings_.smtpServer.empty();
   if (!trim(settings_.cddbServer).empty() && !writeCddbSettings(ports_.files, folder, settings_)) {
-    tellNotWritten(ports_.dialogs, ports_.files, joinPath(folder, kOnlineFile));
+    tellNotWritten(ports_.dialogs, ports_.files, DataFolder(ports_.files, folder).path(DataFile::Online));
     return false;
   }
   if (mail && !writeMailSettings(ports_.files, folder, settings_)) {
-    tellNotWritten(ports_.dialogs, ports_.files, joinPath(folder, kMailFile));
+    tellNotWritten(ports_.dialogs, ports_.files, DataFolder(ports_.files, folder).path(DataFile::Mail));
     return false;
   }
   return true;
+}
+
+// ---- the list of servers
+
+CddbSettings CddbSetup::beginUpdate() {
+  takeAddress();
+  lists().beginUpdate();
+  form_.Combo1.clear();
+  updating_ = true;
+  CddbSettings asking = settings_;
+  asking.cddbServer = cddb_defaults::kHost;
+  asking.cddbPort = cddb_defaults::kPort;
+  return asking;
+}
+
+void CddbSetup::finishUpdate(const std::string& list) {
+  updating_ = false;
+  if (lists().finishUpdate(list)) {
+    showBox(ports_, BoxStyle::Information, "Orvanta", "CDDB Sites Listing Successfully Downloaded!");
+  } else {
+    lists().giveUpUpdate();
+    showBox(ports_, BoxStyle::Warning, "Orvanta", "The list of servers could not be written.\n\nThe one that was there stays.");
+  }
+  loadcombo1();
+  chooseSite(0);
+}
+
+void CddbSetup::giveUpUpdate() {
+  if (updating_) lists().giveUpUpdate();
+  updating_ = false;
 }
 
 }  // namespace orvanta

@@ -12,8 +12,8 @@ namespace orvanta {
 
 namespace {
 
-constexpr int kLookInterval = 100;  ///< milliseconds
-constexpr int kOutOfSight = 100;    ///< twips past the screen's right edge
+constexpr int kStartInterval = 100;  ///< milliseconds
+constexpr int kOutOfSight = 100;     ///< twips past the screen's right edge
 constexpr const char* kReadyText =
     "Establish your Internet Connection, then select \"Start Search\" below to find the Audio CD in the CDDB Online.";
 
@@ -21,21 +21,25 @@ bool ready(const cddbmain& form) { return form.inetstatus.caption.get().rfind("E
 
 }  // namespace
 
-CddbWindow::CddbWindow(const CddbPorts& ports, CdData& cdData, acdtabs& editor, cddbmain& form, CDForm& faceplate, SharedState& state,
-                       CddbUpward& upward)
+CddbWindow::CddbWindow(const CddbPorts& ports, CdData& cdData, acdtabs& editor, cddbmain& form, SharedState& state, CddbUpward& upward)
     : ports_(ports),
       cdData_(cdData),
       editor_(editor),
       form_(form),
-      faceplate_(faceplate),
       state_(state),
       upward_(upward),
+      setup_(ports, form, state.settings),
       Timer1_(ports.clock.makeTimer([this] { timer1_timer(); })) {
   form.setEvents(this);
 }
 
 void CddbWindow::open() {
   if (byItself()) endSession();
+  form_.show(ports_.desktop);
+}
+
+void CddbWindow::setUp() {
+  state_.library.cddbMode = kResting;
   form_.show(ports_.desktop);
 }
 
@@ -53,36 +57,7 @@ void CddbWindow::giveUpDiscId() {
 
 // ---- the automatic lookup
 
-void CddbWindow::discKnown() {
-  discKnown_ = true;
-  Timer1_->setInterval(kLookInterval);
-}
-
-void CddbWindow::timer1_timer() {
-  if (!form_.loaded()) {
-    lookUpWhenFree();
-  } else if (automatic() && !boxOpen_ && session_ == nullptr && ready(form_)) {
-    form_.Command8.enabled = true;
-    Command8_Click();
-  }
-}
-
-void CddbWindow::lookUpWhenFree() {
-  if (!discKnown_ || (lookedUp_ && !lookupWanted_)) {
-    Timer1_->setInterval(0);
-    return;
-  }
-  if (cdData_.openForPerson() || !upward_.lookupMayStart()) return;
-  lookedUp_ = true;
-  const bool wanted = std::exchange(lookupWanted_, false);
-  readSettings();
-  const bool unknown = trim(faceplate_.Label12.caption.get()).empty() && state_.disc.trackTitles[1].empty();
-  const bool able = settings_.cddbPort > 0 && !trim(settings_.cddbSiteName).empty() && !trim(settings_.emailUser).empty();
-  if (!able && wanted) {
-    state_.library.cddbMode = kResting;
-    open();
-  }
-  if (!able || !(wanted || (unknown && settings_.autoConnect))) return;
+void CddbWindow::lookUp() {
   upward_.closeTrackList();
   state_.disc.searching = true;
   upward_.showSearching(true);
@@ -90,15 +65,11 @@ void CddbWindow::lookUpWhenFree() {
   form_.show(ports_.desktop);
 }
 
-/// With CD Data open it is that window's disc that is looked up, where its user sees it.
-void CddbWindow::cddbdnld() {
-  if (openForPerson() || automatic()) return;
-  if (cdData_.openForPerson()) {
-    open();
-  } else {
-    lookupWanted_ = true;
-    Timer1_->setInterval(kLookInterval);
-  }
+/// The search begins once the window stands, and no box is in its way.
+void CddbWindow::timer1_timer() {
+  if (!automatic() || ports_.dialogs.open() || session_ != nullptr || !ready(form_)) return;
+  form_.Command8.enabled = true;
+  Command8_Click();
 }
 
 void CddbWindow::cddbcanz() {
@@ -109,14 +80,11 @@ void CddbWindow::cddbcanz() {
 
 void CddbWindow::load() {
   unseen_ = byItself();
-  sitesUpdate_ = false;
   record_ = {};
-  readSettings();
-  if (settings_.useCddbp) listener_ = ports_.net.listen(kListenPort);
-  form_.Command12.visible = form_.Text6.visible = form_.Label32.visible = false;
+  setup_.load();
+  if (setup_.settings().useCddbp) listener_ = ports_.net.listen(kListenPort);
   clrcon();
   wait(false);
-  showSettings();
   form_.parked = unseen_;
   if (unseen_) {
     form_.left = ports_.screen.widthTwips() + kOutOfSight;
@@ -125,11 +93,10 @@ void CddbWindow::load() {
     editor_.enabled = false;
   }
   // Without settings that are complete there is nothing to search with.
-  const bool known = settings_.complete();
+  const bool known = setup_.settings().complete();
   form_.CommandT[Online].enabled = known || unseen_;
-  form_.Command10.visible = known;
   showTab(known || unseen_ ? Online : Setup);
-  Timer1_->setInterval(kLookInterval);
+  if (automatic()) Timer1_->setInterval(kStartInterval);
 }
 
 void CddbWindow::activate() {
@@ -137,6 +104,7 @@ void CddbWindow::activate() {
 }
 
 void CddbWindow::unload() {
+  Timer1_->setInterval(0);
   session_.reset();
   listener_.reset();
   editor_.enabled = true;
@@ -151,8 +119,7 @@ void CddbWindow::centre() {
 
 /// Every end of a lookup: nothing of it stays, and the next one starts afresh.
 void CddbWindow::endSession() {
-  if (sitesUpdate_) lists().giveUpUpdate();
-  sitesUpdate_ = false;
+  setup_.giveUpUpdate();
   session_.reset();
   const bool wasAutomatic = automatic();
   if (submitting()) editor_.Label25.visible = false;
@@ -179,15 +146,14 @@ void CddbWindow::Command1_Click() {
   if (session_ != nullptr) session_->leave();
   session_.reset();
   wait(false);
-  if (takeSetup() && writeSetup()) backToEditor();
-}
-
-/// The lookup's timer stays quiet while a box is open.
-void CddbWindow::box(BoxStyle style, const char* title, const std::string& text) {
-  boxOpen_ = true;
-  ports_.screen.setPointer(Pointer::Normal);
-  ports_.dialogs.message(style, title, text);
-  boxOpen_ = false;
+  forms::Control* const missing = setup_.take();
+  if (missing == nullptr) {
+    // A file that cannot be written leaves the window with what was typed.
+    if (setup_.write()) backToEditor();
+    return;
+  }
+  if (activeTab_ != Setup) showTab(Setup);
+  form_.setFocus(*missing);
 }
 
 // ---- tabs
@@ -203,7 +169,7 @@ void CddbWindow::showTab(int16_t tab) {
   if (tab != Online) return;
   form_.Command8.enabled = true;
   if (ready(form_)) return;
-  if (session_ != nullptr && !sitesUpdate_) {
+  if (session_ != nullptr && !setup_.updating()) {
     session_->leave();
     session_.reset();
     wait(false);
@@ -230,7 +196,7 @@ void CddbWindow::mouseUp(forms::Control* control, const forms::Mouse& mouse) {
   if (control->name() == "CommandT") {
     showTab(static_cast<int16_t>(control->index()));
   } else if (control->name() == "Option2") {
-    chooseProtocol(control->index() == 1);
+    setup_.chooseProtocol(control->index() == 1);
   } else {
     pressed(control->name());
   }
@@ -243,24 +209,23 @@ void CddbWindow::pressed(const std::string& name) {
   for (const auto& [key, handler] : kKeys) {
     if (name == key) return (this->*handler)();
   }
-  if (name == "Command12") {
-    form_.Text6.caption = cddb_defaults::kSubmissions;
-  } else if (name == "Command13") {
+  if (name == "Command13") {
     upward_.showHelp(kHelpTopic);
   } else if (name == "Label1") {
     upward_.showPage("https://gnudb.org");
   } else if (name == "Label13") {
     upward_.showPage("https://en.wikipedia.org/wiki/CDDB");
-  } else if (name == "Check1") {
-    form_.Check1.value = !form_.Check1.value;
-  } else if (name == "Check2") {
-    form_.Check2.value = !form_.Check2.value;
-    showProtocol();
+  } else {
+    setup_.pressed(name);
   }
 }
 
 void CddbWindow::click(forms::Control& control) {
   if (&control == &form_.List2 && form_.List2.listIndex() >= 0) form_.Command9.enabled = true;
+}
+
+void CddbWindow::edited(forms::Control& control) {
+  if (&control == &form_.Combo1) setup_.serverEdited();
 }
 
 bool CddbWindow::keyDown(const forms::KeyPress& key) {
@@ -276,7 +241,7 @@ bool CddbWindow::keyDown(const forms::KeyPress& key) {
     form_.Text6.caption = cddb_defaults::kTestSubmissions;
   } else {
     const bool enterAlone = key.code == forms::key::kEnter && !key.shift && !key.control && !key.alt;
-    return enterAlone && form_.activeControl() != nullptr && enter(*form_.activeControl());
+    return enterAlone && form_.activeControl() != nullptr && setup_.enter(*form_.activeControl());
   }
   return true;
 }

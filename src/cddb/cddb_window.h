@@ -3,21 +3,17 @@
 
 #include <memory>
 #include <string>
-#include <vector>
 
-#include "cddb/cddb_settings.h"
+#include "cddb/cddb_setup.h"
 #include "cddb/disc_record.h"
 #include "cddb/ports.h"
-#include "cddb/server_list.h"
 #include "cddb/session.h"
 #include "platform/forms/form.h"
 #include "platform/ports/clock.h"
-#include "platform/ports/dialogs.h"
 #include "platform/ports/net.h"
 #include "state/shared_state.h"
 #include "windows/acdtabs.h"
 #include "windows/cddbmain.h"
-#include "windows/cdform.h"
 
 namespace orvanta {
 
@@ -33,18 +29,20 @@ class DiscIdTaker {
 
 class CddbWindow : public forms::FormEvents, private SessionEvents {
  public:
-  CddbWindow(const CddbPorts& ports, CdData& cdData, acdtabs& editor, cddbmain& form, CDForm& faceplate, SharedState& state,
-             CddbUpward& upward);
+  CddbWindow(const CddbPorts& ports, CdData& cdData, acdtabs& editor, cddbmain& form, SharedState& state, CddbUpward& upward);
 
   /// By a person, from CD Data; alone where nobody is known to the servers yet.
   void open();
-  /// The disc's table is complete: an unknown disc is looked up, once a process, as soon as nothing stands in the way.
-  void discKnown();
-  /// "Get CDDB Data Online".
-  void cddbdnld();
+  /// By a person who must tell first who they are, since no lookup can begin.
+  void setUp();
+  /// The disc on the deck, out of sight.
+  void lookUp();
   /// Cancels an automatic lookup; nothing without one.
   void cddbcanz();
+  bool loaded() const { return form_.loaded(); }
   bool openForPerson() const { return form_.loaded() && !unseen_; }
+  /// An automatic lookup is under way.
+  bool automatic() const { return state_.library.cddbMode == kAutomatic; }
   /// Asks the server, out of sight, for the id of the disc in CD Data. A failure is told to the user, not to the taker.
   void checkDiscId(DiscIdTaker& taker);
   /// That question, if one is under way, is over.
@@ -80,13 +78,10 @@ class CddbWindow : public forms::FormEvents, private SessionEvents {
   void clrcon();
   void endSession();
   void backToEditor();
-  void box(BoxStyle style, const char* title, const std::string& text);
-  bool automatic() const { return state_.library.cddbMode == kAutomatic; }
   bool submitting() const { return state_.library.cddbMode == kSubmission; }
   /// No person opened the window.
   bool byItself() const { return automatic() || submitting(); }
   void timer1_timer();
-  void lookUpWhenFree();
 
   // The search.
   void wait(bool due);
@@ -106,46 +101,21 @@ class CddbWindow : public forms::FormEvents, private SessionEvents {
   void fillEditor();
   void fillEditorRows();
 
-  // The Setup tab.
-  ServerLists lists() const;
-  void readSettings();
-  void showSettings();
-  void showProtocol();
-  void loadcombo1();
-  void chooseSite(size_t index);
-  void chooseProtocol(bool cddbp);
-  bool enter(forms::Control& control);
-  bool enterAddress();
-  bool takeAddress();
-  bool enterPort(forms::TextBox& box, const char* usual);
-  static constexpr const char* kIncomplete = "Unable to continue... All required information in the setup tab has not been input";
-  bool takeServer();
-  bool takeSetup();
-  bool writeSetup();
-
   CddbPorts ports_;
   CdData& cdData_;
   acdtabs& editor_;
   cddbmain& form_;
-  CDForm& faceplate_;
   SharedState& state_;
   CddbUpward& upward_;
-  CddbSettings settings_;
-  std::vector<Site> sites_;
+  CddbSetup setup_;
   std::unique_ptr<Session> session_;
   std::unique_ptr<Connection> listener_;
   std::unique_ptr<Timer> Timer1_;
   DiscIdTaker* taker_ = nullptr;  ///< of a submission
   DiscRecord record_;
   std::string matchCategory_;
-  std::string proxyKept_;  ///< while the field is empty, since the protocol knows no proxies
   int16_t activeTab_ = Online;
-  bool sitesUpdate_ = false;
   bool unseen_ = false;  ///< nobody sees the window
-  bool boxOpen_ = false;
-  bool discKnown_ = false;
-  bool lookedUp_ = false;      ///< the automatic lookup was considered
-  bool lookupWanted_ = false;  ///< a person asked for one
 };
 
 }  // namespace orvanta

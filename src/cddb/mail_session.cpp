@@ -3,8 +3,8 @@
 
 #include "base/log.h"
 #include "base/text.h"
-#include "cddb/cddb_settings.h"
 #include "cddb/wire_text.h"
+#include "state/cddb_settings.h"
 
 namespace orvanta {
 

@@ -1,10 +1,10 @@
 // Where no box is told, the reason stands in CD Data's status line until the next submission.
 #include "cddb/mail_window.h"
 
-#include "cddb/cddb_settings.h"
 #include "cddb/wire_text.h"
 #include "library/placing.h"
 #include "platform/ports/screen.h"
+#include "state/cddb_settings.h"
 
 namespace orvanta {
 

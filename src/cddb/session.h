@@ -6,10 +6,10 @@
 #include <string>
 #include <string_view>
 
-#include "cddb/cddb_settings.h"
 #include "cddb/matches.h"
 #include "cddb/road.h"
 #include "cddb/toc_text.h"
+#include "state/cddb_settings.h"
 
 namespace orvanta {
 

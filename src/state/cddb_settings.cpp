@@ -1,12 +1,13 @@
 // Fields in the files' order, one table for reading and writing.
-#include "cddb/cddb_settings.h"
+#include "state/cddb_settings.h"
 
 #include <variant>
 
 #include "base/text.h"
-#include "cddb/server_list.h"
 #include "platform/ports/files.h"
+#include "state/data_folder.h"
 #include "state/field_file.h"
+#include "state/server_list.h"
 
 namespace orvanta {
 
@@ -79,19 +80,19 @@ std::string CddbSettings::submissionsTo() const {
 }
 
 bool readCddbSettings(Files& files, const std::string& appDir, CddbSettings& settings) {
-  return readFile(files, joinPath(appDir, kOnlineFile), kOnlineFields, settings);
+  return readFile(files, DataFolder(files, appDir).path(DataFile::Online), kOnlineFields, settings);
 }
 
 bool writeCddbSettings(Files& files, const std::string& appDir, const CddbSettings& settings) {
-  return writeFile(files, joinPath(appDir, kOnlineFile), kOnlineFields, settings);
+  return writeFile(files, DataFolder(files, appDir).path(DataFile::Online), kOnlineFields, settings);
 }
 
 bool readMailSettings(Files& files, const std::string& appDir, CddbSettings& settings) {
-  return readFile(files, joinPath(appDir, kMailFile), kMailFields, settings);
+  return readFile(files, DataFolder(files, appDir).path(DataFile::Mail), kMailFields, settings);
 }
 
 bool writeMailSettings(Files& files, const std::string& appDir, const CddbSettings& settings) {
-  return writeFile(files, joinPath(appDir, kMailFile), kMailFields, settings);
+  return writeFile(files, DataFolder(files, appDir).path(DataFile::Mail), kMailFields, settings);
 }
 
 CddbSettings storedCddbSettings(Files& files, const std::string& appDir) {
@@ -108,7 +109,7 @@ int mailPort(int port) { return port < 1 || port > 9999 ? 25 : port; }
 
 bool writeMissingCddbFiles(Files& files, const std::string& appDir) {
   bool all = ServerLists(files, appDir).writeMissing();
-  if (!files.exists(joinPath(appDir, kOnlineFile))) {
+  if (!files.exists(DataFolder(files, appDir).path(DataFile::Online))) {
     CddbSettings fresh;
     fresh.cddbServer = cddb_defaults::kHost;
     fresh.cddbSiteName = cddb_defaults::kSiteName;

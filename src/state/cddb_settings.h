@@ -9,9 +9,6 @@ namespace orvanta {
 
 class Files;
 
-inline constexpr const char* kOnlineFile = "cddbol.dat";
-inline constexpr const char* kMailFile = "cddbml.dat";
-
 /// Where servers of old called back; nothing is read there.
 inline constexpr uint16_t kListenPort = 1001;
 

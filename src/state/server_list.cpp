@@ -1,12 +1,13 @@
 // Reading lists that servers, users and older programs wrote; keeping the last good one.
-#include "cddb/server_list.h"
+#include "state/server_list.h"
 
 #include <algorithm>
 
 #include "base/code_page.h"
 #include "base/text.h"
-#include "cddb/cddb_settings.h"
 #include "platform/ports/files.h"
+#include "state/cddb_settings.h"
+#include "state/data_folder.h"
 
 namespace orvanta {
 
@@ -66,10 +67,10 @@ std::vector<Site> readSites(std::string_view bytes) {
 
 ServerLists::ServerLists(Files& files, const std::string& appDir)
     : files_(files),
-      folder_(joinPath(appDir, "datacd")),
-      cddbp_(joinPath(folder_, "srvcddbp.txt")),
-      backup_(joinPath(folder_, "srvcddbp.bak")),
-      http_(joinPath(folder_, "srvhttp.txt")) {}
+      folder_(DataFolder(files, appDir).discs()),
+      cddbp_(DataFolder(files, appDir).path(DataFile::Servers)),
+      backup_(DataFolder(files, appDir).path(DataFile::ServersBackup)),
+      http_(DataFolder(files, appDir).path(DataFile::HttpServers)) {}
 
 std::vector<Site> ServerLists::load(bool cddbp) {
   if (!cddbp) return readSites(files_.read(http_).value_or(""));

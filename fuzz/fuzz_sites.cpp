@@ -1,7 +1,7 @@
 // Lists of servers, as they were downloaded or typed: any bytes give at most 250 sites that can be shown and dialled.
 #include "base/code_page.h"
-#include "cddb/server_list.h"
 #include "fuzz/check.h"
+#include "state/server_list.h"
 
 using namespace orvanta;
 

@@ -3,7 +3,7 @@
 #include <cstdlib>
 
 #include "app/command_line.h"
-#include "app/second_start.h"
+#include "state/second_start.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size);
 

@@ -5,9 +5,9 @@
 #include <filesystem>
 
 #include "base/text.h"
-#include "cddb/cddb_settings.h"
 #include "platform/linux/host_files.h"
 #include "platform/linux/host_system.h"
+#include "state/cddb_settings.h"
 #include "state/settings_files.h"
 
 namespace orvanta {
@@ -37,7 +37,7 @@ void linkDemo(const HostFiles& files, const std::string& demo, const std::string
 
 /// ORVWIN.INI with its folders: a whole one is left alone, of a short one what it says is kept.
 bool nameFolder(HostFiles& files, const HostSystem& system, const Settings& settings) {
-  const std::string path = joinPath(system.systemDir(), fileName(SettingsFile::Orvwin));
+  const std::string path = DataFolder(files, system.systemDir()).path(SettingsFile::Orvwin);
   if (files.exists(path) && !files.read(path)) return false;
   Settings held = settings;
   if (readSettings(SettingsFile::Orvwin, files, system.systemDir(), held)) return true;
@@ -48,15 +48,17 @@ bool nameFolder(HostFiles& files, const HostSystem& system, const Settings& sett
 
 bool setUp(HostFiles& files, const HostSystem& system, const Settings& settings) {
   const std::string& folder = settings.appDir;
+  const DataFolder data(files, folder);
   if (!writeMissingSettings(files, settings) || !writeMissingCddbFiles(files, folder) || !nameFolder(files, system, settings)) return false;
-  if (settings.cdProbePath == HostSystem::usualDrive(folder) && files.makeFolder(settings.cdProbePath)) {
+  if (settings.cdProbePath == usualDrive(folder) && files.makeFolder(settings.cdProbePath)) {
     linkDemo(files, system.demoFolder(), settings.cdProbePath);
-    takeFiles(files, system.demoFolder(), joinPath(folder, "datacd"), ".CD");
+    takeFiles(files, system.demoFolder(), data.discs(), ".CD");
   }
   // Records of discs that come with the drive, and the deck's sounds.
-  takeFiles(files, settings.cdProbePath, joinPath(folder, "datacd"), ".CD");
-  const std::string sounds = joinPath(folder, "system");
-  if (files.makeFolder(sounds)) takeFiles(files, joinPath(system.windowsDir(), "../share/orvanta/system"), sounds, ".WAV");
+  takeFiles(files, settings.cdProbePath, data.discs(), ".CD");
+  if (files.makeFolder(data.ownFiles())) {
+    takeFiles(files, joinPath(system.windowsDir(), "../share/orvanta/system"), data.ownFiles(), ".WAV");
+  }
   return true;
 }
 
@@ -68,7 +70,7 @@ int run(int argc, char** argv) {
   }
   const std::string folder = argv[1];
   HostFiles files;
-  if (setUp(files, system, defaultSettings(folder, argc > 2 ? argv[2] : HostSystem::usualDrive(folder)))) return 0;
+  if (setUp(files, system, defaultSettings(folder, argc > 2 ? argv[2] : usualDrive(folder)))) return 0;
   std::fprintf(stderr, "lxinit: %s cannot be set up: %s\n", folder.c_str(), files.reason().c_str());
   return 1;
 }

@@ -8,7 +8,6 @@
 #include <cstring>
 #include <memory>
 
-#include "app/second_start.h"
 #include "base/text.h"
 #include "platform/linux/host_files.h"
 #include "platform/linux/host_processes.h"
@@ -16,6 +15,7 @@
 #include "platform/linux/local_socket.h"
 #include "settings_window.h"
 #include "state/record_file.h"
+#include "state/second_start.h"
 #include "state/settings_files.h"
 
 namespace orvanta {
@@ -26,8 +26,7 @@ constexpr SettingsFile kFamily[] = {SettingsFile::Orvwin1, SettingsFile::Orvwin3
 class Setup {
  public:
   /// `folder` is "" for the one of ORVWIN.INI.
-  explicit Setup(const std::string& folder)
-      : settings_(defaultSettings(system_.defaultDataDir(), HostSystem::usualDrive(system_.defaultDataDir()))) {
+  explicit Setup(const std::string& folder) : settings_(defaultSettings(system_.defaultDataDir(), usualDrive(system_.defaultDataDir()))) {
     read(SettingsFile::Orvwin, system_.systemDir());
     other_ = !folder.empty() && identityOf(folder) != identityOf(settings_.appDir);
     if (other_) settings_.appDir = folder;
@@ -64,7 +63,7 @@ class Setup {
 
   /// Read plainly: the display colours that the deck works out of them are not to be written back.
   void read(SettingsFile file, const std::string& folder) {
-    const std::string path = joinPath(folder, fileName(file));
+    const std::string path = DataFolder(files_, folder).path(file);
     const auto record = readRecordFile(files_, path);
     if (record) readFields(file, record->reader(), settings_);
     if (!record && files_.exists(path)) unreadable_ = path;

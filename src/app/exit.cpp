@@ -24,15 +24,14 @@ void Exit::endOfSession() {
 
 void Exit::save() {
   volume_.releaseMute();
-  form_.Label28.foreColor = colours::kDarkRed;
-  writeSettings(SettingsFile::SettingsDat, ports_.files, state_.settings.appDir, state_.settings);
+  keepModes(ports_.files, state_.settings);
 }
 
 void Exit::leave() {
   volume_.mixer().tidyUp();
   DataFolder(ports_.files, state_.settings.appDir).unmark(DataFile::Running);
   ports_.screen.setPointer(Pointer::Hourglass);
-  form_.SSPanel3.backColor = colours::kRed;
+  looks_.goingOff();
   form_.SSPanel3.refresh();
   if (state_.transport.playingFlag) {
     state_.transport.playingFlag = false;

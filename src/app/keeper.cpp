@@ -30,7 +30,7 @@ void Keeper::look() {
   const std::string fields = now();
   if (fields == kept_) return;
   kept_ = fields;
-  writeSettings(SettingsFile::SettingsDat, ports_.files, state_.settings.appDir, state_.settings);
+  keepModes(ports_.files, state_.settings);
 }
 
 }  // namespace orvanta

@@ -3,13 +3,13 @@
 
 #include "app/life.h"
 #include "app/links.h"
-#include "app/second_start.h"
 #include "cddb/cddb.h"
 #include "faceplate/faceplate.h"
 #include "library/library.h"
 #include "platform/ports/ports.h"
 #include "playback/playback.h"
 #include "shell/shell.h"
+#include "state/second_start.h"
 
 namespace orvanta {
 

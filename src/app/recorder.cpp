@@ -1,24 +1,18 @@
 // Hand-over to the recorder: the user's own by its command line, else ours with audiocd.dat.
 #include "app/recorder.h"
 
-#include "base/text.h"
 #include "platform/ports/cd_device.h"
 #include "platform/ports/clock.h"
 #include "platform/ports/core_gate.h"
 #include "platform/ports/dialogs.h"
 #include "platform/ports/files.h"
 #include "platform/ports/system.h"
+#include "records/recorder_texts.h"
 #include "state/data_folder.h"
 #include "state/not_written.h"
 #include "state/settings_files.h"
 
 namespace orvanta {
-
-namespace {
-
-constexpr size_t kNotes = 30;  ///< characters of the liner notes that the recorder shows
-
-}  // namespace
 
 ProcessRequest Recorder::request() const {
   const Settings& settings = state_.settings;
@@ -42,10 +36,11 @@ bool Recorder::ready() {
 }
 
 void Recorder::run() {
-  const std::string file = DataFolder(ports_.files, state_.settings.appDir).path(DataFile::RecorderTexts);
+  const DataFolder data(ports_.files, state_.settings.appDir);
+  const FieldWriter texts = writtenFields(recorderTexts(state_.disc, state_.disc.trackCount));
   // Nothing is let go of before the recorder can have what it needs.
-  if (!usersOwn() && !ports_.files.write(file, texts())) {
-    tellNotWritten(ports_.dialogs, ports_.files, file);
+  if (!usersOwn() && !data.save(DataFile::RecorderTexts, texts)) {
+    tellNotWritten(ports_.dialogs, ports_.files, data.path(DataFile::RecorderTexts));
     return;
   }
   letGo();
@@ -60,30 +55,15 @@ void Recorder::letGo() {
   state_.transport.playingFlag = state_.transport.pausedFlag = false;
   looks_.show(DeckState::Leaving);
   looks_.flash(Record);
-  writeSettings(SettingsFile::SettingsDat, ports_.files, settings.appDir, settings);
+  keepModes(ports_.files, settings);
   place_.saveposn1();
   volume_.releaseMute();
   volume_.mixer().tidyUp();
-  form_.Label28.foreColor = colours::kDarkRed;
-  form_.SSPanel3.backColor = colours::kRed;
+  looks_.goingOff();
   ports_.device.command("Stop");
   ports_.device.command("Close");
   form_.minimised = true;
   DataFolder(ports_.files, settings.appDir).unmark(DataFile::Running);
-}
-
-std::string Recorder::texts() const {
-  const DiscState& disc = state_.disc;
-  FieldWriter out;
-  out.text(disc.discArtist);
-  out.text(disc.discTitle);
-  out.number(disc.trackCount);
-  for (size_t track = 1; track <= 100; ++track) out.text(disc.trackTitles[track]);
-  const std::string notes(trim(firstCharacters(disc.linerNotes, kNotes)));
-  out.text(notes.empty() ? disc.discInfo[4] : notes);
-  out.text(disc.discInfo[5]);
-  out.text(disc.extraInfo[2]);
-  return out.bytes();
 }
 
 }  // namespace orvanta

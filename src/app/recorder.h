@@ -25,7 +25,6 @@ class Recorder {
  private:
   bool usersOwn() const { return !state_.settings.recordCommand.empty(); }
   ProcessRequest request() const;
-  std::string texts() const;
   void tellNotStarted();
   void letGo();
 

@@ -26,7 +26,7 @@ void Restart::forDisc(const std::function<void()>& meanwhile) {
   const DataFolder data(ports_.files, folder);
   volume_.releaseMute();
   ports_.auxVolume.keep();
-  writeSettings(SettingsFile::SettingsDat, ports_.files, folder, state_.settings);
+  keepModes(ports_.files, state_.settings);
   data.mark(DataFile::HandOver);
   ProcessRequest request{{ports_.system.companion("orvanlx")}, folder, WindowStyle::Normal};
   for (const std::string& argument : ports_.system.handedOn()) request.arguments.push_back(argument);

@@ -26,8 +26,8 @@ bool readPlaces(Files& files, const std::string& systemDir, Settings& settings) 
 
 }  // namespace
 
-bool setUpFirstStart(const Files& files, Processes& processes, const System& system) {
-  if (files.exists(joinPath(system.systemDir(), fileName(SettingsFile::Orvwin)))) return true;
+bool setUpFirstStart(Files& files, Processes& processes, const System& system) {
+  if (files.exists(DataFolder(files, system.systemDir()).path(SettingsFile::Orvwin))) return true;
   const std::string helper = system.companion("lxinit");
   return files.exists(helper) && processes.runAndWait({{helper, system.defaultDataDir()}, "", WindowStyle::Normal}) == 0;
 }
@@ -38,7 +38,7 @@ Places placesOf(const HostOptions& options, Files& files, const std::string& sys
   Places places{settings.appDir, settings.cdProbePath};
   if (!options.dataDir.empty()) {
     places.dataDir = options.dataDir;
-    if (places.drive.empty()) places.drive = joinPath(options.dataDir, "drive");
+    if (places.drive.empty()) places.drive = usualDrive(options.dataDir);
   }
   if (!options.drive.empty()) places.drive = options.drive;
   return places;
@@ -73,8 +73,6 @@ void StartUp::runProgram(const std::string& words) {
 }
 
 void StartUp::measureScreen() {
-  const int width = ports_.screen.widthPixels();
-  state_.process.screenClass = static_cast<int16_t>(width < 800 ? 1 : width < 1024 ? 2 : width < 1280 ? 3 : 4);
   state_.process.smallFonts = ports_.screen.twipsPerPixel() > 14;
   state_.process.colourCount = (int64_t{1} << std::clamp(ports_.screen.bitsPerPixel(), 1, 62)) * ports_.screen.planes();
 }
@@ -134,7 +132,7 @@ void StartUp::runSetup(const std::string& folder) {
 void StartUp::readSettingsFiles() {
   Settings& settings = state_.settings;
   const std::string& folder = settings.appDir;
-  if (!ports_.files.exists(joinPath(folder, "orvwin1.ini"))) runSetup(folder);
+  if (!ports_.files.exists(DataFolder(ports_.files, folder).path(SettingsFile::Orvwin1))) runSetup(folder);
   for (const auto file :
        {SettingsFile::Orvwin1, SettingsFile::Orvwin7, SettingsFile::SettingsDat, SettingsFile::Orvwin3, SettingsFile::Orvwin4}) {
     readSettings(file, ports_.files, folder, settings);

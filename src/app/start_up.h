@@ -26,7 +26,7 @@ Places placesOf(const HostOptions& options, Files& files, const std::string& sys
 
 /// A first start, one without ORVWIN.INI, sets itself up in the usual folder, without a word. False when that did not
 /// come about; a start that is none changes nothing.
-bool setUpFirstStart(const Files& files, Processes& processes, const System& system);
+bool setUpFirstStart(Files& files, Processes& processes, const System& system);
 
 class StartUp {
  public:

@@ -22,7 +22,7 @@ bool Buttons::pressStarts(size_t key) {
   modes_.stopintro();
   engine_.settle();
   if (!looks_.accepts(key)) return false;
-  icntla_MouseDown(key);
+  faceDown(key);
   return true;
 }
 
@@ -33,11 +33,9 @@ void Buttons::pressEnds(size_t key) {
   if (looks_.accepts(key)) icntla_MouseUp(key);
 }
 
-void Buttons::icntla_MouseDown(size_t key) {
-  if (asleep()) return;
-  modes_.stopintro();
-  // One key gives way at a time: a letter key struck meanwhile leaves the one under the mouse alone.
-  if (state_.settings.smallFaceplate == kOn || down_ || !looks_.accepts(key)) return;
+/// One key gives way at a time: a letter key struck meanwhile leaves the one under the mouse alone.
+void Buttons::faceDown(size_t key) {
+  if (state_.settings.smallFaceplate == kOn || down_) return;
   auto& face = form_.icntla[key];
   const int depth = pressDepth(state_);
   face.move(face.left + depth, face.top + depth);

@@ -21,8 +21,7 @@ class Buttons {
   void pressEnds(size_t key);
   /// The face that went down comes back; nothing is done.
   void faceUp(size_t key);
-  // A press moves the face and shows its shadow, the release acts. Called by program they always act.
-  void icntla_MouseDown(size_t key);
+  /// What a key stands for. Called by program it always acts.
   void icntla_MouseUp(size_t key);
 
   void scntla_MouseDown(size_t key);
@@ -37,6 +36,8 @@ class Buttons {
 
  private:
   bool asleep() const { return state_.disc.asleep(); }
+  /// A pressed key lies a little deeper, over its shadow.
+  void faceDown(size_t key);
   void timeMode();
 
   Engine& engine_;

@@ -105,7 +105,7 @@ void FaceplateLoad::activate() {
 }
 
 void FaceplateLoad::unload() {
-  writeSettings(SettingsFile::SettingsDat, files_, state_.settings.appDir, state_.settings);
+  keepModes(files_, state_.settings);
   state_.disc.trackTableDone = false;
   DataFolder(files_, state_.settings.appDir).unmark(DataFile::Running);
 }

@@ -26,7 +26,7 @@ class SliderPair {
   /// `link`: 0 shows apart, 1 linked. While `muted` shows, no hand moves a slider. `drag` is a VolumeDrag, of all
   /// windows that have sliders.
   SliderPair(const SliderControls& left, const SliderControls& right, forms::ControlArray<forms::Image, 2>& link,
-             const forms::Control& muted, int16_t& drag)
+             const forms::Control& muted, VolumeDrag& drag)
       : sliders_{left, right}, link_(link), muted_(muted), drag_(drag) {}
 
   /// nullopt for a control that is part of neither.
@@ -65,7 +65,7 @@ class SliderPair {
   std::array<SliderControls, 2> sliders_;
   forms::ControlArray<forms::Image, 2>& link_;
   const forms::Control& muted_;
-  int16_t& drag_;
+  VolumeDrag& drag_;
 };
 
 }  // namespace orvanta

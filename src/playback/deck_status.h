@@ -19,7 +19,7 @@ struct DeckStatus {
   std::string title;       ///< of the disc; both "" while nobody knows it
   bool searching = false;  ///< the CDDB is asked for them
   std::string trackTitle;  ///< "" before a track was selected or played
-  int16_t playMode = Cont;
+  PlayMode playMode = Cont;
   bool repeat = false;
   bool shuffle = false;
   bool intro = false;

@@ -28,7 +28,7 @@ class DiscLoad {
         upward_(upward) {}
 
   /// At the faceplate's load: true with a playable disc, which is loaded then. Without one
-  /// noDiscState is 2.
+  /// noDiscState is kNoDiscAtStart.
   bool probe();
 
   /// The track table, filled on the first tick so that the faceplate appears first; then the

@@ -268,7 +268,7 @@ void Engine::mmcontrol1_EjectClick() {
     transport.introStart = 0;
     display_.playMode("Cont");
     display_.program(state_.program.pgmStored);
-    looks_.lightMode(Cont);
+    looks_.lightMode(ContKey);
   }
   display_.doorOpen();
   state_.volume.leftAttenPrev = state_.volume.leftAtten;

@@ -143,7 +143,7 @@ void Engine::programEntry(int16_t entry) {
 void Engine::emptyProgram() {
   state_.transport.playMode = Cont;
   display_.playMode("Cont");
-  looks_.lightMode(Cont);
+  looks_.lightMode(ContKey);
   state_.program.skipStep = false;
   if (device_.mode() == DeviceMode::Playing) {
     // With a correction the device may be in the next track already.
@@ -164,7 +164,7 @@ void Engine::programEnd() {
   transport.playMode = Cont;
   display_.playMode("Cont");
   looks_.greyChance(program.pgmStored);
-  looks_.lightMode(Cont);
+  looks_.lightMode(ContKey);
   transport.trackGo = kTrackRuns;
   transport.curTrack = 0;
   display_.track(0);

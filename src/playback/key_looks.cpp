@@ -111,7 +111,7 @@ void KeyLooks::darkenScan() {
   for (auto& symbol : form_.scntlc) symbol.visible = false;
 }
 
-void KeyLooks::lightMode(size_t mode) {
+void KeyLooks::lightMode(ModeKey mode) {
   for (size_t key = 0; key < 4; ++key) {
     form_.Image3[key].visible = key == mode;
     form_.Image4[key].visible = key != mode;
@@ -143,6 +143,11 @@ bool KeyLooks::acceptsShuffle() const { return form_.Label38.foreColor != colour
 bool KeyLooks::acceptsRepeat() const { return form_.Label39.foreColor == colours::kBlack; }
 
 void KeyLooks::timeLegend() { colour(kTime, colours::kBlack); }
+
+void KeyLooks::goingOff() {
+  form_.Label28.foreColor = colours::kDarkRed;
+  form_.SSPanel3.backColor = colours::kRed;
+}
 
 void KeyLooks::abLegend(Colour shade) { colour(kAb, shade); }
 

@@ -55,7 +55,7 @@ class KeyLooks {
   void darkenScan();
 
   /// Lights the key of a play mode and darkens the others.
-  void lightMode(size_t mode);
+  void lightMode(ModeKey mode);
   /// An enhanced disc starts with Intro unmarked.
   void darkenIntro();
   /// Shuffle and Repeat are not to be had now; record is where a program is stored.
@@ -65,6 +65,8 @@ class KeyLooks {
   /// The number keys of a disc of so many tracks, and the key for those above twenty.
   void numbers(int tracks);
   void timeLegend();
+  /// The power key and its lamp, of a deck that goes off.
+  void goingOff();
   /// The A-B key's legend goes with the display's indicator.
   void abLegend(Colour shade);
 

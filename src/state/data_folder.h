@@ -10,7 +10,13 @@
 
 namespace orvanta {
 
-/// Files that stand by a name of their own. The settings' names are in settings_files.h.
+/// The settings family. ORVWIN.INI lies in the system's folder and names the data folder; the others lie there.
+enum class SettingsFile { Orvwin, Orvwin1, Orvwin3, Orvwin4, Orvwin7, SettingsDat };
+
+/// "ORVWIN.INI", "settings.dat".
+std::string_view fileName(SettingsFile file);
+
+/// Files that stand by a name of their own.
 enum class DataFile {
   Running,     ///< stands while a player runs; for the sibling programs
   HandOver,    ///< stands until the next process has started
@@ -21,7 +27,15 @@ enum class DataFile {
   RecorderTexts,  ///< of the disc, for the recorder
   Tray,           ///< which image lies in it
   Level,
+  Online,  ///< who the user is to the CDDB, and which server is asked
+  Mail,    ///< how submissions go out
+  Servers,
+  ServersBackup,  ///< the list before the last one that a server sent
+  HttpServers,
 };
+
+/// The tray of a fresh installation: the user's own, in the data folder.
+std::string usualDrive(const std::string& dataDir);
 
 class DataFolder {
  public:
@@ -29,12 +43,15 @@ class DataFolder {
   DataFolder(Files& files, const std::string& folder) : files_(files), folder_(folder) {}
 
   std::string path(DataFile file) const;
+  std::string path(SettingsFile file) const;
   /// Of a disc's `.CD` file; the others stand beside it.
   std::string disc(std::string_view key) const;
   /// What was typed about a disc when the session ended.
   std::string draft(std::string_view key) const;
   /// Of a picture or a sound that takes the place of the deck's own.
   std::string own(std::string_view name) const;
+  /// Where those lie.
+  std::string ownFiles() const;
   /// Where the discs' files lie, and what is exported of them.
   std::string discs() const;
 

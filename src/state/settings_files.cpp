@@ -199,11 +199,6 @@ void repairOrvwin4(Files& files, const std::string& path, const Settings& settin
 
 }  // namespace
 
-std::string_view fileName(SettingsFile file) {
-  static constexpr std::string_view kNames[] = {"ORVWIN.INI", "ORVWIN1.INI", "ORVWIN3.INI", "ORVWIN4.INI", "ORVWIN7.INI", "settings.dat"};
-  return kNames[static_cast<int>(file)];
-}
-
 bool readFields(SettingsFile file, FieldReader reader, Settings& settings) {
   bool whole = true;
   if (file == SettingsFile::Orvwin3) {
@@ -230,7 +225,7 @@ FieldWriter writtenFields(SettingsFile file, const Settings& settings) {
 }
 
 bool readSettings(SettingsFile file, Files& files, const std::string& folder, Settings& settings) {
-  const std::string path = joinPath(folder, fileName(file));
+  const std::string path = DataFolder(files, folder).path(file);
   const auto read = [&] {
     const auto record = readRecordFile(files, path);
     return record && readFields(file, record->reader(), settings);
@@ -251,7 +246,11 @@ bool readSettings(SettingsFile file, Files& files, const std::string& folder, Se
 }
 
 bool writeSettings(SettingsFile file, Files& files, const std::string& folder, const Settings& settings) {
-  return writeRecordFile(files, joinPath(folder, fileName(file)), writtenFields(file, settings));
+  return writeRecordFile(files, DataFolder(files, folder).path(file), writtenFields(file, settings));
+}
+
+bool keepModes(Files& files, const Settings& settings) {
+  return writeSettings(SettingsFile::SettingsDat, files, settings.appDir, settings);
 }
 
 void fillLcdColours(Settings& settings) {
@@ -290,10 +289,11 @@ Settings defaultSettings(const std::string& appDir, const std::string& drive) {
 }
 
 bool writeMissingSettings(Files& files, const Settings& settings) {
-  bool all = files.makeFolder(joinPath(settings.appDir, "datacd"));
+  const DataFolder data(files, settings.appDir);
+  bool all = files.makeFolder(data.discs());
   for (const auto file :
        {SettingsFile::Orvwin1, SettingsFile::Orvwin3, SettingsFile::Orvwin4, SettingsFile::Orvwin7, SettingsFile::SettingsDat}) {
-    if (!files.exists(joinPath(settings.appDir, fileName(file)))) all = writeSettings(file, files, settings.appDir, settings) && all;
+    if (!files.exists(data.path(file))) all = writeSettings(file, files, settings.appDir, settings) && all;
   }
   return all;
 }

@@ -2,19 +2,14 @@
 #pragma once
 
 #include <string>
-#include <string_view>
 
+#include "state/data_folder.h"
 #include "state/field_file.h"
 #include "state/settings.h"
 
 namespace orvanta {
 
 class Files;
-
-enum class SettingsFile { Orvwin, Orvwin1, Orvwin3, Orvwin4, Orvwin7, SettingsDat };
-
-/// "ORVWIN.INI", "settings.dat".
-std::string_view fileName(SettingsFile file);
 
 /// Fills `settings` from a file. Fields that a short one lacks keep what they held. True when every
 /// field was there.
@@ -28,6 +23,9 @@ FieldWriter writtenFields(SettingsFile file, const Settings& settings);
 bool readSettings(SettingsFile file, Files& files, const std::string& folder, Settings& settings);
 
 bool writeSettings(SettingsFile file, Files& files, const std::string& folder, const Settings& settings);
+
+/// What the deck itself changes of them: "settings.dat".
+bool keepModes(Files& files, const Settings& settings);
 
 /// The display's state colours out of lcdCustom, lcdFore and lcdBack. Two equal custom colours
 /// become black on pale green, so that the display can never be unreadable.

@@ -21,6 +21,9 @@ enum NoDiscState : int16_t { kDiscAtStart = 0, kNoDiscAtStart = 2 };
 /// Values of cddbMode: why the CDDB's window, or CD Data without a person, runs.
 enum CddbMode : int16_t { kFromFaceplate = 0, kResting = 1, kAutomatic = 3, kNoSubmission = 9, kSubmission = 33 };
 
+/// Values of volDrag: what of a slider the mouse holds.
+enum VolumeDrag : int16_t { kNoDrag = 0, kUpperBar = 1, kLowerBar = 2, kArea = 3 };
+
 /// Two-state values of the tables below.
 constexpr int16_t kOff = 0;
 constexpr int16_t kOn = 1;
@@ -37,11 +40,11 @@ struct DiscState : DiscTexts {
   std::string cdFilePath;                     ///< of the ".CD" file
   std::string discLengthText;                 ///< "mm:ss" or "h:mm:ss"
   int16_t discMinutes = 0;                    ///< minutes of the disc's length, as the device reports them
-  int16_t noDiscState = kDiscAtStart;         ///< NoDiscState
-  bool drawerOpen = false;                    ///< the faceplate shows the open drawer
-  bool discLoaded = false;                    ///< a disc with tracks was loaded, or eject was pressed
-  bool discStarted = false;                   ///< a track was selected or played; titles show only then
-  int16_t timeCorrection = 0;                 ///< seconds, -3 to 5, kept per disc
+  NoDiscState noDiscState = kDiscAtStart;
+  bool drawerOpen = false;     ///< the faceplate shows the open drawer
+  bool discLoaded = false;     ///< a disc with tracks was loaded, or eject was pressed
+  bool discStarted = false;    ///< a track was selected or played; titles show only then
+  int16_t timeCorrection = 0;  ///< seconds, -3 to 5, kept per disc
   bool trackTableDone = false;
   bool enhancedCd = false;
   bool clearDiscRequest = false;  ///< the clock clears the disc's texts
@@ -53,21 +56,21 @@ struct DiscState : DiscTexts {
 };
 
 struct TransportState {
-  int16_t curTrack = 0;     ///< 0 after the end of the disc; may pass trackCount by one for a tick
-  int16_t deviceTrack = 0;  ///< as the device last reported
-  int16_t selTrack = 0;     ///< zero-based target of a jump
-  int16_t playMode = Cont;  ///< PlayMode; shuffle runs as Pgm, Intro as Cont with introTrack above 0
+  int16_t curTrack = 0;      ///< 0 after the end of the disc; may pass trackCount by one for a tick
+  int16_t deviceTrack = 0;   ///< as the device last reported
+  int16_t selTrack = 0;      ///< zero-based target of a jump
+  PlayMode playMode = Cont;  ///< shuffle runs as Pgm, Intro as Cont with introTrack above 0
   bool playingFlag = false;
-  bool pausedFlag = false;       ///< never both; both off when stopped
-  int32_t pausePosition = 0;     ///< device position at pause; not 0: play must resume
-  bool playEnded = false;        ///< after the end of program or disc: next does nothing until play
-  int16_t trackGo = kTrackOver;  ///< TrackGo
-  int16_t scanCount = 0;         ///< ticks of a scan, below 0 backwards
-  double lastAdvanceTime = 0;    ///< seconds since midnight of the last automatic advance in Cont; 0 for none
-  int64_t advanceDue = 0;        ///< the clock's millisecond of the advance that a correction holds back; 0 for none
-  bool abSetA = false;           ///< the A-B loop's start is set; its place may be 0
-  bool abSetB = false;           ///< its end too: it loops
-  double abPointA = 0;           ///< places on the bar, in twips
+  bool pausedFlag = false;    ///< never both; both off when stopped
+  int32_t pausePosition = 0;  ///< device position at pause; not 0: play must resume
+  bool playEnded = false;     ///< after the end of program or disc: next does nothing until play
+  TrackGo trackGo = kTrackOver;
+  int16_t scanCount = 0;       ///< ticks of a scan, below 0 backwards
+  double lastAdvanceTime = 0;  ///< seconds since midnight of the last automatic advance in Cont; 0 for none
+  int64_t advanceDue = 0;      ///< the clock's millisecond of the advance that a correction holds back; 0 for none
+  bool abSetA = false;         ///< the A-B loop's start is set; its place may be 0
+  bool abSetB = false;         ///< its end too: it loops
+  double abPointA = 0;         ///< places on the bar, in twips
   double abPointB = 0;
   int16_t abTrack = 0;
   int16_t introTrack = 0;
@@ -111,23 +114,21 @@ struct VolumeState {
   int16_t rightAtten = 0;
   int16_t leftAttenPrev = 0;  ///< last applied to the raw value
   int16_t rightAttenPrev = 0;
-  int32_t muteLeft = 0;   ///< raw values kept during mute
-  int32_t muteRight = 0;  ///< with the mixer program instead: where its slider stands, 0 to 250
-  int16_t volDrag = 0;    ///< VolumeDrag; reading the device leaves Area behind
-  int16_t mixerBusy = 0;  ///< 3 while the mixer program is driven
+  int32_t muteLeft = 0;          ///< raw values kept during mute
+  int32_t muteRight = 0;         ///< with the mixer program instead: where its slider stands, 0 to 250
+  VolumeDrag volDrag = kNoDrag;  ///< reading the device leaves kArea behind
+  int16_t mixerBusy = 0;         ///< 3 while the mixer program is driven
 };
 
 /// What the windows of the disc's texts share.
 struct LibraryState {
-  bool dataDirty = false;                    ///< something was changed; never cleared, so every later OK saves
-  bool askOnCancel = false;                  ///< a main field was changed
-  bool editorFromFaceplate = false;          ///< CD Data was opened by a person
-  int16_t cddbMode = kFromFaceplate;         ///< CddbMode
+  bool dataDirty = false;            ///< something was changed; never cleared, so every later OK saves
+  bool askOnCancel = false;          ///< a main field was changed
+  bool editorFromFaceplate = false;  ///< CD Data was opened by a person
+  CddbMode cddbMode = kFromFaceplate;
   std::array<std::string, 101> trackLyrics;  ///< [1]..[100]: the editor's working copy, with line breaks
   std::array<std::string, 2> userCaptions;   ///< of the two user defined fields; "" for the usual ones
 };
-
-enum VolumeDrag : int16_t { kNoDrag = 0, kUpperBar = 1, kLowerBar = 2, kArea = 3 };
 
 /// Values of soundMode; 1 and 2 count as OwnVolume.
 enum SoundMode : int16_t { kNoSliders = 0, kOwnVolume = 3, kMixerProgram = 4 };
@@ -143,8 +144,7 @@ struct ProcessState {
   std::string systemDir;
   std::string windowsDir;
   int16_t osFamily = 1;
-  int16_t screenClass = 2;  ///< 1 below 800 pixels, 2 from 800, 3 from 1024, 4 from 1280
-  bool smallFonts = true;   ///< metric variant: above 14 twips to a pixel
+  bool smallFonts = true;  ///< metric variant: above 14 twips to a pixel
   int64_t colourCount = 0;
 };
 

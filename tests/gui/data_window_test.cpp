@@ -221,10 +221,10 @@ TEST(DataWindow, ARightClickBesideItsRowsClosesCdInfo) {
 
 TEST(DataWindow, OpensUnseenAndClosesOnRequest) {
   Windows rig;
-  rig.core.state.library.cddbMode = 3;
+  rig.core.state.library.cddbMode = kAutomatic;
   rig.gate.enter([&] { rig.editor.show(rig.qtDesktop); });
   EXPECT_FALSE(Windows::of(rig.editor).isVisible());
-  rig.core.state.library.cddbMode = 0;
+  rig.core.state.library.cddbMode = kFromFaceplate;
   rig.gate.enter([&] { rig.editor.unload(); });
   rig.core.state.settings.editorFromFaceplate = kOn;
   rig.press(rig.core.form.Image10[1]);

@@ -1,7 +1,7 @@
 // The whole core with disc A in its drive and a CDDB server that knows it; worked as a person does.
 #pragma once
 
-#include "cddb/cddb_settings.h"
+#include "state/cddb_settings.h"
 #include "tests/support/core_rig.h"
 
 namespace orvanta::test {

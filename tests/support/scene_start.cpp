@@ -4,7 +4,7 @@
 #include <cstdlib>
 #include <map>
 
-#include "cddb/cddb_settings.h"
+#include "state/cddb_settings.h"
 
 namespace orvanta::test {
 namespace {

@@ -3,12 +3,12 @@
 
 #include <map>
 
-#include "cddb/cddb_settings.h"
 #include "cddb/matches.h"
 #include "cddb/reply_shaper.h"
-#include "cddb/server_list.h"
 #include "cddb/toc_text.h"
 #include "cddb/wire_text.h"
+#include "state/cddb_settings.h"
+#include "state/server_list.h"
 #include "tests/support/cddb_data.h"
 #include "tests/support/fakes.h"
 #include "tests/support/transcript.h"

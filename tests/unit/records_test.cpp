@@ -4,6 +4,7 @@
 #include "base/code_page.h"
 #include "records/disc_files.h"
 #include "records/draft.h"
+#include "records/recorder_texts.h"
 #include "tests/support/fakes.h"
 
 namespace orvanta::test {
@@ -240,6 +241,21 @@ TEST_F(Records, TimeCorrectionAndProgram) {
   files.keeps = false;
   EXPECT_FALSE(disc.deleteProgram().any());
   EXPECT_FALSE(disc.program());
+}
+
+TEST_F(Records, ARecorderReadsWhatTheDeckTellsOfTheDisc) {
+  texts = full();
+  const FieldWriter written = writtenFields(recorderTexts(texts, 3));
+  const RecorderTexts read = readRecorderTexts(FieldReader(written.bytes(), written.companion()));
+  EXPECT_EQ(read.trackTitles, texts.trackTitles);
+  EXPECT_EQ(std::vector({read.artist, read.title, read.genre, read.year}),
+            std::vector({texts.discArtist, texts.discTitle, texts.discInfo[kGenre], texts.extraInfo[kYear]}));
+  EXPECT_EQ(read.trackCount, 3);
+  texts.linerNotes = std::string(40, 'n');
+  EXPECT_EQ(recorderTexts(texts, 3).notes, std::string(30, 'n'));
+  texts.linerNotes = " ";
+  EXPECT_EQ(recorderTexts(texts, 3).notes, texts.discInfo[kLabel]);
+  EXPECT_EQ(readRecorderTexts(FieldReader("\"a\"\r\n\"t\"\r\n100\r\n")).trackCount, 0);
 }
 
 TEST_F(Records, ADraftIsReadAsItWasKept) {

@@ -6,9 +6,9 @@
 
 #include <thread>
 
-#include "app/second_start.h"
 #include "platform/linux/host_system.h"
 #include "platform/linux/local_socket.h"
+#include "state/second_start.h"
 #include "tests/support/core_rig.h"
 #include "tests/support/test_discs.h"
 

@@ -54,8 +54,6 @@ std::string HostSystem::mixerProgram() const {
   return {};
 }
 
-std::string HostSystem::usualDrive(const std::string& dataDir) { return joinPath(dataDir, "drive"); }
-
 void HostSystem::changeDrive(const std::string& drive, const std::string& disc) {
   const auto set = [this](const char* option, const std::string& value) {
     const auto at = std::find(handedOn_.begin(), handedOn_.end(), option);

@@ -12,8 +12,6 @@ class HostSystem : public System {
   std::string windowsDir() const override;
   std::string defaultDataDir() const override;
   std::string mixerProgram() const override;
-  /// The tray of a fresh installation: the user's own, in the data folder.
-  static std::string usualDrive(const std::string& dataDir);
   /// The demo disc of this installation.
   std::string demoFolder() const;
   int16_t platformId() const override { return 1; }

@@ -1,5 +1,5 @@
 // "start", then disc, drive and words, with tabs between them.
-#include "app/second_start.h"
+#include "state/second_start.h"
 
 #include <array>
 

@@ -2,6 +2,7 @@
 #include "platform/forms/form.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "platform/forms/design.h"
 
@@ -55,12 +56,14 @@ void Form::load(Desktop& desktop) {
   press_ = {};
   focusShown_ = false;
   enabled = true;
-  applyDesign(*this, design(), smallFonts);
+  putDesignBack();
   applyGrid(*this, grid());
   applyPartners(*this, partners());
   view_ = desktop.open(*this);
   events_->load();
 }
+
+void Form::putDesignBack() { applyDesign(*this, design(), smallFonts); }
 
 const DesignRow* Form::designRow(const Control& control) const {
   for (const DesignRow& row : design()) {
@@ -92,8 +95,7 @@ void Form::unload() {
   if (!loaded()) return;
   events_->unload();
   hide();
-  view_.reset();
-  desktop_ = nullptr;
+  std::exchange(desktop_, nullptr)->retire(std::move(view_));
 }
 
 void Form::activated() {

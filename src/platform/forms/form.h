@@ -69,6 +69,8 @@ class Desktop {
  public:
   virtual ~Desktop() = default;
   virtual std::unique_ptr<FormView> open(Form& form) = 0;
+  /// Takes back the view of a form that is unloaded, maybe by a handler that this very view called.
+  virtual void retire(std::unique_ptr<FormView> /*view*/) {}
   Form* lastShown = nullptr;
 };
 
@@ -127,6 +129,8 @@ class Form : private PropertyOwner {
 
   /// Puts the design values back, makes the view and runs the load handler. Nothing when loaded.
   void load(Desktop& desktop);
+  /// The design values once more, in a window that is loaded.
+  void putDesignBack();
   /// Its view lays it out by the controls' cells; it has a frame of the system and can be resized.
   bool resizable() const { return !grid().empty(); }
   bool loaded() const { return desktop_ != nullptr; }

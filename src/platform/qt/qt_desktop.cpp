@@ -11,4 +11,12 @@ std::unique_ptr<forms::FormView> QtDesktop::open(forms::Form& form) {
   return std::make_unique<FormWindow>(form, gate_, fonts_, scale_);
 }
 
+/// A window of ours goes once the event that it is in the middle of is through; the others see to that themselves.
+void QtDesktop::retire(std::unique_ptr<forms::FormView> view) {
+  auto* window = dynamic_cast<FormWindow*>(view.get());
+  if (window == nullptr) return;
+  static_cast<void>(view.release());
+  window->deleteLater();
+}
+
 }  // namespace orvanta

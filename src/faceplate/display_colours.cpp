@@ -29,14 +29,28 @@ void ownBack(std::initializer_list<forms::Control*> controls) {
   for (auto* control : controls) control->backColor = control->form().designRow(*control)->back;
 }
 
-/// A legend has the colour of its design, and black on a ground that this one cannot be read on.
-void legend(forms::Control& label, Colour ground) {
+}  // namespace
+
+void paintLegend(forms::Control& label, Colour ground) {
   constexpr double kLegible = 3;
   const Colour own = label.form().designRow(label)->fore;
   label.foreColor = contrast(own, ground) < kLegible ? colours::kBlack : own;
 }
 
-}  // namespace
+void chooseFont(forms::Label& label, const FontGroup& group) {
+  forms::Font font = label.font;
+  if (!group.fontName.empty()) font.family = group.fontName;
+  if (group.fontSize > 0) font.points = group.fontSize;
+  font.bold = group.fontBold != 0;
+  font.italic = group.fontItalic != 0;
+  font.underline = group.fontUnderline != 0;
+  label.font = font;
+}
+
+std::string backgroundPicture(const Files& files, const Settings& settings) {
+  const std::string& picture = settings.faceplateBitmap;
+  return settings.faceplateBitmapOn > 0 && !picture.empty() && files.exists(picture) ? picture : std::string();
+}
 
 void paintLevelBars(CDForm& form, const Settings& settings) {
   const bool muted = form.Image2[0].visible;
@@ -121,13 +135,7 @@ void DisplayColours::titleFonts() {
   for (size_t i = 0; i < 2; ++i) {
     const FontGroup& group = state_.settings.fonts[i];
     forms::Label& label = i == 0 ? form_.Label12 : form_.Label13;
-    forms::Font font = label.font;
-    if (!group.fontName.empty()) font.family = group.fontName;
-    if (group.fontSize > 0) font.points = group.fontSize;
-    font.bold = group.fontBold != 0;
-    font.italic = group.fontItalic != 0;
-    font.underline = group.fontUnderline != 0;
-    label.font = font;
+    chooseFont(label, group);
     if (state_.settings.lcdCustom != 1) display_.paintTitle(i, group.fontColor);
   }
   layout_.layTitles();
@@ -137,9 +145,8 @@ void DisplayColours::titleFonts() {
 void DisplayColours::background() {
   Settings& settings = state_.settings;
   layout_.border();
-  const bool picture = settings.faceplateBitmapOn > 0 && !settings.faceplateBitmap.empty() && files_.exists(settings.faceplateBitmap);
-  form_.Image8.picture = picture ? settings.faceplateBitmap : std::string();
-  if (!picture) return;
+  form_.Image8.picture = backgroundPicture(files_, settings);
+  if (form_.Image8.picture.get().empty()) return;
   settings.customColor[kCustomMetal] = 0;
   if (settings.faceplateBorder != 1) form_.Label41.foreColor = kModelOnPicture;
 }
@@ -198,10 +205,10 @@ void DisplayColours::loadorvanta1b() {
 void DisplayColours::legends() {
   const bool picture = !form_.Image8.picture.get().empty();
   for (auto* label : {&form_.Label1, &form_.Label2, &form_.Label3, &form_.Label4, &form_.Label5, &form_.Label15, &form_.Label27})
-    legend(*label, form_.backColor);
-  if (!picture) legend(form_.Label41, form_.backColor);
-  for (auto& label : form_.Label78) legend(label, form_.SSPanel1.backColor);
-  for (auto& label : form_.Label77) legend(label, form_.Panel3D6.backColor);
+    paintLegend(*label, form_.backColor);
+  if (!picture) paintLegend(form_.Label41, form_.backColor);
+  for (auto& label : form_.Label78) paintLegend(label, form_.SSPanel1.backColor);
+  for (auto& label : form_.Label77) paintLegend(label, form_.Panel3D6.backColor);
 }
 
 /// The glass of the display and what is printed on it.

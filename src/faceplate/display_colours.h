@@ -1,6 +1,9 @@
 // Colours of the faceplate's display and grid.
 #pragma once
 
+#include <string>
+#include <vector>
+
 #include "faceplate/ports.h"
 #include "playback/display.h"
 #include "playback/key_looks.h"
@@ -17,6 +20,13 @@ class Screen;
 
 /// The lit channels of the sliders: red while muted.
 void paintLevelBars(CDForm& form, const Settings& settings);
+
+/// Family, size and style as the user has chosen them; "" and 0 leave the label's own.
+void chooseFont(forms::Label& label, const FontGroup& group);
+/// A legend has the colour of its design, and black on a ground that this one cannot be read on.
+void paintLegend(forms::Control& label, Colour ground);
+/// The user's own picture behind a window; "" for none.
+std::string backgroundPicture(const Files& files, const Settings& settings);
 
 class DisplayColours {
  public:

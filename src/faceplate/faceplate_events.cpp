@@ -1,18 +1,9 @@
 // Mouse, wheel and window.
 #include "faceplate/faceplate_events.h"
 
-#include <algorithm>
-#include <cstdlib>
-
 #include "faceplate/routes.h"
 
 namespace orvanta {
-
-namespace {
-
-constexpr int kDragStarts = 60;  ///< twips that a hand moves before the window follows it
-
-}  // namespace
 
 FaceplateEvents::FaceplateEvents(FaceplateLoad& load, Actions& actions, Keyboard& keyboard, Volume& volume, Layout& layout,
                                  WindowPlace& place, DiscChoice& choice, TaskTitle& title, CDForm& form, const SharedState& state)
@@ -33,7 +24,7 @@ void FaceplateEvents::mouseDown(forms::Control* control, const forms::Mouse& mou
   if (control != nullptr && volume_.mouseDown(*control, mouse)) return;
   if (mouse.button != forms::MouseButton::Left) return;
   if (control == nullptr || control == &form_.Image8) {
-    grip_ = mouse;
+    grip_.take(mouse);
     return;
   }
   look_.down(*control);
@@ -44,10 +35,8 @@ void FaceplateEvents::mouseDown(forms::Control* control, const forms::Mouse& mou
   }
 }
 
-/// The window is dragged only once the mouse moves, so that a click, or two, leaves it where it is.
 void FaceplateEvents::mouseMove(forms::Control* control, const forms::Mouse& mouse) {
-  if (grip_ && std::max(std::abs(mouse.x - grip_->x), std::abs(mouse.y - grip_->y)) >= kDragStarts) {
-    grip_.reset();
+  if (grip_.dragStarts(mouse)) {
     if (form_.view() != nullptr) form_.view()->drag();
     return;
   }
@@ -56,7 +45,7 @@ void FaceplateEvents::mouseMove(forms::Control* control, const forms::Mouse& mou
 
 void FaceplateEvents::mouseUp(forms::Control* control, const forms::Mouse& mouse) {
   look_.up();
-  grip_.reset();
+  grip_.drop();
   if (control == nullptr || volume_.mouseUp(*control)) return;
   const bool right = mouse.button == forms::MouseButton::Right;
   const auto route = right ? rightRouteOf(*control) : routeOf(*control);
@@ -85,7 +74,7 @@ void FaceplateEvents::textChanged(forms::Control& control) {
 void FaceplateEvents::doubleClick(forms::Control* control) {
   if (control != nullptr && control != &form_.Image8) return;
   // The window has moved away under the hand: what is held of it is no drag.
-  grip_.reset();
+  grip_.drop();
   place_.Form_DblClick();
 }
 

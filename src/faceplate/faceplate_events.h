@@ -1,13 +1,12 @@
 // The road from the faceplate's events to what they mean: acts, sliders, the window's own place.
 #pragma once
 
-#include <optional>
-
 #include "faceplate/actions.h"
 #include "faceplate/faceplate_load.h"
 #include "faceplate/keyboard.h"
 #include "faceplate/pressed_look.h"
 #include "faceplate/task_title.h"
+#include "faceplate/window_grip.h"
 #include "faceplate/window_place.h"
 #include "platform/forms/form.h"
 
@@ -45,7 +44,7 @@ class FaceplateEvents : public forms::FormEvents {
   TaskTitle& title_;
   PressedLook look_;
   CDForm& form_;
-  std::optional<forms::Mouse> grip_;  ///< where the metal was taken hold of
+  WindowGrip grip_;
 };
 
 }  // namespace orvanta

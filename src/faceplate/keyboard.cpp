@@ -44,22 +44,30 @@ constexpr KeyRow kKeys[] = {
     {kF1 + 6, Action::Playlist},
 };
 
+/// nullptr for a key that names no act, or that may not be held for it.
+const KeyRow* rowOf(const forms::KeyPress& key) {
+  const auto* row = std::find_if(std::begin(kKeys), std::end(kKeys), [&](const KeyRow& each) { return each.code == key.code; });
+  return row == std::end(kKeys) || (key.repeats && !row->repeats) ? nullptr : row;
+}
+
 }  // namespace
 
 bool Keyboard::keyDown(const forms::KeyPress& key) {
-  const auto* row = std::find_if(std::begin(kKeys), std::end(kKeys), [&](const KeyRow& each) { return each.code == key.code; });
-  const bool known = row != std::end(kKeys);
-  if (key.repeats && !(known && row->repeats)) return sliderKey(key);
+  const KeyRow* row = rowOf(key);
+  if (key.repeats && row == nullptr) return sliderKey(key);
   if (!key.control && !key.alt) {
     // A deck that wants a disc asks for it, whatever else is open.
-    const bool asks = known && row->action == Action::Eject && actions_.enabled(Action::PutIn);
+    const bool asks = row != nullptr && row->action == Action::Eject && actions_.enabled(Action::PutIn);
     if (entry_.open() && !asks) return entry_.keyDown(key);
-    if (known) {
-      actions_.run(row->action);
-      return true;
-    }
   }
-  return sliderKey(key);
+  return act(key) || sliderKey(key);
+}
+
+bool Keyboard::act(const forms::KeyPress& key) {
+  const KeyRow* row = rowOf(key);
+  if (row == nullptr || key.control || key.alt) return false;
+  actions_.run(row->action);
+  return true;
 }
 
 /// Arrows move the slider that has the focus. It is no key: Space and ENTER leave it where it stands.

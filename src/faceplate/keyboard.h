@@ -14,6 +14,8 @@ class Keyboard {
 
   /// True when the key is used.
   bool keyDown(const forms::KeyPress& key);
+  /// Of another window that stands in for the faceplate: the table alone.
+  bool act(const forms::KeyPress& key);
 
  private:
   bool sliderKey(const forms::KeyPress& key);

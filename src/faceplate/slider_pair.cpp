@@ -99,17 +99,31 @@ bool SliderPair::moveTo(Side side, int y) {
     case kArea: place = y - kAreaGrip; break;
     default: return false;
   }
-  const bool loudest = place < kUpperSnap;
-  if (loudest) place = kLoudest;
-  if (place > kLowerSnap) place = kSilent;
+  stand(side, place < kUpperSnap ? kLoudest : place > kLowerSnap ? kSilent : place);
+  return true;
+}
+
+void SliderPair::stand(Side side, int place) {
   for (const Side moved : kBoth) {
     if (moved != side && !linked()) continue;
-    uncover(moved, !loudest);
+    uncover(moved, place != kLoudest);
     put(moved, place);
     sliders_[moved].pct.caption = std::to_string(static_cast<int>(107.5 - 0.1 * place));
     sliders_[moved].area.refresh();
   }
-  return true;
+}
+
+void SliderPair::moveWith(Side side, const SliderPair& other) { stand(side, other.sliders_[side].thumb.top); }
+
+void SliderPair::copy(const SliderPair& other) {
+  for (const Side side : kBoth) {
+    const SliderControls& from = other.sliders_[side];
+    put(side, from.thumb.top);
+    uncover(side, from.upper.visible);
+    sliders_[side].pct.caption = from.pct.caption.get();
+    sliders_[side].lower.backColor = from.lower.backColor.get();
+  }
+  link(other.linked());
 }
 
 void SliderPair::show(Side side, int attenuation) {

@@ -43,6 +43,10 @@ class SliderPair {
   /// The thumbs as nobody holds them.
   void darken();
 
+  /// To where the thumb of another window's slider stands, with the other one where they are linked.
+  void moveWith(Side side, const SliderPair& other);
+  /// Both as those of another window; who is held by a hand stays painted so.
+  void copy(const SliderPair& other);
   /// Shows an attenuation of 0 to 100, on this side alone.
   void show(Side side, int attenuation);
   /// To the bottom, with the other one where they are linked.
@@ -59,6 +63,7 @@ class SliderPair {
 
  private:
   bool moveTo(Side side, int y);
+  void stand(Side side, int place);
   void put(Side side, int place);
   void paint(Side side, Colour colour);
 

@@ -15,7 +15,8 @@ class TaskTitle {
     follow();
   }
   /// After the window was minimised, or came back.
-  void follow() { form_.caption = form_.minimised && !title_.empty() ? "Orvanta [" + title_ + "]" : std::string("Orvanta LX"); }
+  void follow() { form_.caption = of(form_.minimised ? title_ : std::string()); }
+  static std::string of(const std::string& title) { return title.empty() ? "Orvanta LX" : "Orvanta [" + title + "]"; }
 
  private:
   CDForm& form_;

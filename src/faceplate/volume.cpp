@@ -260,6 +260,12 @@ void Volume::moved(Side side) {
   if (byMixer()) sliders_.darken();
 }
 
+void Volume::moveWith(Side side, const SliderPair& other) {
+  sliders_.link(other.linked());
+  sliders_.moveWith(side, other);
+  moved(side);
+}
+
 bool Volume::step(const forms::Control& control, int steps) {
   const auto side = sliders_.sideOf(control);
   if (!side) return false;

@@ -52,6 +52,11 @@ class Volume {
   void Command3D16_RightClick();
 
   bool muted() const { return form_.Image2[0].visible; }
+  /// There are sliders; else the mixer opens in their place.
+  bool byHand() const { return state_.settings.soundMode != kNoSliders; }
+  /// As a slider of another window stands now, with the link that it shows there: brought to the device.
+  void moveWith(SliderPair::Side side, const SliderPair& other);
+  const SliderPair& sliders() const { return sliders_; }
   /// Sound as it was, before the process goes.
   void releaseMute();
   MixerDriver& mixer() { return mixer_; }

@@ -1,8 +1,7 @@
 // Where the faceplate stands on the screen; each of its two sizes has a place of its own.
 #pragma once
 
-#include "platform/ports/screen.h"
-#include "state/data_folder.h"
+#include "faceplate/screen_place.h"
 #include "state/shared_state.h"
 #include "windows/cdform.h"
 
@@ -13,7 +12,7 @@ class Files;
 class WindowPlace {
  public:
   WindowPlace(Files& files, Screen& screen, CDForm& form, SharedState& state)
-      : data_(files, state.settings.appDir), screen_(screen), form_(form), state_(state) {}
+      : data_(files, state.settings.appDir), place_(data_, screen, form), form_(form), state_(state) {}
 
   /// Pulls the window onto the screen and stores its place.
   void saveposn1();
@@ -25,14 +24,10 @@ class WindowPlace {
  private:
   /// Of its present size.
   DataFile file() const;
-  /// What is free of the screen that the window is on.
-  WorkArea area() const;
-  /// Places count from the screen's corner.
-  void put(const WorkArea& area, int left, int top);
   void centre();
 
   DataFolder data_;
-  Screen& screen_;
+  ScreenPlace place_;
   CDForm& form_;
   SharedState& state_;
 };

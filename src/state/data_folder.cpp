@@ -16,8 +16,9 @@ std::string DataFolder::path(SettingsFile file) const { return joinPath(folder_,
 
 std::string DataFolder::path(DataFile file) const {
   static constexpr std::string_view kNames[] = {
-      "audiocd.tmp", "ejcd.tmp",  "CDPOSN.DAT", "SMPOS1.DAT", "addcats.dat",         "userdef.dat",         "audiocd.dat",
-      "tray.dat",    "level.dat", "cddbol.dat", "cddbml.dat", "datacd/srvcddbp.txt", "datacd/srvcddbp.bak", "datacd/srvhttp.txt",
+      "audiocd.tmp",        "ejcd.tmp", "CDPOSN.DAT", "SMPOS1.DAT", "vcpos.DAT",  "addcats.dat",         "userdef.dat",
+      "audiocd.dat",        "tray.dat", "level.dat",  "cddbol.dat", "cddbml.dat", "datacd/srvcddbp.txt", "datacd/srvcddbp.bak",
+      "datacd/srvhttp.txt",
   };
   return joinPath(folder_, kNames[static_cast<size_t>(file)]);
 }

@@ -22,6 +22,7 @@ enum class DataFile {
   HandOver,    ///< stands until the next process has started
   LargePlace,  ///< where the window stood, in each of its sizes
   SmallPlace,
+  StripPlace,
   Genres,         ///< the user's own
   Captions,       ///< of the two free fields
   RecorderTexts,  ///< of the disc, for the recorder

@@ -45,16 +45,27 @@ bool Links::restartWaits() const {
 void Links::runSetup() {
   core_.life_.setup.run();
   core_.shell_.wallpaper.settingsChanged();
+  core_.strip_.window.takeUp();
 }
 
 void Links::record() {
   if (core_.life_.recorder.ready() && core_.library_.cdData.mayBeLost()) core_.life_.recorder.run();
 }
 
-void Links::exitProgram() {
+bool Links::mayExit() {
   const std::string sending = "A submission to the CDDB is still being sent.\n\nEnd the program all the same?";
-  if (core_.cddb_.mail.sending() && !dialogs_.askYesNo(BoxStyle::Question, "Orvanta", sending)) return;
-  if (core_.library_.cdData.mayBeLost()) core_.life_.exit.exitProgram();
+  if (core_.cddb_.mail.sending() && !dialogs_.askYesNo(BoxStyle::Question, "Orvanta", sending)) return false;
+  return core_.library_.cdData.mayBeLost();
+}
+
+void Links::exitProgram() {
+  if (mayExit()) core_.life_.exit.exitProgram();
+}
+
+void Links::exitStopped() {
+  if (!mayExit()) return;
+  core_.playback_.engine.stopKey();
+  core_.life_.exit.exitProgram();
 }
 
 void Links::exitWhenFree() {
@@ -68,12 +79,18 @@ void Links::exitIfWanted() {
 
 void Links::afterTick() {
   core_.playback_.status.tell();
+  core_.strip_.mirror.follow();
   exitIfWanted();
 }
 
 // ---- windows
 
-void Links::showFaceplate() { core_.showFaceplate(); }
+/// What has stood in its place gives it back; a faceplate that made room of its own comes when the user calls it.
+void Links::showFaceplate() {
+  if (!core_.strip_.window.out()) core_.showFaceplate();
+}
+
+void Links::minimise() { core_.strip_.window.minfp1(); }
 
 void Links::hideFaceplate() { core_.form.hide(); }
 
@@ -100,7 +117,15 @@ void Links::closeDiscWindows() {
   if (!core_.library_.cdData.openForPerson()) core_.editor.unload();
 }
 
-void Links::switchWallpaper() { core_.shell_.wallpaper.wpfp1(); }
+/// It ends with the faceplate in sight.
+void Links::switchWallpaper() {
+  core_.strip_.window.restore();
+  core_.shell_.wallpaper.wpfp1();
+}
+
+void Links::hideWallpaper() { core_.shell_.wallpaper.hideWithDeck(); }
+
+void Links::renewWallpaper() { core_.shell_.wallpaper.comeBackWithDeck(); }
 
 void Links::showHelp(int topic) { core_.shell_.help.show(topic); }
 

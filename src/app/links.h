@@ -9,13 +9,14 @@
 #include "library/upward.h"
 #include "platform/ports/clock.h"
 #include "playback/upward.h"
+#include "strip/upward.h"
 
 namespace orvanta {
 
 class Dialogs;
 class Orvanta;
 
-class Links : public PlaybackUpward, public FaceplateUpward, public LibraryUpward, public CddbUpward {
+class Links : public PlaybackUpward, public FaceplateUpward, public StripUpward, public LibraryUpward, public CddbUpward {
  public:
   Links(Orvanta& core, Clock& clock, Dialogs& dialogs) : core_(core), clock_(clock), dialogs_(dialogs) {}
 
@@ -31,11 +32,13 @@ class Links : public PlaybackUpward, public FaceplateUpward, public LibraryUpwar
   void record() override;
   void exitProgram() override;
   void exitWhenFree() override;
+  void exitStopped() override;
   void afterTick() override;
 
   // Windows.
   void showFaceplate() override;
   void hideFaceplate() override;
+  void minimise() override;
   void showCdData() override;
   void showPlaylist() override;
   void showTrackList() override;
@@ -53,14 +56,19 @@ class Links : public PlaybackUpward, public FaceplateUpward, public LibraryUpwar
 
   void showHelp(int topic) override;
   void switchWallpaper() override;
+  void hideWallpaper() override;
+  void renewWallpaper() override;
 
   // Windows and programs that are still to come aboard; their keys do nothing yet.
   void showMenu() override {}
   void launchEnhancedDisc() override {}
+  bool toTray() override { return false; }
+  void leaveTray() override {}
   void lookForLyrics() override {}
   void showPage(const std::string& /*address*/) override {}
 
  private:
+  bool mayExit();
   void exitIfWanted();
 
   Orvanta& core_;

@@ -23,6 +23,8 @@ FaceplatePorts forFaceplate(const Ports& all) {
   return {all.device, all.tray, all.clock, all.dialogs, all.files, all.processes, all.screen, all.auxVolume, all.mixer, all.sounds};
 }
 
+StripPorts forStrip(const Ports& all) { return {all.files, all.screen, all.desktop}; }
+
 LibraryPorts forLibrary(const Ports& all) {
   return {all.device, all.dialogs, all.files, all.processes, all.screen, all.system, all.printer, all.desktop};
 }
@@ -42,6 +44,7 @@ Orvanta::Orvanta(Ports& ports)
       links_(*this, ports.clock, ports.dialogs),
       playback_(forPlayback(ports), form, state, links_),
       faceplate_(forFaceplate(ports), playback_, form, state, links_),
+      strip_(forStrip(ports), playback_, faceplate_, {stripForm, iconForm}, form, state, links_),
       library_(forLibrary(ports), playback_, {editor, playlistForm, infoForm}, form, state, links_),
       cddb_(forCddb(ports), library_.cdData, editor, {cddbForm, categoryForm, mailForm}, form, state, links_),
       shell_(forShell(ports), faceplate_.drawer, wallpaperForm, form, state),
@@ -64,6 +67,7 @@ void Orvanta::showFaceplate() {
 void Orvanta::secondStart(const SecondStart& start) {
   // Words that mean nothing must not stand in the way of play.
   const std::string words = classify(start.words).kind == CommandLine::Kind::Plain ? "" : start.words;
+  strip_.window.restore();
   form.minimised = false;
   if (form.view() != nullptr) form.view()->raise();
   if (!start.drive.empty() && start.drive != state.settings.cdProbePath) {
@@ -86,6 +90,7 @@ void Orvanta::secondStart(const SecondStart& start) {
 void Orvanta::takeUpSettings() {
   life_.setup.takeUp();
   shell_.wallpaper.settingsChanged();
+  strip_.window.takeUp();
 }
 
 void Orvanta::endOfSession() {

@@ -10,6 +10,7 @@
 #include "playback/playback.h"
 #include "shell/shell.h"
 #include "state/second_start.h"
+#include "strip/strip.h"
 
 namespace orvanta {
 
@@ -48,6 +49,8 @@ class Orvanta {
   cddbcatg categoryForm;
   cddbmail mailForm;
   Form26 wallpaperForm;
+  VolCntl stripForm;
+  ICONmin iconForm;
   SharedState state;
 
  private:
@@ -57,6 +60,7 @@ class Orvanta {
   Links links_;
   Playback playback_;
   Faceplate faceplate_;
+  Strip strip_;
   Library library_;
   Cddb cddb_;
   Shell shell_;

@@ -28,9 +28,11 @@ enum class Action : uint8_t {
   Cont,
   Intro,
   NextMode,
-  Recall,  ///< the stored program
-  Seek,    ///< argument: twips along the bar
-  Eject,   ///< an open or empty deck asks for a disc instead
+  Recall,       ///< the stored program
+  TrackBefore,  ///< of the tray, where a step is to be had from a pause and from rest as well
+  TrackAfter,
+  Seek,   ///< argument: twips along the bar
+  Eject,  ///< an open or empty deck asks for a disc instead
   PutIn,
   Mute,
   Louder,
@@ -44,6 +46,8 @@ enum class Action : uint8_t {
   DisplaySize,
   Small,
   Large,
+  MinimiseToStrip,
+  MinimiseToTray,
   CdData,
   Playlist,
   EnhancedDisc,

@@ -97,6 +97,21 @@ void mute(const ActParts& on, By /*by*/, int /*argument*/) {
   }
 }
 
+template <bool ToTray>
+void minimise(const ActParts& on, By /*by*/, int /*argument*/) {
+  on.sounds.play(Sound::Minimise);
+  on.state.display.trayWanted = ToTray;
+  on.upward.minimise();
+}
+
+/// A person's step ends Intro, and what a tick would find ended counts first.
+template <void (Engine::*Call)()>
+void step(const ActParts& on, By /*by*/, int /*argument*/) {
+  on.modes.stopintro();
+  on.engine.settle();
+  (on.engine.*Call)();
+}
+
 using P = const ActParts&;
 
 const Act kActs[] = {
@@ -132,6 +147,8 @@ const Act kActs[] = {
     {Action::NextMode, kSilent, Refuses::Row, [](P on, By, int) { on.modes.nextMode(); }, awake, off},
     {Action::Recall, kSilent, Refuses::Row, [](P on, By, int) { on.modes.Label30_Click(); },
      [](P on, int) { return awake(on, 0) && on.state.program.pgmStored; }, off},
+    {Action::TrackBefore, kClicks, Refuses::Row, step<&Engine::previousKey>, discIn, off},
+    {Action::TrackAfter, kClicks, Refuses::Row, step<&Engine::nextFromAnywhere>, discIn, off},
     {Action::Seek, kSilent, Refuses::Part, [](P on, By, int x) { on.buttons.CDStatusBar_Click(x); }, playing, off},
     {Action::Eject, kClicks, Refuses::Row, eject, always, [](P on) { return on.state.disc.drawerOpen; }},
     {Action::PutIn, kSilent, Refuses::Row, [](P on, By, int) { on.choice.ask(); }, discWanted, off},
@@ -151,6 +168,8 @@ const Act kActs[] = {
      [](P on) { return on.state.settings.smallFaceplate == kOn; }},
     {Action::Large, kClicks, Refuses::Row, layout<&Layout::Image13_Click>, always,
      [](P on) { return on.state.settings.smallFaceplate != kOn; }},
+    {Action::MinimiseToStrip, kSilent, Refuses::Row, minimise<false>, always, off},
+    {Action::MinimiseToTray, kSilent, Refuses::Row, minimise<true>, always, off},
     {Action::CdData, kClicks, Refuses::Part, upward<&FaceplateUpward::showCdData>, discIn, off},
     {Action::Playlist, kClicks, Refuses::Row, upward<&FaceplateUpward::showPlaylist>, discIn, off},
     {Action::EnhancedDisc, kClicks, Refuses::Row, upward<&FaceplateUpward::launchEnhancedDisc>, always, off},

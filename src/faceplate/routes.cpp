@@ -61,6 +61,7 @@ constexpr Row kLeft[] = {
     {"Image19", kEach, Action::Mixer},
     {"Command3D16", kOne, Action::Mixer},
     {"Image20", kEach, Action::DisplaySize},
+    {"Image7", kOne, Action::MinimiseToStrip},
     {"Image11", kOne, Action::Small},
     {"Image13", kOne, Action::Large},
     {"Image5", kOne, Action::Exit},
@@ -68,10 +69,8 @@ constexpr Row kLeft[] = {
 };
 
 constexpr Row kRight[] = {
-    {"SSPanel1", kOne, Action::SlidersAway},
-    {"Command3D16", kOne, Action::SlidersBack},
-    {"Image16", 4, Action::CloseTrackList},
-    {"Image10", 2, Action::Recall},
+    {"Image7", kOne, Action::MinimiseToTray}, {"SSPanel1", kOne, Action::SlidersAway}, {"Command3D16", kOne, Action::SlidersBack},
+    {"Image16", 4, Action::CloseTrackList},   {"Image10", 2, Action::Recall},
 };
 
 std::optional<Route> find(std::span<const Row> rows, const forms::Control& control) {

@@ -14,6 +14,8 @@ class FaceplateUpward {
   virtual void showTrackList() = 0;
   virtual void closeTrackList() = 0;
   virtual void launchEnhancedDisc() = 0;
+  /// The deck makes room: the strip or the tray stands in for it while a disc plays or pauses, else a task button alone.
+  virtual void minimise() = 0;
   /// Hands the disc to the recorder.
   virtual void record() = 0;
   /// The power button: saves, stops and ends the process. Comes back when the user would rather keep what was typed.

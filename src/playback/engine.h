@@ -39,6 +39,8 @@ class Engine {
   // What the transport keys do on their release.
   void previousKey();
   void nextKey();
+  /// The same, and from a pause or from rest: plays the track after the present one.
+  void nextFromAnywhere();
   void playKey();
   void pauseKey();
   void stopKey();

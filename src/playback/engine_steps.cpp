@@ -37,6 +37,24 @@ void Engine::nextKey() {
   glow(Next);
 }
 
+/// At the last track, and after an end until play is pressed, there is no next one; a pause stays what it was then.
+void Engine::nextFromAnywhere() {
+  if (heard() == DeckState::Playing) {
+    nextKey();
+    return;
+  }
+  TransportState& transport = state_.transport;
+  const int16_t next = audioFrom(state_.disc, transport.curTrack + 1);
+  if (transport.playEnded || (transport.playMode != Pgm && !canStep(next))) return;
+  if (transport.playMode != Pgm) transport.curTrack = next;
+  transport.pausePosition = 0;
+  display_.clearTime("");
+  display_.repeat();
+  MMControl1_PlayClick();
+  showState();
+  glow(Next);
+}
+
 void Engine::MMControl1_NextClick(int16_t& value) {
   TransportState& transport = state_.transport;
   transport.pausedFlag = false;

@@ -100,8 +100,9 @@ struct DisplayState {
   bool holdTrackLabel = false;  ///< right after a jump: the clock leaves the track label alone once
   bool positionKnown = false;   ///< the faceplate stands where the user put it
   bool quietOnce = false;       ///< no interface sound for now
-  bool popupOpen = false;
-  int16_t popupLayout = 0;
+  bool popupOpen = false;       ///< the strip is loaded
+  int16_t popupLayout = 0;      ///< 1 while it is unfolded
+  bool trayWanted = false;      ///< a person asked for the tray in the strip's place
 };
 
 /// The two sliders and the level they set. Attenuations are 0 (full volume) to 100.

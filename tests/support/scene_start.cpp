@@ -63,7 +63,8 @@ int16_t* setting(Settings& settings, const std::string& name) {
                                                   {"wallpaper", &settings.wallpaperOption},
                                                   {"filling", &settings.wallpaperMode},
                                                   {"showLights", &settings.showLights},
-                                                  {"border", &settings.faceplateBorder}};
+                                                  {"border", &settings.faceplateBorder},
+                                                  {"minToTray", &settings.minToTray}};
   for (const auto& [known, value] : all) {
     if (name == known) return value;
   }

@@ -147,7 +147,7 @@ class Scene {
     if (act.verb == "setup") return rig_.state.process.setupWanted = kOn, true;
     if (act.verb == "wallpaper") return enter([&] { rig_.orvanta.actions().run(Action::Wallpaper); });
     if (act.verb == "fails") return rig_.player.failure = true, rig_.player.stop(), true;
-    if (act.verb == "drag") return enter([&] { rig_.form.dragged(act.number(0), act.number(1)); });
+    if (act.verb == "drag") return enter([&] { front_->dragged(act.number(0), act.number(1)); });
     if (act.verb == "device") return rig_.player.play(act.number(), rig_.player.disc.leadOut), true;
     if (act.verb == "mute-device") return rig_.player.quiet = act.number() != 0, true;
     if (act.verb == "behind-box") {
@@ -259,7 +259,7 @@ class Scene {
       } else if (window.loaded) {
         if (const std::string place = placeOf(*window.form); place != window.place) tell(name + " " + place);
         for (const std::string& line : window.seen.changesTo(now)) {
-          if (!inSummary(line)) tell(prefix + line);
+          if (window.form != &rig_.form || !inSummary(line)) tell(prefix + line);
         }
       }
     }
@@ -313,7 +313,9 @@ class Scene {
                                {&rig_.orvanta.cddbForm, false, {}, {}},
                                {&rig_.orvanta.categoryForm, false, {}, {}},
                                {&rig_.orvanta.mailForm, false, {}, {}},
-                               {&rig_.orvanta.wallpaperForm, false, {}, {}}};
+                               {&rig_.orvanta.wallpaperForm, false, {}, {}},
+                               {&rig_.orvanta.stripForm, false, {}, {}},
+                               {&rig_.orvanta.iconForm, false, {}, {}}};
   forms::Form* front_ = &rig_.form;
   std::string summary_;
   std::string focus_;

@@ -10,7 +10,8 @@ class Deck : public testing::TestWithParam<const char*> {};
 
 TEST_P(Deck, DoesAsItIsWritten) { expectTranscript(std::string("deck/") + GetParam() + ".txt"); }
 
-INSTANTIATE_TEST_SUITE_P(All, Deck, testing::Values("play", "hands", "looks", "sliders", "comings", "windows", "online", "shell", "starts"),
+INSTANTIATE_TEST_SUITE_P(All, Deck,
+                         testing::Values("play", "hands", "looks", "sliders", "comings", "windows", "online", "shell", "starts", "strip"),
                          [](const auto& each) { return std::string(each.param); });
 
 }  // namespace

@@ -1,0 +1,168 @@
+// Mouse, wheel and keys on the strip. A handler that may unload the window does so as its last step.
+#include "strip/strip_events.h"
+
+#include <algorithm>
+#include <string_view>
+
+namespace orvanta {
+
+namespace {
+
+constexpr int kHelpTopic = 21;
+constexpr int kEach = -2;  ///< any of the array; its place counts from 1 in the argument
+constexpr int kOne = forms::kNoIndex;
+
+struct Row {
+  std::string_view name;
+  int index;
+  Action action;
+};
+
+/// Both faces of a key that can be had are the key.
+constexpr Row kRows[] = {
+    {"Image1", 0, Action::Previous},     {"Image1", 1, Action::Next},          {"Image1", 2, Action::Play},
+    {"Image1", 3, Action::Pause},        {"Image1", 4, Action::Stop},          {"Image2", 0, Action::Previous},
+    {"Image2", 1, Action::Next},         {"Image2", 2, Action::Play},          {"Image2", 3, Action::Pause},
+    {"Image2", 4, Action::Stop},         {"Label22", kEach, Action::Track},    {"Label8", kOne, Action::TrackList},
+    {"Label9", kOne, Action::TimeMode},  {"Label21", kOne, Action::Repeat},    {"Image9", kEach, Action::Link},
+    {"PctL", kOne, Action::SilenceLeft}, {"PctR", kOne, Action::SilenceRight},
+};
+
+const Row* rowOf(const forms::Control& control) {
+  const auto* row = std::find_if(std::begin(kRows), std::end(kRows), [&](const Row& each) {
+    return each.name == control.name() && (each.index == kEach || each.index == control.index());
+  });
+  return row == std::end(kRows) ? nullptr : row;
+}
+
+}  // namespace
+
+StripEvents::StripEvents(const StripReach& on, VolCntl& form, const SharedState& state)
+    : on_(on), press_(form), form_(form), state_(state) {
+  form.setEvents(this);
+}
+
+void StripEvents::load() {
+  press_.forget();
+  grip_.drop();
+  on_.window.load();
+}
+
+bool StripEvents::isBody(const forms::Control* control) const {
+  return control == nullptr || control == &form_.Image10 || control == &form_.SSPanel2;
+}
+
+void StripEvents::mouseDown(forms::Control* control, const forms::Mouse& mouse) {
+  if (control != nullptr && on_.sliders.mouseDown(*control, mouse)) return;
+  if (mouse.button != forms::MouseButton::Left) return;
+  if (isBody(control)) {
+    grip_.take(mouse);
+    return;
+  }
+  const Row* row = rowOf(*control);
+  // A press that is refused leaves the key where it is; it ends Intro all the same.
+  const bool taken = row == nullptr ? control->available() : on_.actions.enabled(row->action, control->index() + 1);
+  if (taken) press_.down(*control);
+  if (control->name() == "Image9" && state_.settings.soundMode == kMixerProgram) {
+    // The mixer program's channels cannot be parted.
+    on_.sounds.beep();
+  } else if (row != nullptr) {
+    on_.actions.press(row->action);
+  } else if (taken && control->tabStop) {
+    on_.actions.click();
+  }
+}
+
+void StripEvents::mouseMove(forms::Control* control, const forms::Mouse& mouse) {
+  if (grip_.dragStarts(mouse)) {
+    if (form_.view() != nullptr) form_.view()->drag();
+    return;
+  }
+  if (control != nullptr && form_.pressed() == control) on_.sliders.mouseMove(*control, mouse);
+}
+
+void StripEvents::mouseUp(forms::Control* control, const forms::Mouse& mouse) {
+  press_.up();
+  grip_.drop();
+  if (control != nullptr && on_.sliders.mouseUp(*control)) return;
+  if (mouse.button == forms::MouseButton::Right) {
+    if (mouse.over) rightReleased(control);
+  } else if (control != nullptr) {
+    released(*control, mouse);
+  }
+  on_.mirror.follow();
+}
+
+void StripEvents::rightReleased(const forms::Control* control) {
+  if (isBody(control)) {
+    on_.place.reset();
+  } else if (control == &form_.SSPanel3) {
+    on_.actions.run(Action::Mixer);
+  } else if (control == &form_.Label12) {
+    on_.colours.sizeTitles(1);
+  }
+}
+
+void StripEvents::released(forms::Control& control, const forms::Mouse& mouse) {
+  const Row* row = rowOf(control);
+  if (!mouse.over) {
+    if (row != nullptr) on_.actions.letGo(row->action);
+    return;
+  }
+  const bool percent = &control == &form_.PctL || &control == &form_.PctR;
+  if (percent && form_.Image7.visible) return;
+  if (row != nullptr) {
+    on_.actions.release(row->action, control.index() + 1);
+  } else if (&control == &form_.Label12) {
+    on_.colours.sizeTitles(-1);
+  } else {
+    windowKey(control);
+  }
+}
+
+void StripEvents::windowKey(const forms::Control& control) {
+  if (&control == &form_.Image5) on_.acts.Image5_MouseUp();
+  if (&control == &form_.Image7) on_.acts.Image7_MouseUp();
+  if (&control == &form_.Image6) on_.window.unfold();
+  if (&control == &form_.Image8) on_.window.fold();
+  if (&control == &form_.Image13) on_.window.Image13_MouseUp();
+  if (&control == &form_.Image3) on_.window.restore();
+  if (&control == &form_.Image12) on_.acts.Image12_MouseUp();
+  if (&control == &form_.Image1[StripActs::kEject]) on_.acts.eject();
+}
+
+void StripEvents::wheel(forms::Control& control, int notches) {
+  if (on_.sliders.step(control, notches)) on_.mirror.follow();
+}
+
+bool StripEvents::keyDown(const forms::KeyPress& key) {
+  const bool plain = !key.control && !key.alt;
+  if (plain && key.code == forms::key::kEscape) {
+    form_.unload();
+    return true;
+  }
+  if (plain && (key.code == forms::key::kF1 || key.code == forms::key::kHelp)) {
+    on_.upward.showHelp(kHelpTopic);
+    return true;
+  }
+  if (!on_.keyboard.act(key) && !sliderKey(key)) return false;
+  on_.mirror.follow();
+  return true;
+}
+
+bool StripEvents::sliderKey(const forms::KeyPress& key) {
+  const forms::Control* focus = form_.activeControl();
+  if (focus == nullptr) return false;
+  const bool press = key.code == forms::key::kSpace || key.code == forms::key::kEnter;
+  if (press) return focus->with(forms::Role::Percent) != nullptr;
+  const bool up = key.code == forms::key::kUp || key.code == forms::key::kRight;
+  const bool down = key.code == forms::key::kDown || key.code == forms::key::kLeft;
+  return (up || down) && on_.sliders.step(*focus, up ? 1 : -1);
+}
+
+void StripEvents::dragged() {
+  on_.place.pullIn();
+  on_.place.save();
+}
+
+}  // namespace orvanta

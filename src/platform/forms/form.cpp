@@ -17,6 +17,21 @@ constexpr int kElsewhere = -1000000;  ///< over no control
 
 bool takesFocus(const Control& control) { return control.tabStop && control.enabled && control.shown() && control.insideForm(); }
 
+bool faceOfOneKey(const Control& a, const Control& b) {
+  return a.tabStop && b.tabStop && a.parent == b.parent && a.width > 0 && a.left == b.left && a.top == b.top && a.width == b.width &&
+         a.height == b.height;
+}
+
+/// As the controls stand in their form; but the other face of a key has its turn where the first one has.
+std::vector<Control*> tabOrder(const std::vector<Control*>& controls) {
+  std::vector<Control*> order;
+  for (Control* control : controls) {
+    const auto twin = std::find_if(order.rbegin(), order.rend(), [&](const Control* each) { return faceOfOneKey(*each, *control); });
+    order.insert(twin == order.rend() ? order.end() : twin.base(), control);
+  }
+  return order;
+}
+
 }  // namespace
 
 Form::Form(std::string_view name) : name_(name), events_(&noEvents) {}
@@ -118,15 +133,16 @@ bool Form::setFocus(Control& control, bool byKeyboard) {
 
 void Form::moveFocus(bool backwards) {
   if (controls_.empty()) return;
-  const auto count = static_cast<int>(controls_.size());
-  const auto at = std::find(controls_.begin(), controls_.end(), active_);
-  int place = at == controls_.end() ? (backwards ? 0 : -1) : static_cast<int>(at - controls_.begin());
-  if (at == controls_.end() && firstStop != nullptr && !backwards) {
-    place = static_cast<int>(std::find(controls_.begin(), controls_.end(), firstStop) - controls_.begin()) - 1;
+  const std::vector<Control*> order = tabOrder(controls_);
+  const auto count = static_cast<int>(order.size());
+  const auto at = std::find(order.begin(), order.end(), active_);
+  int place = at == order.end() ? (backwards ? 0 : -1) : static_cast<int>(at - order.begin());
+  if (at == order.end() && firstStop != nullptr && !backwards) {
+    place = static_cast<int>(std::find(order.begin(), order.end(), firstStop) - order.begin()) - 1;
   }
   for (int i = 0; i < count; ++i) {
     place = (place + (backwards ? count - 1 : 1)) % count;
-    Control& next = *controls_[static_cast<size_t>(place)];
+    Control& next = *order[static_cast<size_t>(place)];
     if (next.available() && setFocus(next, true)) return;
   }
 }

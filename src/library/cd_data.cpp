@@ -38,6 +38,13 @@ std::string enteredText(const std::optional<FileTime>& time) {
          std::to_string(hour) + ":" + padded(time->minute, 2) + (time->hour < 12 ? " AM" : " PM");
 }
 
+/// Where the transport keys lie on the screen.
+forms::Place transportOf(const CDForm& deck) {
+  const forms::Image& first = deck.icntla[Previous];
+  const forms::Image& last = deck.icntla[Record];
+  return {deck.left + first.left, deck.top + first.top, last.left + last.width - first.left, first.height};
+}
+
 }  // namespace
 
 CdData::CdData(const LibraryPorts& ports, const CdDataParts& parts, acdtabs& form, const CDForm& faceplate, SharedState& state,
@@ -118,7 +125,7 @@ void CdData::place() {
     window.top = (screen.height - window.height) / 2;
     window = ontoScreen(window, screen);
   } else {
-    window = besideDeck(window, placeOf(faceplate_), screen, {Side::Below, Side::Above, Side::Right, Side::Left});
+    window = besideDeck(window, placeOf(faceplate_), screen, {Side::Below, Side::Above, Side::Right, Side::Left}, transportOf(faceplate_));
   }
   form_.left = window.left;
   form_.top = window.top;

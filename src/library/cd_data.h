@@ -83,11 +83,12 @@ class CdData : public forms::FormEvents {
   /// From one load to the next.
   struct Visit {
     bool byPerson = false;
-    bool tookPlace = false;  ///< the faceplate is hidden for it
-    bool fresh = true;       ///< loaded, and not yet activated
-    bool changed = false;    ///< by a person since the load
-    bool draftDue = false;   ///< changed since the draft was kept
-    bool draftLeft = false;  ///< an earlier draft lies there still, not taken up
+    bool tookPlace = false;    ///< the faceplate is hidden for it
+    bool fresh = true;         ///< loaded, and not yet activated
+    bool changed = false;      ///< by a person since the load
+    bool draftDue = false;     ///< changed since the draft was kept
+    bool draftFailed = false;  ///< it could not be written, as the window says
+    bool draftLeft = false;    ///< an earlier draft lies there still, not taken up
     int16_t tab = MusicInfo;
     bool listMouseDown = false;  ///< the next focus of an input box leaves its text unselected
   };
@@ -142,6 +143,7 @@ class CdData : public forms::FormEvents {
   // A draft of an earlier session.
   std::string draftPath() const;
   Draft draft() const;
+  void draftWritten(bool written);
   void offerDraft();
   void takeUp(const Draft& draft);
   bool takeUpRow(const std::string& name, const std::string& text);

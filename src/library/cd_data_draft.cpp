@@ -25,9 +25,24 @@ void CdData::keepDraft() {
   if (!openForPerson() || !visit_.draftDue) return;
   if (!ports_.files.write(draftPath(), draftBytes(draft()))) {
     logLine("disc", draftPath() + " could not be written: " + ports_.files.reason());
+    draftWritten(false);
     return;
   }
   visit_.draftDue = visit_.draftLeft = false;
+  draftWritten(true);
+}
+
+/// A save that fails is told once, in the window, and taken back by one that does not.
+void CdData::draftWritten(bool written) {
+  if (visit_.draftFailed != written) return;
+  visit_.draftFailed = !written;
+  const std::string line = "What is typed cannot be kept before OK: ";
+  if (!written) {
+    form_.Label25.caption = line + ports_.files.reason() + ".";
+    form_.Label25.visible = true;
+  } else if (form_.Label25.caption.get().rfind(line, 0) == 0) {
+    form_.Label25.visible = false;
+  }
 }
 
 /// The window as it would be if what stands in the entry fields were taken into its rows.

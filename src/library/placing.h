@@ -3,6 +3,8 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
+#include <utility>
 
 #include "platform/forms/form.h"
 
@@ -23,10 +25,12 @@ inline forms::Place ontoScreen(forms::Place window, const forms::Place& screen) 
   return window;
 }
 
-/// The first of the sides where the window covers nothing of the deck; where there is none, the one where it covers least.
-inline forms::Place besideDeck(forms::Place window, const forms::Place& deck, const forms::Place& screen, std::array<Side, 4> sides) {
+/// The first of the sides where the window covers nothing of the deck; where there is none, the one where it covers least,
+/// and of its keys rather than more.
+inline forms::Place besideDeck(forms::Place window, const forms::Place& deck, const forms::Place& screen, std::array<Side, 4> sides,
+                               const forms::Place& keys = {}) {
   forms::Place best = window;
-  int64_t least = -1;
+  std::pair<int64_t, int64_t> least{-1, 0};
   for (const Side side : sides) {
     window.left = deck.left + (deck.width - window.width) / 2;
     window.top = deck.top + (deck.height - window.height) / 2;
@@ -35,8 +39,8 @@ inline forms::Place besideDeck(forms::Place window, const forms::Place& deck, co
     if (side == Side::Left) window.left = deck.left - window.width;
     if (side == Side::Right) window.left = deck.left + deck.width;
     const forms::Place placed = ontoScreen(window, screen);
-    const int64_t covered = overlap(placed, deck);
-    if (least < 0 || covered < least) {
+    const std::pair covered{overlap(placed, deck), overlap(placed, keys)};
+    if (least.first < 0 || covered < least) {
       best = placed;
       least = covered;
     }

@@ -85,7 +85,7 @@ struct acdtabs : forms::Form {
   Label Label12{*this, "Label12"};  ///< track count
   Label Label11{*this, "Label11"};
   Label Label13{*this, "Label13"};  ///< total time
-  Label Label25{*this, "Label25"};  ///< shown from a submission's start on: how far it is, then why it was refused
+  Label Label25{*this, "Label25"};  ///< how far a submission is, or why it was refused; that what is typed cannot be kept
 
   // Keys
   Panel Keys{*this, "Keys"};

@@ -1,6 +1,8 @@
 // From room to room.
 #include "app/links.h"
 
+#include <utility>
+
 #include "app/orvanta.h"
 #include "platform/ports/dialogs.h"
 
@@ -24,17 +26,23 @@ void Links::restartForDisc() {
   core_.life_.restart.forDisc([this] { core_.faceplate_.drawer.follow(); });
 }
 
+void Links::whenFree(Later& timer, int look, std::function<void()> act) {
+  timer = clock_.makeTimer([this, &timer, act = std::move(act)] {
+    if (restartWaits()) return;
+    timer->setInterval(0);
+    act();
+  });
+  timer->setInterval(look);
+}
+
 void Links::restartWhenFree() {
   constexpr int kLook = 500;  // milliseconds
-  restartLater_ = clock_.makeTimer([this] {
-    if (restartWaits()) return;
-    restartLater_->setInterval(0);
+  whenFree(restartLater_, kLook, [this] {
     // What plays would be handed on to be played to its end, by a drive that no deck has any more.
     core_.state.process.playNext = core_.state.transport.playingFlag == kOn;
     core_.playback_.engine.stopKey();
     restartForDisc();
   });
-  restartLater_->setInterval(kLook);
 }
 
 bool Links::restartWaits() const {
@@ -69,19 +77,12 @@ void Links::exitStopped() {
 }
 
 void Links::exitWhenFree() {
-  exitWanted_ = true;
-  exitIfWanted();
+  constexpr int kLook = 100;  // milliseconds
+  if (!restartWaits()) core_.life_.exit.exitProgram();
+  whenFree(exitLater_, kLook, [this] { core_.life_.exit.exitProgram(); });
 }
 
-void Links::exitIfWanted() {
-  if (exitWanted_ && !restartWaits()) core_.life_.exit.exitProgram();
-}
-
-void Links::afterTick() {
-  core_.playback_.status.tell();
-  core_.strip_.mirror.follow();
-  exitIfWanted();
-}
+void Links::afterTick() { core_.strip_.mirror.follow(); }
 
 // ---- windows
 
@@ -94,13 +95,14 @@ void Links::minimise() { core_.strip_.window.minfp1(); }
 
 void Links::hideFaceplate() { core_.form.hide(); }
 
+bool Links::mayShowCdData() const { return core_.state.disc.in() || core_.library_.cdData.openForPerson(); }
+
 /// The track list's window makes room for the editor.
 void Links::showCdData() {
-  CdData& editor = core_.library_.cdData;
-  if (!core_.state.disc.in() && !editor.openForPerson()) return;
+  if (!mayShowCdData()) return;
   core_.cddb_.window.cddbcanz();
   closeTrackList();
-  editor.openFromFaceplate();
+  core_.library_.cdData.openFromFaceplate();
 }
 
 void Links::showPlaylist() {

@@ -1,6 +1,7 @@
 // What the rooms ask of those above them, and who does it.
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -40,6 +41,7 @@ class Links : public PlaybackUpward, public FaceplateUpward, public StripUpward,
   void hideFaceplate() override;
   void minimise() override;
   void showCdData() override;
+  bool mayShowCdData() const override;
   void showPlaylist() override;
   void showTrackList() override;
   void closeTrackList() override;
@@ -68,14 +70,17 @@ class Links : public PlaybackUpward, public FaceplateUpward, public StripUpward,
   void showPage(const std::string& /*address*/) override {}
 
  private:
+  using Later = std::unique_ptr<Timer>;
+
   bool mayExit();
-  void exitIfWanted();
+  /// As soon as no window or box of the user's stands.
+  void whenFree(Later& timer, int look, std::function<void()> act);
 
   Orvanta& core_;
   Clock& clock_;
   Dialogs& dialogs_;
-  bool exitWanted_ = false;
-  std::unique_ptr<Timer> restartLater_;
+  Later restartLater_;
+  Later exitLater_;
 };
 
 }  // namespace orvanta

@@ -10,6 +10,8 @@ class FaceplateUpward {
   virtual void showMenu() = 0;
   virtual void switchWallpaper() = 0;
   virtual void showCdData() = 0;
+  /// A disc is in, or its CD Data stands open still.
+  virtual bool mayShowCdData() const = 0;
   virtual void showPlaylist() = 0;
   virtual void showTrackList() = 0;
   virtual void closeTrackList() = 0;

@@ -8,8 +8,8 @@
 
 namespace orvanta {
 
-DiscWatch::DiscWatch(const PlaybackPorts& ports, Engine& engine, Modes& modes, TrayAnswers& answers, Display& display, CDForm& form,
-                     SharedState& state, PlaybackUpward& upward)
+DiscWatch::DiscWatch(const PlaybackPorts& ports, Engine& engine, Modes& modes, TrayAnswers& answers, Display& display, StatusBoard& status,
+                     CDForm& form, SharedState& state, PlaybackUpward& upward)
     : clock_(ports.clock),
       device_(ports.device),
       screen_(ports.screen),
@@ -17,6 +17,7 @@ DiscWatch::DiscWatch(const PlaybackPorts& ports, Engine& engine, Modes& modes, T
       modes_(modes),
       answers_(answers),
       display_(display),
+      status_(status),
       form_(form),
       state_(state),
       upward_(upward) {}
@@ -28,6 +29,7 @@ void DiscWatch::start() {
 
 void DiscWatch::timer3_timer() {
   tick();
+  status_.tell();
   upward_.afterTick();
 }
 

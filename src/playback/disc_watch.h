@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "platform/ports/clock.h"
+#include "playback/deck_status.h"
 #include "playback/modes.h"
 #include "playback/ports.h"
 #include "playback/tray_answers.h"
@@ -12,8 +13,8 @@ namespace orvanta {
 
 class DiscWatch {
  public:
-  DiscWatch(const PlaybackPorts& ports, Engine& engine, Modes& modes, TrayAnswers& answers, Display& display, CDForm& form,
-            SharedState& state, PlaybackUpward& upward);
+  DiscWatch(const PlaybackPorts& ports, Engine& engine, Modes& modes, TrayAnswers& answers, Display& display, StatusBoard& status,
+            CDForm& form, SharedState& state, PlaybackUpward& upward);
 
   /// From the faceplate's load on.
   void start();
@@ -35,6 +36,7 @@ class DiscWatch {
   Modes& modes_;
   TrayAnswers& answers_;
   Display& display_;
+  StatusBoard& status_;
   CDForm& form_;
   SharedState& state_;
   PlaybackUpward& upward_;

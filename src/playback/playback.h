@@ -17,9 +17,9 @@ struct Playback {
         modes(ports, engine, display, looks, form, state),
         time(ports.device, layer, engine, display, state),
         answers(ports, engine, state),
-        ticks(ports, load, engine, modes, time, answers, display, form, state, upward),
-        watch(ports, engine, modes, answers, display, form, state, upward),
-        status(engine, form, state) {}
+        status(engine, form, state),
+        ticks(ports, load, engine, modes, time, answers, display, status, form, state, upward),
+        watch(ports, engine, modes, answers, display, status, form, state, upward) {}
 
   /// From the faceplate's load on.
   void start() {
@@ -36,9 +36,9 @@ struct Playback {
   Modes modes;
   TrackTime time;
   TrayAnswers answers;
+  StatusBoard status;
   Ticks ticks;
   DiscWatch watch;
-  StatusBoard status;
 };
 
 }  // namespace orvanta

@@ -11,7 +11,7 @@
 namespace orvanta {
 
 Ticks::Ticks(const PlaybackPorts& ports, DiscLoad& load, Engine& engine, Modes& modes, TrackTime& time, TrayAnswers& answers,
-             Display& display, CDForm& form, SharedState& state, PlaybackUpward& upward)
+             Display& display, StatusBoard& status, CDForm& form, SharedState& state, PlaybackUpward& upward)
     : clock_(ports.clock),
       screen_(ports.screen),
       load_(load),
@@ -20,6 +20,7 @@ Ticks::Ticks(const PlaybackPorts& ports, DiscLoad& load, Engine& engine, Modes& 
       time_(time),
       answers_(answers),
       display_(display),
+      status_(status),
       form_(form),
       state_(state),
       upward_(upward) {}
@@ -32,6 +33,7 @@ void Ticks::start() {
 
 void Ticks::timer2_timer() {
   tick();
+  status_.tell();
   upward_.afterTick();
   restIfQuiet();
 }

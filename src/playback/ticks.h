@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "platform/ports/clock.h"
+#include "playback/deck_status.h"
 #include "playback/disc_load.h"
 #include "playback/modes.h"
 #include "playback/ports.h"
@@ -15,7 +16,7 @@ namespace orvanta {
 class Ticks {
  public:
   Ticks(const PlaybackPorts& ports, DiscLoad& load, Engine& engine, Modes& modes, TrackTime& time, TrayAnswers& answers, Display& display,
-        CDForm& form, SharedState& state, PlaybackUpward& upward);
+        StatusBoard& status, CDForm& form, SharedState& state, PlaybackUpward& upward);
 
   /// From the faceplate's load on.
   void start();
@@ -41,6 +42,7 @@ class Ticks {
   TrackTime& time_;
   TrayAnswers& answers_;
   Display& display_;
+  StatusBoard& status_;
   CDForm& form_;
   SharedState& state_;
   PlaybackUpward& upward_;

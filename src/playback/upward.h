@@ -25,7 +25,7 @@ class PlaybackUpward {
   virtual void closeDiscWindows() = 0;
   /// The disc is known and no lookup ran yet: time for an automatic one, where it is wanted.
   virtual void automaticLookup() = 0;
-  /// On every way out of a tick, also where nothing plays.
+  /// On every way out of a tick, also where nothing plays, when the status has been told.
   virtual void afterTick() = 0;
 };
 

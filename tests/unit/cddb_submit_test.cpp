@@ -288,6 +288,16 @@ TEST(CddbSubmit, IsGivenUpByAnotherStartAndNotWithCdData) {
   EXPECT_TRUE(rig.cddb.loaded() && !rig.editor.loaded()) << "OK takes no submission back";
 }
 
+TEST(CddbSubmit, TakesUpToAHundredTracks) {
+  for (const int16_t tracks : {int16_t{100}, int16_t{101}}) {
+    Submitting rig;
+    rig.open();
+    rig.orvanta.cdData().disc().trackCount = tracks;
+    rig.press(rig.editor.Command12);
+    EXPECT_EQ(rig.category.loaded(), tracks == 100);
+  }
+}
+
 TEST(CddbSubmit, KeepsTypedLinesOutOfTheMail) {
   Submitting rig;
   rig.store.emailUser = "user\r\nDATA";

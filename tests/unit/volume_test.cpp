@@ -85,6 +85,12 @@ TEST(Volume, TheMixersKeysAreNotEnteredTwice) {
     deck.desktop.lastShown = nullptr;
     deck.gate.enter([&] { deck.form.activated(); });
   };
+  // Sliders that the setup brings back take nothing from a pointer that only passes.
+  Sliders back(0xFFFFFFFF, 0);
+  back.state.settings.soundMode = 3;
+  turnTo(back);
+  back.move(back.form.VolumeL, 400);
+  EXPECT_EQ(back.percent(), 100);
   // A mute comes back by the road that it went, whatever the setup has turned to meanwhile.
   Sliders own(0x80008000);
   own.press(own.form.Image2[1]);

@@ -47,7 +47,7 @@ void Links::restartWhenFree() {
 
 bool Links::restartWaits() const {
   return core_.library_.cdData.openForPerson() || core_.cddb_.window.openForPerson() || core_.mailForm.loaded() ||
-         core_.categoryForm.loaded() || core_.playlistForm.loaded() || dialogs_.open();
+         core_.categoryForm.loaded() || core_.playlistForm.loaded() || core_.web_.menu.open() || dialogs_.open();
 }
 
 void Links::runSetup() {
@@ -142,11 +142,32 @@ void Links::submitToCddb() { core_.cddb_.submitter.open(); }
 bool Links::mailSenderKnown() const { return storedCddbSettings(core_.ports_.files, core_.state.settings.appDir).senderKnown(); }
 
 bool Links::lookupMayStart() const {
-  return core_.state.disc.in() && !core_.mailForm.loaded() && !core_.playlistForm.loaded() && !dialogs_.open();
+  return core_.state.disc.in() && !core_.mailForm.loaded() && !core_.playlistForm.loaded() && !core_.web_.menu.open() && !dialogs_.open();
 }
 
 void Links::showSearching(bool now) { core_.playback_.display.searching(now); }
 
 void Links::readTextsAgain() { core_.playback_.load.readTextsAgain(); }
+
+void Links::lookUpOnline() { core_.cddb_.lookup.cddbdnld(); }
+
+bool Links::looksUp() const { return core_.cddb_.window.automatic() && core_.cddb_.window.loaded(); }
+
+void Links::cancelLookUp() { core_.cddb_.window.cddbcanz(); }
+
+// ---- menus, the web, other programs
+
+void Links::showMenu(bool byKey) { core_.web_.menu.wwwdtop(byKey); }
+
+void Links::showSearches(bool byKey) { core_.web_.menu.isrchopts(byKey); }
+
+void Links::startLibrary() { core_.web_.library.arun5(); }
+
+void Links::centreFaceplate() { core_.faceplate_.place.Form_DblClick(); }
+
+/// Of the disc in CD Data, as it stands there now.
+void Links::lookForLyrics() { core_.web_.search.lookForLyrics(core_.editor.Text2.caption, core_.editor.Text4.caption); }
+
+void Links::showPage(const std::string& address) { core_.web_.search.showPage(address); }
 
 }  // namespace orvanta

@@ -11,13 +11,14 @@
 #include "platform/ports/clock.h"
 #include "playback/upward.h"
 #include "strip/upward.h"
+#include "web/upward.h"
 
 namespace orvanta {
 
 class Dialogs;
 class Orvanta;
 
-class Links : public PlaybackUpward, public FaceplateUpward, public StripUpward, public LibraryUpward, public CddbUpward {
+class Links : public PlaybackUpward, public FaceplateUpward, public StripUpward, public LibraryUpward, public CddbUpward, public WebUpward {
  public:
   Links(Orvanta& core, Clock& clock, Dialogs& dialogs) : core_(core), clock_(clock), dialogs_(dialogs) {}
 
@@ -61,13 +62,22 @@ class Links : public PlaybackUpward, public FaceplateUpward, public StripUpward,
   void hideWallpaper() override;
   void renewWallpaper() override;
 
+  // Menus, the web, other programs.
+  void showMenu(bool byKey) override;
+  void showSearches(bool byKey) override;
+  void startLibrary() override;
+  void lookUpOnline() override;
+  bool looksUp() const override;
+  void cancelLookUp() override;
+  void centreFaceplate() override;
+  void lookForLyrics() override;
+  void showPage(const std::string& address) override;
+
   // Windows and programs that are still to come aboard; their keys do nothing yet.
-  void showMenu() override {}
+  void showAbout() override {}
   void launchEnhancedDisc() override {}
   bool toTray() override { return false; }
   void leaveTray() override {}
-  void lookForLyrics() override {}
-  void showPage(const std::string& /*address*/) override {}
 
  private:
   using Later = std::unique_ptr<Timer>;

@@ -32,6 +32,7 @@
 #include "platform/qt/qt_clock.h"
 #include "platform/qt/qt_desktop.h"
 #include "platform/qt/qt_dialogs.h"
+#include "platform/qt/qt_menus.h"
 #include "platform/qt/qt_screen.h"
 #include "platform/qt/turns.h"
 #include "platform/sound/mixer_stand_in.h"
@@ -154,7 +155,8 @@ struct Deck {
         volume(drive.player->level(), host.files, clock, host.inData(DataFile::Level), [&drive] { drive.player->relevel(); }),
         drivePath(drive.path),
         deckSound(makeSound(options.audio == "default" ? options.audio : "null")),
-        ports{device, tray, clock, dialogs, host.files, host.processes, screen, host.system, volume, mixer, sounds, printer, net, desktop},
+        ports{device, tray,  clock,  dialogs, host.files, host.processes, screen, host.system,
+              volume, mixer, sounds, printer, net,        menus,          desktop},
         orvanta(std::make_unique<Orvanta>(ports)) {
     gate.setOnEnd([] { QApplication::exit(0); });
     host.processes.setYield([this] { clock.yield(); });
@@ -165,6 +167,7 @@ struct Deck {
   QtClock clock{gate};
   QtScreen screen{scale};
   QtDialogs dialogs{gate, screen};
+  QtMenus menus{gate, screen};
   QtDesktop desktop{gate, scale};
   LatePrinter printer{gate};
   LateNet net{gate};

@@ -33,6 +33,8 @@ CddbPorts forCddb(const Ports& all) { return {all.clock, all.dialogs, all.files,
 
 ShellPorts forShell(const Ports& all) { return {all.dialogs, all.files, all.processes, all.screen, all.system, all.desktop}; }
 
+WebPorts forWeb(const Ports& all) { return {all.clock, all.dialogs, all.files, all.menus, all.processes, all.screen, all.system}; }
+
 LifePorts forLife(const Ports& all) {
   return {all.device, all.auxVolume, all.clock, all.dialogs, all.files, all.processes, all.screen, all.system};
 }
@@ -48,6 +50,7 @@ Orvanta::Orvanta(Ports& ports)
       library_(forLibrary(ports), playback_, {editor, playlistForm, infoForm}, form, state, links_),
       cddb_(forCddb(ports), library_.cdData, editor, {cddbForm, categoryForm, mailForm}, form, state, links_),
       shell_(forShell(ports), faceplate_.drawer, wallpaperForm, form, state),
+      web_(forWeb(ports), faceplate_.actions, form, state, links_),
       life_(forLife(ports), playback_, faceplate_, form, state) {
   playback_.status.watch([this](const DeckStatus& /*now*/) { library_.cdData.markPlaying(); });
 }

@@ -11,6 +11,7 @@
 #include "shell/shell.h"
 #include "state/second_start.h"
 #include "strip/strip.h"
+#include "web/web.h"
 
 namespace orvanta {
 
@@ -64,6 +65,7 @@ class Orvanta {
   Library library_;
   Cddb cddb_;
   Shell shell_;
+  Web web_;
   Life life_;
 };
 

@@ -51,12 +51,17 @@ enum class Action : uint8_t {
   CdData,
   Playlist,
   EnhancedDisc,
-  Menu,
+  Menu,      ///< argument: kByMouse where the mouse asks for it; so for the next
+  Internet,  ///< what can be looked for of the disc
+  Library,
   Wallpaper,
   Help,
   Exit,
 };
 constexpr size_t kActions = static_cast<size_t>(Action::Exit) + 1;
+
+/// A menu that the mouse asks for lies under it.
+constexpr int kByMouse = 1;
 
 /// A person may be refused, and is answered with a click and with the windows that go with an act.
 enum class By : uint8_t { Person, Program };

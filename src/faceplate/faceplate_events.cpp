@@ -46,15 +46,19 @@ void FaceplateEvents::mouseMove(forms::Control* control, const forms::Mouse& mou
 void FaceplateEvents::mouseUp(forms::Control* control, const forms::Mouse& mouse) {
   look_.up();
   grip_.drop();
-  if (control == nullptr || volume_.mouseUp(*control)) return;
+  if (control != nullptr && volume_.mouseUp(*control)) return;
   const bool right = mouse.button == forms::MouseButton::Right;
-  const auto route = right ? rightRouteOf(*control) : routeOf(*control);
-  if (!route) return;
+  const auto route = control == nullptr ? std::nullopt : right ? rightRouteOf(*control) : routeOf(*control);
+  if (!route) {
+    if (right && mouse.over) actions_.run(Action::Menu, By::Person, kByMouse);
+    return;
+  }
   if (!mouse.over) {
     // Whoever thinks better of a press slides off the key.
     actions_.letGo(route->action);
   } else {
-    actions_.release(route->action, route->action == Action::Seek ? mouse.x : route->argument);
+    const bool menu = route->action == Action::Internet;
+    actions_.release(route->action, route->action == Action::Seek ? mouse.x : menu ? kByMouse : route->argument);
   }
 }
 

@@ -38,6 +38,7 @@ constexpr KeyRow kKeys[] = {
     {kF1, Action::Help},
     {kHelp, Action::Help},
     {kF1 + 1, Action::Menu},
+    {forms::key::kMenu, Action::Menu},
     {kF1 + 3, Action::Mute},
     {kF1 + 4, Action::Louder, true},
     {kF1 + 5, Action::Softer, true},

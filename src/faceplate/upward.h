@@ -7,7 +7,11 @@ class FaceplateUpward {
  public:
   virtual ~FaceplateUpward() = default;
   virtual void showHelp(int topic) = 0;
-  virtual void showMenu() = 0;
+  /// All that the deck can do; `byKey`: not where the mouse is.
+  virtual void showMenu(bool byKey) = 0;
+  /// Searches of the web for what plays.
+  virtual void showSearches(bool byKey) = 0;
+  virtual void startLibrary() = 0;
   virtual void switchWallpaper() = 0;
   virtual void showCdData() = 0;
   /// A disc is in, or its CD Data stands open still.

@@ -284,7 +284,7 @@ Settings defaultSettings(const std::string& appDir, const std::string& drive) {
   settings.customColor[kCustomBars] = 0x60D818;
   settings.fonts[kDiscFont].fontColor = 0x50C8FF;
   settings.fonts[kTrackFont].fontColor = 0x00FF00;
-  settings.searchEngine = "DuckDuckGo";
+  settings.searchEngine = "Yahoo";
   return settings;
 }
 

@@ -34,7 +34,7 @@ struct Deck : CoreRig {
   QImage picture() const { return window->grab().toImage(); }
   Scale scale;
   QtDesktop qtDesktop;
-  Ports realPorts{device, tray, clock, dialogs, files, processes, screen, system, auxVolume, mixer, sounds, printer, net, qtDesktop};
+  Ports realPorts{device, tray, clock, dialogs, files, processes, screen, system, auxVolume, mixer, sounds, printer, net, menus, qtDesktop};
   Orvanta core{realPorts};
   FormWindow* window = nullptr;
 };

@@ -174,6 +174,7 @@ TEST(View, ScreenReadersFindEveryControl) {
   EXPECT_EQ(interfaceOf(form.Label10)->text(QAccessible::Name), "13:29");
   EXPECT_EQ(interfaceOf(form.icntla[Play])->role(), QAccessible::PushButton);
   interfaceOf(form.icntla[Play])->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+  QApplication::processEvents();
   deck.clock.advance(3000);
   EXPECT_EQ(interfaceOf(form.Label10)->text(QAccessible::Name), "0:03");
   EXPECT_EQ(interfaceOf(form.CDStatusBar)->text(QAccessible::Value), "1%");
@@ -229,6 +230,7 @@ TEST(View, ScreenReadersHearWhatKeysAreAndDo) {
   const int place = deck.core.form.ThumbL.top;
   deck.gate.enter([&] { deck.core.form.press(deck.core.form.Image2[0]); });
   slider->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+  QApplication::processEvents();
   EXPECT_EQ(deck.core.form.ThumbL.top, place);
   slider->actionInterface()->doAction(QAccessibleActionInterface::decreaseAction());
   EXPECT_GT(deck.core.form.ThumbL.top, place);

@@ -30,8 +30,9 @@ struct CoreRig {
   FakeSounds sounds;
   FakePrinter printer;
   FakeNet net{clock};
+  FakeMenus menus;
   DriveTray tray{player, "/drive"};
-  Ports ports{device, tray, clock, dialogs, files, processes, screen, system, auxVolume, mixer, sounds, printer, net, desktop};
+  Ports ports{device, tray, clock, dialogs, files, processes, screen, system, auxVolume, mixer, sounds, printer, net, menus, desktop};
   Orvanta orvanta{ports};
   CDForm& form = orvanta.form;
   SharedState& state = orvanta.state;

@@ -13,6 +13,7 @@
 #include "platform/ports/core_gate.h"
 #include "platform/ports/dialogs.h"
 #include "platform/ports/files.h"
+#include "platform/ports/menu.h"
 #include "platform/ports/mixer_application.h"
 #include "platform/ports/printer.h"
 #include "platform/ports/processes.h"
@@ -131,15 +132,20 @@ class FakeProcesses : public Processes {
     return fail ? 0 : static_cast<Id>(tape.size());
   }
   bool running(Id id) const override { return alive.count(id) > 0; }
+  std::optional<int> result(Id id) const override { return running(id) ? std::nullopt : std::optional(exitCode); }
   int runAndWait(const ProcessRequest& request) override { return start(request) != 0 ? exitCode : -1; }
   bool nameRuns(const std::string& program) const override { return names.count(program) > 0; }
-  bool canStart(const std::string& program) const override { return !bare && missing.count(program) == 0; }
+  std::string pathOf(const std::string& program) const override {
+    const bool there = !bare && missing.count(program) == 0 && (installed.empty() || program[0] == '/' || installed.count(program) > 0);
+    return !there ? "" : program[0] == '/' ? program : "/usr/bin/" + program;
+  }
 
   Tape tape;
   std::set<Id> alive;
-  std::set<std::string> missing;  ///< programs that are not there
-  bool bare = false;              ///< a host without any program
-  int exitCode = 0;               ///< of what is waited for
+  std::set<std::string> missing;    ///< programs that are not there
+  std::set<std::string> installed;  ///< names in PATH; none: any
+  bool bare = false;                ///< a host without any program
+  int exitCode = 0;                 ///< of what is waited for
   std::set<std::string> names;
   bool fail = false;
   std::function<void()> onStart;
@@ -178,10 +184,12 @@ class FakeSystem : public System {
   std::string windowsDir() const override { return "/programs"; }
   std::string defaultDataDir() const override { return "/usual"; }
   std::string mixerProgram() const override { return ""; }
+  std::string programFor(const std::string& type) const override { return type == "text/html" ? browser : ""; }
   int16_t platformId() const override { return 1; }
   std::vector<std::string> handedOn() const override { return arguments; }
   void changeDrive(const std::string& drive, const std::string& disc) override { arguments = {"--drive", drive, "--disc", disc}; }
   Tape arguments;
+  std::string browser;  ///< of the desktop
 };
 
 class FakeView : public forms::FormView {
@@ -249,6 +257,21 @@ class FakeSounds : public Sounds {
   void play(const std::string& path) override { tape.push_back(path); }
   void beep() override { tape.emplace_back("beep"); }
   Tape tape;
+};
+
+/// A person who sees a menu as text and chooses an item by its name.
+class FakeMenus : public Menus {
+ public:
+  std::string popUp(const MenuItem& menu, bool byKey) override {
+    tape.push_back(menu.name + (byKey ? " by key" : ""));
+    shown = menu;
+    if (const auto work = std::exchange(whileOpen, nullptr)) work();
+    return std::exchange(choice, "");
+  }
+  Tape tape;
+  MenuItem shown;      ///< last
+  std::string choice;  ///< of the next one
+  std::function<void()> whileOpen;
 };
 
 class FakePrinter : public Printer {

@@ -61,6 +61,7 @@ class Scene {
     if (what == "start") return atStart_;
     if (what == "all") return Snapshot(*front_).whole();
     if (what == "body") return {placeOf(*front_) + " " + std::to_string(front_->backColor)};
+    if (what == "tree") return treeOf(rig_.menus.shown, "");
     if (what != "look") return {};
     Tape all = Snapshot(*front_).captions();
     static const std::set<std::string> display = {"Label6", "Label8", "Label9", "Label10", "Label12", "Label13", "Label14", "Label30"};
@@ -71,6 +72,18 @@ class Scene {
       if (control->tabStop && control->shown() && !control->available()) dead += " " + control->fullName();
     }
     if (!dead.empty()) all.push_back("dead:" + dead);
+    return all;
+  }
+
+  /// An item a line, deeper ones indented; what is hidden is left out.
+  static Tape treeOf(const MenuItem& menu, const std::string& indent) {
+    Tape all;
+    for (const MenuItem& item : menu.items) {
+      if (!item.shown) continue;
+      all.push_back(indent + (item.caption.empty() ? "----" : item.name + " \"" + item.caption + "\"") + (item.enabled ? "" : " dead") +
+                    (item.checked ? " *" : ""));
+      std::ranges::copy(treeOf(item, indent + ". "), std::back_inserter(all));
+    }
     return all;
   }
 
@@ -141,8 +154,23 @@ class Scene {
     if (act.verb == "no-start") return unstartable_ = act.value, true;
     if (act.verb == "notice") return rig_.player.answer = {TrayOffer::Answer::Notice, act.value}, true;
     if (act.verb == "program") return program(act);
-    if (act.verb == "look" || act.verb == "all" || act.verb == "body" || act.verb == "start") return asked_ = act.verb, true;
+    if (act.verb == "look" || act.verb == "all" || act.verb == "start" || act.verb == "tree" || act.verb == "body")
+      return asked_ = act.verb, true;
     if (act.verb == "artist") return rig_.state.disc.discArtist = act.value, true;
+    if (act.verb == "title") return rig_.state.disc.discTitle = act.value, true;
+    if (act.verb == "site") return rig_.state.disc.extraInfo[3] = act.value, true;
+    if (act.verb == "choose") return rig_.menus.choice = act.value, true;
+    if (act.verb == "desktop-opens-with") return rig_.system.browser = act.value, true;
+    if (act.verb == "installed") return rig_.processes.installed = {act.value}, true;
+    if (act.verb == "gone") return rig_.processes.missing.insert(act.value), true;
+    if (act.verb == "ends-with") return rig_.processes.exitCode = act.number(), true;
+    if (act.verb == "behind-menu") {
+      const std::vector<Word> acts = wordsOf(act.value);
+      rig_.menus.whileOpen = [this, acts] {
+        for (const Word& each : acts) done(each);
+      };
+      return true;
+    }
     if (act.verb == "clear-disc") return rig_.state.disc.clearDiscRequest = kOn, true;
     if (act.verb == "setup") return rig_.state.process.setupWanted = kOn, true;
     if (act.verb == "wallpaper") return enter([&] { rig_.orvanta.actions().run(Action::Wallpaper); });
@@ -177,8 +205,8 @@ class Scene {
     static const std::map<std::string, int> named = {
         {"<Enter>", forms::key::kEnter},    {"<Space>", forms::key::kSpace}, {"<Tab>", forms::key::kTab},   {"<Esc>", forms::key::kEscape},
         {"<Up>", forms::key::kUp},          {"<Down>", forms::key::kDown},   {"<Left>", forms::key::kLeft}, {"<Right>", forms::key::kRight},
-        {"<Back>", forms::key::kBackspace}, {"<F1>", forms::key::kF1},       {"<F4>", forms::key::kF1 + 3}, {"<F5>", forms::key::kF1 + 4},
-        {"<F6>", forms::key::kF1 + 5},      {"<F7>", forms::key::kF1 + 6}};
+        {"<Back>", forms::key::kBackspace}, {"<F1>", forms::key::kF1},       {"<F2>", forms::key::kF1 + 1}, {"<Menu>", forms::key::kMenu},
+        {"<F4>", forms::key::kF1 + 3},      {"<F5>", forms::key::kF1 + 4},   {"<F6>", forms::key::kF1 + 5}, {"<F7>", forms::key::kF1 + 6}};
     if (const auto found = named.find(act.verb); found != named.end()) return key(found->second), true;
     for (const char c : act.verb) {
       if ((c < 'A' || c > 'Z') && (c < '0' || c > '9')) return false;
@@ -234,6 +262,7 @@ class Scene {
     tape("sounds: ", rig_.sounds.tape);
     tape("mixer: ", rig_.mixer.tape);
     tape("net: ", rig_.net.tape);
+    tape("menu: ", rig_.menus.tape);
     std::erase_if(rig_.desktop.tape, [](const std::string& act) { return act != "raise" && act != "hide" && act != "drag"; });
     tape("view: ", rig_.desktop.tape);
     if (std::exchange(rig_.auxVolume.keeps, 0) > 0) tell("level kept");

@@ -11,7 +11,8 @@ class Deck : public testing::TestWithParam<const char*> {};
 TEST_P(Deck, DoesAsItIsWritten) { expectTranscript(std::string("deck/") + GetParam() + ".txt"); }
 
 INSTANTIATE_TEST_SUITE_P(All, Deck,
-                         testing::Values("play", "hands", "looks", "sliders", "comings", "windows", "online", "shell", "starts", "strip"),
+                         testing::Values("play", "hands", "looks", "sliders", "comings", "windows", "online", "shell", "starts", "strip",
+                                         "menus"),
                          [](const auto& each) { return std::string(each.param); });
 
 }  // namespace

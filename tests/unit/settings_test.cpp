@@ -60,7 +60,7 @@ TEST(SettingsFiles, HoldEveryFieldInItsPlace) {
 TEST(SettingsFiles, OfAFreshInstallation) {
   const Settings s = defaultSettings("/data", "/drive");
   EXPECT_EQ(told(s),
-            "appDir=/data cdProbePath=/drive soundMode=3 font0=,0,0,0,0,5294335 font1=,0,0,0,0,65280 option4=7 searchEngine=DuckDuckGo "
+            "appDir=/data cdProbePath=/drive soundMode=3 font0=,0,0,0,0,5294335 font1=,0,0,0,0,65280 option4=7 searchEngine=Yahoo "
             "colour0=11051676 colour1=3354155 colour2=4011827 colour3=2828068 colour4=6346776 showLights=1")
       << "CD Data opens beside the deck";
   FakeFiles files;

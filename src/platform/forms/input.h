@@ -27,6 +27,7 @@ constexpr int kLeft = 0x105;
 constexpr int kUp = 0x106;
 constexpr int kRight = 0x107;
 constexpr int kDown = 0x108;
+constexpr int kMenu = 0x109;
 constexpr int kF1 = 0x110;  ///< F2 is the next, and so on to F12
 }  // namespace key
 

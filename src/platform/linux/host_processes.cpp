@@ -34,7 +34,7 @@ std::vector<char*> pointersTo(const std::vector<std::string>& texts) {
 }
 
 /// With no signal held back: this program waits for some of its own in another way. 0 when it cannot be started.
-pid_t spawn(const std::vector<std::string>& arguments, posix_spawn_file_actions_t& actions, char** environment) {
+pid_t spawn(const std::vector<std::string>& arguments, posix_spawn_file_actions_t& actions, char** environment, bool detached = false) {
   // Libraries open files too, and not all of them close theirs here.
   posix_spawn_file_actions_addclosefrom_np(&actions, STDERR_FILENO + 1);
   posix_spawnattr_t attributes;
@@ -42,7 +42,8 @@ pid_t spawn(const std::vector<std::string>& arguments, posix_spawn_file_actions_
   sigset_t none;
   sigemptyset(&none);
   posix_spawnattr_setsigmask(&attributes, &none);
-  posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSIGMASK);
+  posix_spawnattr_setflags(&attributes,
+                           static_cast<short>(detached ? POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSID : POSIX_SPAWN_SETSIGMASK));
   pid_t pid = 0;
   const int error = posix_spawnp(&pid, arguments[0].c_str(), &actions, &attributes, pointersTo(arguments).data(), environment);
   posix_spawnattr_destroy(&attributes);
@@ -81,7 +82,7 @@ Processes::Id HostProcesses::start(const ProcessRequest& request) {
   posix_spawn_file_actions_init(&actions);
   std::error_code error;
   if (fs::is_directory(request.folder, error)) posix_spawn_file_actions_addchdir_np(&actions, request.folder.c_str());
-  const pid_t pid = spawn(request.arguments, actions, pointersTo(environment_).data());
+  const pid_t pid = spawn(request.arguments, actions, pointersTo(environment_).data(), request.detached);
   posix_spawn_file_actions_destroy(&actions);
   if (pid > 0) children_[pid] = std::nullopt;
   return pid;
@@ -98,6 +99,12 @@ bool HostProcesses::running(Id id) const {
   reap();
   const auto found = children_.find(id);
   return found != children_.end() && !found->second;
+}
+
+std::optional<int> HostProcesses::result(Id id) const {
+  reap();
+  const auto found = children_.find(id);
+  return found == children_.end() ? std::optional(-1) : found->second;
 }
 
 int HostProcesses::runAndWait(const ProcessRequest& request) {
@@ -120,14 +127,15 @@ bool HostProcesses::nameRuns(const std::string& program) const {
   return false;
 }
 
-bool HostProcesses::canStart(const std::string& program) const {
-  if (program.find('/') != std::string::npos) return isProgram(program);
+std::string HostProcesses::pathOf(const std::string& program) const {
+  if (program.find('/') != std::string::npos) return isProgram(program) ? program : "";
   const char* path = std::getenv("PATH");
   std::istringstream folders(path != nullptr ? path : "");
   for (std::string folder; std::getline(folders, folder, ':');) {
-    if (!folder.empty() && isProgram(joinPath(folder, program))) return true;
+    std::string found = joinPath(folder, program);
+    if (!folder.empty() && !program.empty() && isProgram(found)) return found;
   }
-  return false;
+  return {};
 }
 
 std::optional<std::string> outputOf(const std::vector<std::string>& arguments) {

@@ -20,9 +20,10 @@ class HostProcesses : public Processes {
 
   Id start(const ProcessRequest& request) override;
   bool running(Id id) const override;
+  std::optional<int> result(Id id) const override;
   int runAndWait(const ProcessRequest& request) override;
   bool nameRuns(const std::string& program) const override;
-  bool canStart(const std::string& program) const override;
+  std::string pathOf(const std::string& program) const override;
 
   /// Takes note of children that have ended, so that none stays behind as a zombie.
   void reap() const;

@@ -10,6 +10,7 @@
 #include <sstream>
 
 #include "base/text.h"
+#include "platform/linux/associations.h"
 
 namespace orvanta {
 
@@ -32,9 +33,15 @@ std::string xdgFolder(const char* variable, const char* rest) {
 
 }  // namespace
 
-std::string HostSystem::systemDir() const { return joinPath(xdgFolder("XDG_CONFIG_HOME", ".config"), "orvanta"); }
+std::string HostSystem::configHome() { return xdgFolder("XDG_CONFIG_HOME", ".config"); }
 
-std::string HostSystem::defaultDataDir() const { return joinPath(xdgFolder("XDG_DATA_HOME", ".local/share"), "orvanta"); }
+std::string HostSystem::dataHome() { return xdgFolder("XDG_DATA_HOME", ".local/share"); }
+
+std::string HostSystem::systemDir() const { return joinPath(configHome(), "orvanta"); }
+
+std::string HostSystem::defaultDataDir() const { return joinPath(dataHome(), "orvanta"); }
+
+std::string HostSystem::programFor(const std::string& type) const { return associatedCommand(type); }
 
 std::string HostSystem::windowsDir() const {
   std::error_code error;

@@ -11,6 +11,7 @@ class Dialogs;
 class DiscTray;
 class Files;
 class MixerApplication;
+class Menus;
 class Net;
 class Printer;
 class Processes;
@@ -35,6 +36,7 @@ struct Ports {
   Sounds& sounds;
   Printer& printer;
   Net& net;
+  Menus& menus;
   forms::Desktop& desktop;  ///< gives loaded forms their views
 };
 

@@ -4,6 +4,7 @@
 
 #include <QAccessible>
 #include <QAccessibleWidget>
+#include <QTimer>
 #include <algorithm>
 #include <vector>
 
@@ -110,7 +111,8 @@ class AccessibleControl : public AccessibleParent {
     if (slider && (name == increaseAction() || name == decreaseAction())) {
       widget_.formWindow().step(widget_.control(), name == increaseAction() ? 1 : -1);
     } else if (!slider && name == pressAction()) {
-      widget_.formWindow().press(widget_.control());
+      // Whoever asks is answered first: a key may open a menu or a box, and comes back when that is closed.
+      QTimer::singleShot(0, &widget_, [&widget = widget_] { widget.formWindow().press(widget.control()); });
     }
   }
 

@@ -20,6 +20,7 @@ int keyCode(int qtKey) {
     case Qt::Key_Right: return forms::key::kRight;
     case Qt::Key_Down: return forms::key::kDown;
     case Qt::Key_Help: return forms::key::kHelp;
+    case Qt::Key_Menu: return forms::key::kMenu;
     default: break;
   }
   if (qtKey >= Qt::Key_F1 && qtKey <= Qt::Key_F12) return forms::key::kF1 + qtKey - Qt::Key_F1;

@@ -1,0 +1,74 @@
+// A menu runs a loop of its own; when the process ended in it, control does not come back.
+#include "platform/qt/qt_menus.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCursor>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QTimer>
+#include <QWindow>
+
+#include "platform/ports/screen.h"
+#include "platform/qt/to_qt.h"
+
+namespace orvanta {
+
+namespace {
+
+void addItem(QMenu& menu, const MenuItem& item) {
+  if (item.caption.empty()) {
+    menu.addSeparator();
+    return;
+  }
+  QAction* action = nullptr;
+  if (item.items.empty()) {
+    action = menu.addAction(toQt(item.caption));
+  } else {
+    QMenu* part = menu.addMenu(toQt(item.caption));
+    fillMenu(*part, item);
+    action = part->menuAction();
+  }
+  action->setData(toQt(item.name));
+  action->setEnabled(item.enabled);
+  action->setVisible(item.shown);
+  action->setCheckable(item.checked);
+  action->setChecked(item.checked);
+}
+
+/// Over the window in use where a key asked, or a press that the mouse did not make.
+QPoint placeOver(const QWidget* window, bool byKey) {
+  const QPoint mouse = QCursor::pos();
+  if (window == nullptr || (!byKey && window->frameGeometry().contains(mouse))) return mouse;
+  constexpr int kPart = 8;  // of the window's width and height
+  return window->mapToGlobal(QPoint(window->width() / kPart, window->height() / kPart));
+}
+
+/// As an arrow does it, which opens no submenu yet.
+void markFirst(QMenu& menu) {
+  QKeyEvent down(QEvent::KeyPress, Qt::Key_Down, Qt::NoModifier);
+  QApplication::sendEvent(&menu, &down);
+}
+
+}  // namespace
+
+void fillMenu(QMenu& menu, const MenuItem& item) {
+  menu.clear();
+  qDeleteAll(menu.findChildren<QMenu*>(QString(), Qt::FindDirectChildrenOnly));
+  for (const MenuItem& each : item.items) addItem(menu, each);
+}
+
+std::string QtMenus::popUp(const MenuItem& item, bool byKey) {
+  screen_.setPointer(Pointer::Normal);
+  QMenu menu;
+  fillMenu(menu, item);
+  const QWidget* window = QApplication::activeWindow();
+  menu.winId();
+  if (window != nullptr && menu.windowHandle() != nullptr) menu.windowHandle()->setTransientParent(window->windowHandle());
+  if (byKey) QTimer::singleShot(0, &menu, [&menu] { markFirst(menu); });
+  const QAction* chosen = menu.exec(placeOver(window, byKey));
+  gate_.leaveIfEnded();
+  return chosen == nullptr ? std::string() : chosen->data().toString().toStdString();
+}
+
+}  // namespace orvanta

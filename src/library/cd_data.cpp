@@ -213,7 +213,7 @@ void CdData::unload() {
 }
 
 void CdData::close() {
-  if (visit_.byPerson && !visit_.draftLeft && ports_.files.exists(draftPath())) ports_.files.remove(draftPath());
+  if (visit_.byPerson) dropDraft();
   form_.unload();
   ports_.screen.setPointer(Pointer::Normal);
 }

@@ -143,6 +143,8 @@ class CdData : public forms::FormEvents {
   // A draft of an earlier session.
   std::string draftPath() const;
   Draft draft() const;
+  /// What was typed is saved, or given up.
+  void dropDraft();
   void draftWritten(bool written);
   void offerDraft();
   void takeUp(const Draft& draft);

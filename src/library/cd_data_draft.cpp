@@ -32,6 +32,11 @@ void CdData::keepDraft() {
   draftWritten(true);
 }
 
+void CdData::dropDraft() {
+  visit_.draftDue = false;
+  if (!visit_.draftLeft && ports_.files.exists(draftPath())) ports_.files.remove(draftPath());
+}
+
 /// A save that fails is told once, in the window, and taken back by one that does not.
 void CdData::draftWritten(bool written) {
   if (visit_.draftFailed != written) return;

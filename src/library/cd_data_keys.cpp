@@ -109,7 +109,12 @@ void CdData::cancel() {
   close();
 }
 
-bool CdData::mayBeLost() { return !openForPerson() || !visit_.changed || ask(kLoseChanges); }
+bool CdData::mayBeLost() {
+  if (!openForPerson() || !visit_.changed) return true;
+  if (!ask(kLoseChanges)) return false;
+  dropDraft();
+  return true;
+}
 
 void CdData::clear() {
   beginFill();

@@ -5,6 +5,7 @@
 
 #include "app/orvanta.h"
 #include "platform/ports/dialogs.h"
+#include "platform/ports/tray.h"
 
 namespace orvanta {
 
@@ -47,7 +48,8 @@ void Links::restartWhenFree() {
 
 bool Links::restartWaits() const {
   return core_.library_.cdData.openForPerson() || core_.cddb_.window.openForPerson() || core_.mailForm.loaded() ||
-         core_.categoryForm.loaded() || core_.playlistForm.loaded() || core_.web_.menu.open() || dialogs_.open();
+         core_.categoryForm.loaded() || core_.playlistForm.loaded() || core_.web_.menu.open() || dialogs_.open() ||
+         core_.ports_.systemTray.menuOpen();
 }
 
 void Links::runSetup() {
@@ -128,6 +130,12 @@ void Links::switchWallpaper() {
 void Links::hideWallpaper() { core_.shell_.wallpaper.hideWithDeck(); }
 
 void Links::renewWallpaper() { core_.shell_.wallpaper.comeBackWithDeck(); }
+
+bool Links::toTray() { return core_.shell_.tray.load(); }
+
+void Links::leaveTray() { core_.shell_.tray.unload(); }
+
+void Links::endAtOnce() { core_.endOfSession(); }
 
 void Links::showHelp(int topic) { core_.shell_.help.show(topic); }
 

@@ -10,6 +10,7 @@
 #include "library/upward.h"
 #include "platform/ports/clock.h"
 #include "playback/upward.h"
+#include "shell/upward.h"
 #include "strip/upward.h"
 #include "web/upward.h"
 
@@ -18,7 +19,13 @@ namespace orvanta {
 class Dialogs;
 class Orvanta;
 
-class Links : public PlaybackUpward, public FaceplateUpward, public StripUpward, public LibraryUpward, public CddbUpward, public WebUpward {
+class Links : public PlaybackUpward,
+              public FaceplateUpward,
+              public StripUpward,
+              public ShellUpward,
+              public LibraryUpward,
+              public CddbUpward,
+              public WebUpward {
  public:
   Links(Orvanta& core, Clock& clock, Dialogs& dialogs) : core_(core), clock_(clock), dialogs_(dialogs) {}
 
@@ -61,6 +68,9 @@ class Links : public PlaybackUpward, public FaceplateUpward, public StripUpward,
   void switchWallpaper() override;
   void hideWallpaper() override;
   void renewWallpaper() override;
+  bool toTray() override;
+  void leaveTray() override;
+  void endAtOnce() override;
 
   // Menus, the web, other programs.
   void showMenu(bool byKey) override;
@@ -76,8 +86,6 @@ class Links : public PlaybackUpward, public FaceplateUpward, public StripUpward,
   // Windows and programs that are still to come aboard; their keys do nothing yet.
   void showAbout() override {}
   void launchEnhancedDisc() override {}
-  bool toTray() override { return false; }
-  void leaveTray() override {}
 
  private:
   using Later = std::unique_ptr<Timer>;

@@ -34,6 +34,7 @@
 #include "platform/qt/qt_dialogs.h"
 #include "platform/qt/qt_menus.h"
 #include "platform/qt/qt_screen.h"
+#include "platform/qt/qt_tray.h"
 #include "platform/qt/turns.h"
 #include "platform/sound/mixer_stand_in.h"
 #include "platform/sound/sound_choice.h"
@@ -155,8 +156,8 @@ struct Deck {
         volume(drive.player->level(), host.files, clock, host.inData(DataFile::Level), [&drive] { drive.player->relevel(); }),
         drivePath(drive.path),
         deckSound(makeSound(options.audio == "default" ? options.audio : "null")),
-        ports{device, tray,  clock,  dialogs, host.files, host.processes, screen, host.system,
-              volume, mixer, sounds, printer, net,        menus,          desktop},
+        ports{device, tray,  clock,  dialogs, host.files, host.processes, screen,     host.system,
+              volume, mixer, sounds, printer, net,        menus,          systemTray, desktop},
         orvanta(std::make_unique<Orvanta>(ports)) {
     gate.setOnEnd([] { QApplication::exit(0); });
     host.processes.setYield([this] { clock.yield(); });
@@ -171,6 +172,7 @@ struct Deck {
   QtDesktop desktop{gate, scale};
   LatePrinter printer{gate};
   LateNet net{gate};
+  QtTray systemTray{gate};
   MciDevice device;
   DriveTray tray;
   StreamVolume volume;

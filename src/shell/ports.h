@@ -8,6 +8,7 @@ class Files;
 class Processes;
 class Screen;
 class System;
+class Tray;
 namespace forms {
 class Desktop;
 }
@@ -18,6 +19,7 @@ struct ShellPorts {
   Processes& processes;
   Screen& screen;
   System& system;
+  Tray& tray;
   forms::Desktop& desktop;
 };
 

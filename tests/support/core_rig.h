@@ -31,8 +31,10 @@ struct CoreRig {
   FakePrinter printer;
   FakeNet net{clock};
   FakeMenus menus;
+  FakeTray systemTray;
   DriveTray tray{player, "/drive"};
-  Ports ports{device, tray, clock, dialogs, files, processes, screen, system, auxVolume, mixer, sounds, printer, net, menus, desktop};
+  Ports ports{device,    tray,  clock,  dialogs, files, processes, screen,     system,
+              auxVolume, mixer, sounds, printer, net,   menus,     systemTray, desktop};
   Orvanta orvanta{ports};
   CDForm& form = orvanta.form;
   SharedState& state = orvanta.state;

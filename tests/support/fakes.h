@@ -20,6 +20,7 @@
 #include "platform/ports/screen.h"
 #include "platform/ports/sounds.h"
 #include "platform/ports/system.h"
+#include "platform/ports/tray.h"
 
 namespace orvanta::test {
 
@@ -190,6 +191,36 @@ class FakeSystem : public System {
   void changeDrive(const std::string& drive, const std::string& disc) override { arguments = {"--drive", drive, "--disc", disc}; }
   Tape arguments;
   std::string browser;  ///< of the desktop
+};
+
+class FakeTray : public Tray {
+ public:
+  bool available() const override { return there; }
+  bool add(const TrayIcon& now, TrayEvents& events) override {
+    tape.push_back("add " + std::to_string(now.picture) + " " + now.tip);
+    if (refuses == "add") return false;
+    icon = now;
+    told = &events;
+    return true;
+  }
+  bool change(const TrayIcon& now) override {
+    tape.push_back("change " + std::to_string(now.picture) + " " + now.tip);
+    icon = now;
+    return refuses != "change";
+  }
+  bool remove() override {
+    tape.emplace_back("remove");
+    told = nullptr;
+    return refuses != "remove";
+  }
+  bool menuOpen() const override { return open; }
+
+  Tape tape;
+  bool there = true;
+  bool open = false;
+  std::string refuses;  ///< "add", "change", "remove"
+  TrayIcon icon;
+  TrayEvents* told = nullptr;  ///< of an icon that stands
 };
 
 class FakeView : public forms::FormView {

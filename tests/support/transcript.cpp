@@ -60,6 +60,7 @@ class Scene {
   Tape asked(const std::string& what) const {
     if (what == "start") return atStart_;
     if (what == "all") return Snapshot(*front_).whole();
+    if (what == "tray-menu") return trayMenu();
     if (what == "body") return {placeOf(*front_) + " " + std::to_string(front_->backColor)};
     if (what == "tree") return treeOf(rig_.menus.shown, "");
     if (what != "look") return {};
@@ -154,7 +155,8 @@ class Scene {
     if (act.verb == "no-start") return unstartable_ = act.value, true;
     if (act.verb == "notice") return rig_.player.answer = {TrayOffer::Answer::Notice, act.value}, true;
     if (act.verb == "program") return program(act);
-    if (act.verb == "look" || act.verb == "all" || act.verb == "start" || act.verb == "tree" || act.verb == "body")
+    if (act.verb == "look" || act.verb == "all" || act.verb == "start" || act.verb == "tree" || act.verb == "body" ||
+        act.verb == "tray-menu")
       return asked_ = act.verb, true;
     if (act.verb == "artist") return rig_.state.disc.discArtist = act.value, true;
     if (act.verb == "title") return rig_.state.disc.discTitle = act.value, true;
@@ -174,6 +176,10 @@ class Scene {
     if (act.verb == "clear-disc") return rig_.state.disc.clearDiscRequest = kOn, true;
     if (act.verb == "setup") return rig_.state.process.setupWanted = kOn, true;
     if (act.verb == "wallpaper") return enter([&] { rig_.orvanta.actions().run(Action::Wallpaper); });
+    if (act.verb == "tray") return tray(act.value);
+    if (act.verb == "tray-there") return rig_.systemTray.there = act.number() != 0, true;
+    if (act.verb == "tray-refuses") return rig_.systemTray.refuses = act.value, true;
+    if (act.verb == "tray-open") return rig_.systemTray.open = act.number() != 0, true;
     if (act.verb == "fails") return rig_.player.failure = true, rig_.player.stop(), true;
     if (act.verb == "drag") return enter([&] { front_->dragged(act.number(0), act.number(1)); });
     if (act.verb == "device") return rig_.player.play(act.number(), rig_.player.disc.leadOut), true;
@@ -192,6 +198,23 @@ class Scene {
   bool second(Tape words) {
     words.resize(3);
     return enter([&] { rig_.orvanta.secondStart({words[0], words[1], words[2]}); });
+  }
+
+  /// A click on its icon, its end, or an item of its menu.
+  bool tray(const std::string& what) {
+    TrayEvents* events = rig_.systemTray.told;
+    if (events == nullptr) return false;
+    if (what == "gone") rig_.systemTray.told = nullptr;
+    return enter([&] { what == "click" ? events->clicked() : what == "gone" ? events->gone() : events->chosen(what); });
+  }
+
+  /// The tray's menu as it would open.
+  Tape trayMenu() const {
+    Tape all;
+    for (const MenuItem& item : rig_.systemTray.icon.menu.items) {
+      all.push_back(std::string(item.checked ? "*" : "") + (item.isDefault ? "!" : "") + item.name + " \"" + item.caption + "\"");
+    }
+    return all;
   }
 
   bool program(const Word& act) {
@@ -263,6 +286,7 @@ class Scene {
     tape("mixer: ", rig_.mixer.tape);
     tape("net: ", rig_.net.tape);
     tape("menu: ", rig_.menus.tape);
+    tape("tray: ", rig_.systemTray.tape);
     std::erase_if(rig_.desktop.tape, [](const std::string& act) { return act != "raise" && act != "hide" && act != "drag"; });
     tape("view: ", rig_.desktop.tape);
     if (std::exchange(rig_.auxVolume.keeps, 0) > 0) tell("level kept");

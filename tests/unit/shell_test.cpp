@@ -19,6 +19,7 @@ TEST(Help, OpensWhatATopicHasOrSaysWhyNot) {
     FakeProcesses processes;
     FakeScreen screen;
     FakeSystem system;
+    FakeTray tray;
     FakeDesktop desktop;
     SharedState state;
     state.settings.appDir = "/data";
@@ -30,7 +31,7 @@ TEST(Help, OpensWhatATopicHasOrSaysWhyNot) {
       if (word.verb == "refuses") processes.fail = true;
       for (const std::string& program : word.verb == "missing" ? word.list() : Tape{}) processes.missing.insert(program);
     }
-    Help help({dialogs, files, processes, screen, system, desktop}, state);
+    Help help({dialogs, files, processes, screen, system, tray, desktop}, state);
     help.show(std::stoi(words[0].verb));
     return "started: " + runs(processes.tape, ", ") + "\nbox: " + runs(dialogs.tape, ", ");
   });

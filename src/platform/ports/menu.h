@@ -13,6 +13,9 @@ struct MenuItem {
   bool checked = false;
   bool shown = true;
   std::vector<MenuItem> items;  ///< of a submenu
+  bool isDefault = false;       ///< stands out as the one that a user most likely wants
+
+  bool operator==(const MenuItem&) const = default;
 };
 
 class Menus {

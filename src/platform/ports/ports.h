@@ -18,6 +18,7 @@ class Processes;
 class Screen;
 class Sounds;
 class System;
+class Tray;
 namespace forms {
 class Desktop;
 }
@@ -37,6 +38,7 @@ struct Ports {
   Printer& printer;
   Net& net;
   Menus& menus;
+  Tray& systemTray;
   forms::Desktop& desktop;  ///< gives loaded forms their views
 };
 

@@ -14,7 +14,7 @@
 #include "platform/linux/host_system.h"
 #include "platform/linux/local_socket.h"
 #include "settings_window.h"
-#include "state/record_file.h"
+#include "state/field_store.h"
 #include "state/second_start.h"
 #include "state/settings_files.h"
 
@@ -64,9 +64,9 @@ class Setup {
   /// Read plainly: the display colours that the deck works out of them are not to be written back.
   void read(SettingsFile file, const std::string& folder) {
     const std::string path = DataFolder(files_, folder).path(file);
-    const auto record = readRecordFile(files_, path);
-    if (record) readFields(file, record->reader(), settings_);
-    if (!record && files_.exists(path)) unreadable_ = path;
+    const auto fields = readFieldFile(files_, path);
+    if (fields) readFields(file, fields->reader(), settings_);
+    if (!fields && files_.exists(path)) unreadable_ = path;
   }
 
   HostFiles files_;

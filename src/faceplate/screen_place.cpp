@@ -46,8 +46,8 @@ void ScreenPlace::save(DataFile file) const {
 }
 
 bool ScreenPlace::restore(DataFile file, const Margins& margins) {
-  const RecordBytes record = data_.read(file).value_or(RecordBytes{});
-  FieldReader reader = record.reader();
+  const FieldBytes fields = data_.read(file).value_or(FieldBytes{});
+  FieldReader reader = fields.reader();
   const auto left = reader.next();
   const auto top = reader.next();
   if (!left || !top) return false;

@@ -120,8 +120,8 @@ bool before(const std::string& a, const std::string& b) { return upper(a) < uppe
 
 std::vector<std::string> Genres::ownGenres() const {
   std::vector<std::string> own;
-  const RecordBytes record = data_.read(DataFile::Genres).value_or(RecordBytes{});
-  FieldReader reader = record.reader();
+  const FieldBytes fields = data_.read(DataFile::Genres).value_or(FieldBytes{});
+  FieldReader reader = fields.reader();
   while (const auto field = reader.next()) {
     const std::string genre(trim(*field));
     if (!genre.empty()) own.push_back(genre);
@@ -164,9 +164,9 @@ std::optional<std::string> Genres::addGenre() {
 }
 
 void Genres::readUserCaptions() {
-  const auto record = data_.read(DataFile::Captions);
-  if (!record) return;
-  FieldReader reader = record->reader();
+  const auto fields = data_.read(DataFile::Captions);
+  if (!fields) return;
+  FieldReader reader = fields->reader();
   for (std::string& caption : state_.library.userCaptions) {
     const auto field = reader.next();
     if (field && !field->empty()) caption = unescapeField(*field);

@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "state/record_file.h"
+#include "state/field_store.h"
 
 namespace orvanta {
 
@@ -57,10 +57,10 @@ class DataFolder {
   std::string discs() const;
 
   /// nullopt when the file is missing or cannot be read.
-  std::optional<RecordBytes> read(DataFile file) const { return readRecordFile(files_, path(file)); }
+  std::optional<FieldBytes> read(DataFile file) const { return readFieldFile(files_, path(file)); }
   /// False: the file holds what it held before.
-  bool save(DataFile file, const FieldWriter& record) const { return writeRecordFile(files_, path(file), record); }
-  bool remove(DataFile file) const { return removeRecordFile(files_, path(file)); }
+  bool save(DataFile file, const FieldWriter& fields) const { return writeFieldFile(files_, path(file), fields); }
+  bool remove(DataFile file) const { return removeFieldFile(files_, path(file)); }
 
   /// Files that say something by standing there.
   void mark(DataFile file) const;

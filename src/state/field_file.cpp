@@ -1,4 +1,4 @@
-// Reading and writing single values of the record form.
+// Reading and writing single values.
 #include "state/field_file.h"
 
 #include <algorithm>

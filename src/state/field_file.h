@@ -1,4 +1,4 @@
-// The sequential record form of the settings and disc families: values in order, one a line, no
+// The sequential form of the settings and disc families: values in order, one a line, no
 // keys; strings in double quotes, numbers plain. Files are Windows-1252 with CR LF.
 #pragma once
 

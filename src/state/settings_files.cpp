@@ -9,7 +9,7 @@
 #include "base/text.h"
 #include "platform/ports/files.h"
 #include "state/field_file.h"
-#include "state/record_file.h"
+#include "state/field_store.h"
 
 namespace orvanta {
 
@@ -227,8 +227,8 @@ FieldWriter writtenFields(SettingsFile file, const Settings& settings) {
 bool readSettings(SettingsFile file, Files& files, const std::string& folder, Settings& settings) {
   const std::string path = DataFolder(files, folder).path(file);
   const auto read = [&] {
-    const auto record = readRecordFile(files, path);
-    return record && readFields(file, record->reader(), settings);
+    const auto fields = readFieldFile(files, path);
+    return fields && readFields(file, fields->reader(), settings);
   };
   // A file that is there and cannot be read says nothing, and is not written over.
   const bool unreadable = files.exists(path) && !files.read(path);
@@ -246,7 +246,7 @@ bool readSettings(SettingsFile file, Files& files, const std::string& folder, Se
 }
 
 bool writeSettings(SettingsFile file, Files& files, const std::string& folder, const Settings& settings) {
-  return writeRecordFile(files, DataFolder(files, folder).path(file), writtenFields(file, settings));
+  return writeFieldFile(files, DataFolder(files, folder).path(file), writtenFields(file, settings));
 }
 
 bool keepModes(Files& files, const Settings& settings) {

@@ -1,4 +1,4 @@
-// Texts that the code page or the record form cannot hold, kept whole in a companion file: "<file>.utf8", a line a
+// Texts that the code page or the form of the files cannot hold, kept whole in a companion file: "<file>.utf8", a line a
 // field, "number<TAB>as the file holds it<TAB>whole". A line wins as long as the file still holds what was written
 // for it; another program's edit wins over it.
 #pragma once

@@ -70,6 +70,7 @@ constexpr forms::AreaRow kAreas[] = {
     {AreaKind::Bracket, {}, {}, kSmall},
     {AreaKind::Bracket, {7380, 2558, 1840, 105}, {7380, 2558, 1840, 105}},
     {AreaKind::Tray, {1200, 540, 3610, 1470}, {1200, 540, 3610, 1470}},
+    {AreaKind::Rule, {0, 936, 0, 0}, {0, 936, 0, 0}},
 };
 
 }  // namespace

@@ -51,6 +51,7 @@ enum class AreaKind {
   KeyRow,   ///< the recess of a row of keys
   Bracket,  ///< over a group of keys, from its ends
   Tray,     ///< one picture of which each panel on it shows its own slice
+  Rule,     ///< the hairline over the display's digits: how far below the top of their pane
 };
 struct AreaRow {
   AreaKind kind;

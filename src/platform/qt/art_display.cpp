@@ -72,8 +72,9 @@ void glass(Art& art, std::string_view detail) {
   if (detail != "rule") return;
   // A hairline over the digits.
   const double unit = art.k / 15;
-  const double left = joint != nullptr && joint->visible ? 3120 * unit : 0;
-  fill(p, QRectF(left + 4 * art.k, 936 * unit - .4, art.w - left - 8 * art.k, .8),
+  const double left = joint != nullptr && joint->visible ? joint->width * unit : 0;
+  const int top = art.control.form().area(forms::AreaKind::Rule).top;
+  fill(p, QRectF(left + 4 * art.k, top * unit - .4, art.w - left - 8 * art.k, .8),
        own.set ? mix(own.back, own.fore, .28) : QColor(0, 0x32, 0x3A));
 }
 

@@ -8,19 +8,8 @@
 
 namespace orvanta {
 
-DiscWatch::DiscWatch(const PlaybackPorts& ports, Engine& engine, Modes& modes, TrayAnswers& answers, Display& display, StatusBoard& status,
-                     CDForm& form, SharedState& state, PlaybackUpward& upward)
-    : clock_(ports.clock),
-      device_(ports.device),
-      screen_(ports.screen),
-      engine_(engine),
-      modes_(modes),
-      answers_(answers),
-      display_(display),
-      status_(status),
-      form_(form),
-      state_(state),
-      upward_(upward) {}
+DiscWatch::DiscWatch(const PlaybackPorts& ports, const TickParts& parts, CDForm& form, SharedState& state, PlaybackUpward& upward)
+    : clock_(ports.clock), device_(ports.device), screen_(ports.screen), on_(parts), form_(form), state_(state), upward_(upward) {}
 
 void DiscWatch::start() {
   timer3_ = clock_.makeTimer([this] { timer3_timer(); });
@@ -29,7 +18,7 @@ void DiscWatch::start() {
 
 void DiscWatch::timer3_timer() {
   tick();
-  status_.tell();
+  on_.status.tell();
   upward_.afterTick();
 }
 
@@ -40,8 +29,8 @@ void DiscWatch::tick() {
     state_.process.setupWanted = false;
     upward_.runSetup();
   }
-  answers_.take();
-  modes_.introTick();
+  on_.answers.take();
+  on_.modes.introTick();
   if (disc.drawerOpen) {
     drawerIsOpen();
     return;
@@ -85,16 +74,16 @@ bool DiscWatch::discCameLater() {
 
 /// The disc has ended, or was stopped at track 0. True when it was ejected for that.
 bool DiscWatch::afterTheEnd() {
-  if (display_.number() != 0) return false;
+  if (on_.display.number() != 0) return false;
   if (state_.settings.timeMode == Time) {
     device_.command("stop");
-    display_.clearBar();
-    engine_.followState();
+    on_.display.clearBar();
+    on_.engine.followState();
     // The small window has no mode keys: One would leave it at its track for good.
-    if (state_.display.popupOpen && state_.transport.playMode == One) modes_.Image4_MouseUp(ContKey);
+    if (state_.display.popupOpen && state_.transport.playMode == One) on_.modes.Image4_MouseUp(ContKey);
   }
   if (state_.settings.appOptions[kEjectAtEnd] != 1 || !state_.disc.discLoaded) return false;
-  engine_.mmcontrol1_EjectClick();
+  on_.engine.mmcontrol1_EjectClick();
   return true;
 }
 
@@ -104,14 +93,14 @@ void DiscWatch::discGone() {
   device_.command("close");
   state_.transport.playingFlag = state_.transport.pausedFlag = false;
   state_.transport.pausePosition = 0;
-  engine_.endScan();
-  engine_.clrab();
-  engine_.forgetAdvance();
-  modes_.stopintro();
-  display_.doorOpen();
-  display_.clearTexts();
-  display_.track(0);
-  display_.clearTime("00:00");
+  on_.engine.endScan();
+  on_.engine.clrab();
+  on_.engine.forgetAdvance();
+  on_.modes.stopintro();
+  on_.display.doorOpen();
+  on_.display.clearTexts();
+  on_.display.track(0);
+  on_.display.clearTime("00:00");
   upward_.closeDiscWindows();
   // The state first: nothing that the opening door sets off may take the deck for one with a disc.
   state_.disc.drawerOpen = true;

@@ -4,17 +4,14 @@
 #include <memory>
 
 #include "platform/ports/clock.h"
-#include "playback/deck_status.h"
-#include "playback/modes.h"
 #include "playback/ports.h"
-#include "playback/tray_answers.h"
+#include "playback/tick_parts.h"
 
 namespace orvanta {
 
 class DiscWatch {
  public:
-  DiscWatch(const PlaybackPorts& ports, Engine& engine, Modes& modes, TrayAnswers& answers, Display& display, StatusBoard& status,
-            CDForm& form, SharedState& state, PlaybackUpward& upward);
+  DiscWatch(const PlaybackPorts& ports, const TickParts& parts, CDForm& form, SharedState& state, PlaybackUpward& upward);
 
   /// From the faceplate's load on.
   void start();
@@ -32,11 +29,7 @@ class DiscWatch {
   Clock& clock_;
   CdDevice& device_;
   Screen& screen_;
-  Engine& engine_;
-  Modes& modes_;
-  TrayAnswers& answers_;
-  Display& display_;
-  StatusBoard& status_;
+  TickParts on_;
   CDForm& form_;
   SharedState& state_;
   PlaybackUpward& upward_;

@@ -1,7 +1,6 @@
 // The room that plays: from the device to the display and the keys.
 #pragma once
 
-#include "playback/deck_status.h"
 #include "playback/disc_watch.h"
 #include "playback/ticks.h"
 
@@ -18,8 +17,8 @@ struct Playback {
         time(ports.device, layer, engine, display, state),
         answers(ports, engine, state),
         status(engine, form, state),
-        ticks(ports, load, engine, modes, time, answers, display, status, form, state, upward),
-        watch(ports, engine, modes, answers, display, status, form, state, upward) {}
+        ticks(ports, {load, engine, modes, time, answers, display, status}, form, state, upward),
+        watch(ports, {load, engine, modes, time, answers, display, status}, form, state, upward) {}
 
   /// From the faceplate's load on.
   void start() {

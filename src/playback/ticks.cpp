@@ -10,30 +10,18 @@
 
 namespace orvanta {
 
-Ticks::Ticks(const PlaybackPorts& ports, DiscLoad& load, Engine& engine, Modes& modes, TrackTime& time, TrayAnswers& answers,
-             Display& display, StatusBoard& status, CDForm& form, SharedState& state, PlaybackUpward& upward)
-    : clock_(ports.clock),
-      screen_(ports.screen),
-      load_(load),
-      engine_(engine),
-      modes_(modes),
-      time_(time),
-      answers_(answers),
-      display_(display),
-      status_(status),
-      form_(form),
-      state_(state),
-      upward_(upward) {}
+Ticks::Ticks(const PlaybackPorts& ports, const TickParts& parts, CDForm& form, SharedState& state, PlaybackUpward& upward)
+    : clock_(ports.clock), screen_(ports.screen), on_(parts), form_(form), state_(state), upward_(upward) {}
 
 void Ticks::start() {
   timer2_ = clock_.makeTimer([this] { timer2_timer(); });
   timer2_->setInterval(kTimer2Interval);
-  engine_.setTimer2(timer2_.get());
+  on_.engine.setTimer2(timer2_.get());
 }
 
 void Ticks::timer2_timer() {
   tick();
-  status_.tell();
+  on_.status.tell();
   upward_.afterTick();
   restIfQuiet();
 }
@@ -46,37 +34,37 @@ void Ticks::wake() {
 /// A deck that makes no sound has little to look at: waking for it is all that it costs then. A timer that is off stays so.
 void Ticks::restIfQuiet() {
   constexpr int kQuiet = 30;
-  quiet_ = engine_.heard() == DeckState::Playing || state_.transport.scanCount != 0 ? 0 : std::min(quiet_ + 1, kQuiet);
+  quiet_ = on_.engine.heard() == DeckState::Playing || state_.transport.scanCount != 0 ? 0 : std::min(quiet_ + 1, kQuiet);
   if (quiet_ == kQuiet && timer2_->interval() == kTimer2Interval) timer2_->setInterval(kRestInterval);
 }
 
 void Ticks::tick() {
   DiscState& disc = state_.disc;
   TransportState& transport = state_.transport;
-  answers_.take();
+  on_.answers.take();
   if (disc.asleep()) return;
   if (transport.scanCount != 0) scanStep();
-  engine_.dueStep();
-  modes_.abTick();
-  if (display_.number() < 1) display_.word("");
+  on_.engine.dueStep();
+  on_.modes.abTick();
+  if (on_.display.number() < 1) on_.display.word("");
   if (transport.curTrack <= 0 && (transport.playingFlag || transport.pausedFlag)) {
     transport.playingFlag = transport.pausedFlag = false;
-    display_.word("");
+    on_.display.word("");
   }
-  load_.deferredTable();
-  load_.clearOnRequest();
+  on_.load.deferredTable();
+  on_.load.clearOnRequest();
   if (!state_.process.autoStartDone && state_.process.autoStartMode) {
     autoStart();
     return;
   }
   if (transport.curTrack > disc.trackCount) {
-    engine_.pastTheEnd();
+    on_.engine.pastTheEnd();
   } else {
-    engine_.endActions();
-    modes_.lampTick();
+    on_.engine.endActions();
+    on_.modes.lampTick();
     if (disc.discStarted && state_.display.elapsedSec <= 2) startOfNewTrack();
   }
-  engine_.followState();
+  on_.engine.followState();
 }
 
 void Ticks::autoStart() {
@@ -86,17 +74,17 @@ void Ticks::autoStart() {
     screen_.setPointer(Pointer::Normal);
     process.autoStartDone = true;
     process.commandWord.clear();
-    modes_.stopintro();
+    on_.modes.stopintro();
     upward_.record();
     return;
   }
   process.autoStartDone = true;
   if (state_.program.pgmStored) {
-    modes_.Label30_Click();
+    on_.modes.Label30_Click();
     return;
   }
   state_.transport.curTrack = firstTrack(state_.disc);
-  engine_.playKey();
+  on_.engine.playKey();
   if (process.commandWord == "ORVLITE") {
     form_.minimised = true;
     screen_.setPointer(Pointer::Normal);
@@ -114,28 +102,28 @@ void Ticks::scanStep() {
   const int percent = form_.CDStatusBar.floodPercent + step;
   const int16_t track = transport.curTrack;
   if (percent <= 0 || percent >= 100 || track < 1 || track > state_.disc.trackCount || !transport.playingFlag) {
-    engine_.endScan();
+    on_.engine.endScan();
     return;
   }
-  engine_.seekFraction(state_.disc.trackLengths[static_cast<size_t>(track)], form_.CDStatusBar.width * percent / 100.0);
-  time_.update();
-  if (transport.curTrack != track || transport.trackGo == kTrackOver) engine_.endScan();
+  on_.engine.seekFraction(state_.disc.trackLengths[static_cast<size_t>(track)], form_.CDStatusBar.width * percent / 100.0);
+  on_.time.update();
+  if (transport.curTrack != track || transport.trackGo == kTrackOver) on_.engine.endScan();
 }
 
 /// In the first two seconds of a track: the number, length and title follow.
 void Ticks::startOfNewTrack() {
   TransportState& transport = state_.transport;
   // Stopped at the end of a track, a program or the disc: the display stays at 0.
-  if (!transport.playingFlag && !transport.pausedFlag && display_.number() == 0) return;
+  if (!transport.playingFlag && !transport.pausedFlag && on_.display.number() == 0) return;
   transport.curTrack = static_cast<int16_t>(std::max<int16_t>(transport.curTrack, 1) + state_.program.skipStep);
   state_.program.skipStep = false;
   // Right after a jump the display shows the target, until the device has followed.
   if (state_.display.holdTrackLabel) {
     state_.display.holdTrackLabel = false;
   } else {
-    display_.track(transport.curTrack);
+    on_.display.track(transport.curTrack);
   }
-  display_.dropLeftOver();
+  on_.display.dropLeftOver();
 }
 
 }  // namespace orvanta

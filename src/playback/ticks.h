@@ -4,19 +4,14 @@
 #include <memory>
 
 #include "platform/ports/clock.h"
-#include "playback/deck_status.h"
-#include "playback/disc_load.h"
-#include "playback/modes.h"
 #include "playback/ports.h"
-#include "playback/track_time.h"
-#include "playback/tray_answers.h"
+#include "playback/tick_parts.h"
 
 namespace orvanta {
 
 class Ticks {
  public:
-  Ticks(const PlaybackPorts& ports, DiscLoad& load, Engine& engine, Modes& modes, TrackTime& time, TrayAnswers& answers, Display& display,
-        StatusBoard& status, CDForm& form, SharedState& state, PlaybackUpward& upward);
+  Ticks(const PlaybackPorts& ports, const TickParts& parts, CDForm& form, SharedState& state, PlaybackUpward& upward);
 
   /// From the faceplate's load on.
   void start();
@@ -36,13 +31,7 @@ class Ticks {
 
   Clock& clock_;
   Screen& screen_;
-  DiscLoad& load_;
-  Engine& engine_;
-  Modes& modes_;
-  TrackTime& time_;
-  TrayAnswers& answers_;
-  Display& display_;
-  StatusBoard& status_;
+  TickParts on_;
   CDForm& form_;
   SharedState& state_;
   PlaybackUpward& upward_;

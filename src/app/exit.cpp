@@ -1,7 +1,6 @@
 // Leaving: red lamp, settings saved, marker gone, device stopped.
 #include "app/exit.h"
 
-#include "base/text.h"
 #include "platform/ports/cd_device.h"
 #include "platform/ports/core_gate.h"
 #include "platform/ports/files.h"

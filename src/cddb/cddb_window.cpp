@@ -2,8 +2,8 @@
 #include "cddb/cddb_window.h"
 
 #include <algorithm>
+#include <utility>
 
-#include "base/text.h"
 #include "cddb/upward.h"
 #include "library/cd_data.h"
 #include "platform/ports/screen.h"

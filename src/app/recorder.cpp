@@ -1,6 +1,7 @@
 // Hand-over to the recorder: the user's own by its command line, else ours with audiocd.dat.
 #include "app/recorder.h"
 
+#include "base/text.h"
 #include "platform/ports/cd_device.h"
 #include "platform/ports/clock.h"
 #include "platform/ports/core_gate.h"

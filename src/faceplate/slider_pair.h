@@ -6,6 +6,7 @@
 
 #include "platform/forms/control.h"
 #include "platform/forms/input.h"
+#include "state/shared_state.h"
 
 namespace orvanta {
 

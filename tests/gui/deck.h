@@ -12,6 +12,11 @@
 
 namespace orvanta::test {
 
+inline FormWindow* windowOf(const forms::Form& form) {
+  const auto* view = dynamic_cast<FixedView*>(form.view());
+  return view == nullptr ? nullptr : view->window();
+}
+
 struct Deck : CoreRig {
   /// `prepare` may change settings, disc and levels before the start.
   explicit Deck(double factor = 1, int twips = 15, const std::function<void(Deck&)>& prepare = {})
@@ -25,7 +30,7 @@ struct Deck : CoreRig {
       core.showFaceplate();
     });
     clock.advance(100);
-    window = dynamic_cast<FormWindow*>(core.form.view());
+    window = windowOf(core.form);
   }
   QRect inWindow(const forms::Control& control) const {
     const ControlWidget* widget = window->widgetOf(control);
@@ -34,8 +39,8 @@ struct Deck : CoreRig {
   QImage picture() const { return window->grab().toImage(); }
   Scale scale;
   QtDesktop qtDesktop;
-  Ports realPorts{device,    tray,  clock,  dialogs, files, processes, screen,     system,
-                  auxVolume, mixer, sounds, printer, net,   menus,     systemTray, qtDesktop};
+  Ports realPorts{device, tray,   clock,   dialogs, files, processes,  screen, system,   auxVolume,
+                  mixer,  sounds, printer, net,     menus, systemTray, facts,  qtDesktop};
   Orvanta core{realPorts};
   FormWindow* window = nullptr;
 };

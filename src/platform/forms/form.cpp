@@ -2,7 +2,6 @@
 #include "platform/forms/form.h"
 
 #include <algorithm>
-#include <utility>
 
 #include "platform/forms/design.h"
 
@@ -110,7 +109,8 @@ void Form::unload() {
   if (!loaded()) return;
   events_->unload();
   hide();
-  std::exchange(desktop_, nullptr)->retire(std::move(view_));
+  view_.reset();
+  desktop_ = nullptr;
 }
 
 void Form::activated() {

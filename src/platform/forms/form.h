@@ -69,8 +69,6 @@ class Desktop {
  public:
   virtual ~Desktop() = default;
   virtual std::unique_ptr<FormView> open(Form& form) = 0;
-  /// Takes back the view of a form that is unloaded, maybe by a handler that this very view called.
-  virtual void retire(std::unique_ptr<FormView> /*view*/) {}
   Form* lastShown = nullptr;
 };
 

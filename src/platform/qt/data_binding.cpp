@@ -3,7 +3,6 @@
 
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <utility>
 
 #include "platform/qt/accessible.h"
 #include "platform/qt/keys.h"
@@ -13,12 +12,6 @@ namespace orvanta {
 
 using forms::Change;
 using forms::Form;
-
-void FormRoad::close(std::function<void()> afterLast) {
-  form_ = nullptr;
-  afterLast_ = std::move(afterLast);
-  if (entered_ == 0) afterLast_();
-}
 
 Binding::Binding(FormRoad& road, forms::Control& control, QWidget* widget) : road_(road), control_(control), widget_(widget) {
   if (!control.says.empty()) widget->setAccessibleName(toQt(control.says));

@@ -4,49 +4,12 @@
 
 #include <QObject>
 #include <QWidget>
-#include <functional>
 #include <string_view>
-#include <utility>
 
 #include "platform/forms/form.h"
-#include "platform/ports/core_gate.h"
+#include "platform/qt/form_road.h"
 
 namespace orvanta {
-
-/// The way from the widgets into the core. The form may go in the midst of a call.
-class FormRoad {
- public:
-  FormRoad(forms::Form& form, CoreGate& gate) : form_(&form), gate_(gate) {}
-
-  /// nullptr once it is gone.
-  forms::Form* form() const { return form_; }
-  /// Nothing is called any more. `afterLast` runs when the calls that are under way have come back.
-  void close(std::function<void()> afterLast);
-
-  template <class Work>
-  void enter(const Work& work) {
-    if (form_ == nullptr || telling_) return;
-    ++entered_;
-    gate_.enter([&] { work(*form_); });
-    if (--entered_ == 0 && form_ == nullptr) afterLast_();
-  }
-
-  /// Changes widgets: what they tell meanwhile is no user's doing.
-  template <class Work>
-  void tell(const Work& work) {
-    const bool before = std::exchange(telling_, true);
-    work();
-    telling_ = before;
-  }
-  bool telling() const { return telling_; }
-
- private:
-  forms::Form* form_;
-  CoreGate& gate_;
-  std::function<void()> afterLast_;
-  int entered_ = 0;
-  bool telling_ = false;
-};
 
 /// The control's table has this hint for its view.
 inline bool hinted(const forms::Control& control, std::string_view hint) { return control.art.find(hint) != std::string::npos; }

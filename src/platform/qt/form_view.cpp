@@ -18,10 +18,12 @@
 #include "platform/qt/accessible.h"
 #include "platform/qt/keys.h"
 #include "platform/qt/to_qt.h"
+#include "platform/qt/window_traits.h"
 
 namespace orvanta {
 
 using forms::Change;
+using forms::Form;
 
 namespace {
 
@@ -45,16 +47,16 @@ bool takeCopy(QDropEvent& event) {
 }  // namespace
 
 FormWindow::FormWindow(forms::Form& form, CoreGate& gate, Fonts& fonts, const Scale& scale)
-    : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint),
+    : QWidget(nullptr, flagsOf(form.traits())),
       form_(form),
-      gate_(gate),
+      road_(form, gate),
       fonts_(fonts),
       scale_(scale),
       drag_(
-          *this, [this] { gate_.enter([&] {
-                            form_.mouseUp({forms::MouseButton::Left, -1, -1});
+          *this, [this] { road_.enter([](Form& told) {
+                            told.mouseUp({forms::MouseButton::Left, -1, -1});
                           }); },
-          [this] { gate_.enter([&] { form_.dragged(scale_.twips(x()), scale_.twips(y())); }); }) {
+          [this] { road_.enter([&](Form& told) { told.dragged(scale_.twips(x()), scale_.twips(y())); }); }) {
   setAttribute(Qt::WA_OpaquePaintEvent);
   setMouseTracking(false);
   setAcceptDrops(true);
@@ -101,27 +103,30 @@ bool FormWindow::onScreen() const {
 }
 
 void FormWindow::placeWindow() {
-  setFixedSize(scale_.pixels(form_.width), scale_.pixels(form_.height));
+  // A task button alone has a body where no window manager takes it away: an icon to click on.
+  constexpr int kIcon = 48;
+  const bool bodyless = form_.traits().bodyless;
+  setFixedSize(bodyless ? QSize(kIcon, kIcon) * scale_.factor : QSize(scale_.pixels(form_.width), scale_.pixels(form_.height)));
   if (!drag_.underWay()) move(scale_.pixels(form_.left), scale_.pixels(form_.top));
 }
 
-void FormWindow::show() {
-  wanted_ = true;
-  if (onScreen()) setVisible(true);
-  if (form_.minimised) showMinimized();
+void FormWindow::detach() {
+  road_.close([this] { deleteLater(); });
+  showWanted(false);
 }
 
-void FormWindow::hide() {
-  wanted_ = false;
-  setVisible(false);
+void FormWindow::showWanted(bool wanted) {
+  wanted_ = wanted;
+  const bool shows = wanted && onScreen();
+  if (shows) tellDesktop(*this, form_.traits());
+  if (shows && form_.minimised) {
+    showMinimized();
+  } else {
+    setVisible(shows);
+  }
 }
 
-void FormWindow::raise() {
-  QWidget::raise();
-  activateWindow();
-}
-
-void FormWindow::changed(forms::Control& control, Change change) {
+void FormWindow::follow(forms::Control& control, Change change) {
   if (ControlWidget* widget = widgetOf(control)) widget->follow(change);
   const auto followers = followers_.find(&control);
   const bool told = change == Change::Look || change == Change::Visibility || change == Change::Text;
@@ -129,26 +134,26 @@ void FormWindow::changed(forms::Control& control, Change change) {
   for (ControlWidget* widget : followers->second) widget->followPartner();
 }
 
-void FormWindow::formChanged(Change change) {
+void FormWindow::followForm(Change change) {
   if (change == Change::Text) setWindowTitle(toQt(form_.caption));
   if (change == Change::Geometry) {
     placeWindow();
     for (const auto& [control, widget] : widgets_) widget->showIfInside();
-    if (wanted_) setVisible(onScreen());
+    if (wanted_) showWanted(true);
   }
   if (change == Change::Visibility && wanted_) setWindowState(form_.minimised ? Qt::WindowMinimized : Qt::WindowNoState);
   // Legends and the metal take the window's colour.
   if (change == Change::Look) update();
 }
 
-void FormWindow::refresh(forms::Control& control) {
+void FormWindow::paintNow(forms::Control& control) {
   ControlWidget* widget = widgetOf(control);
   if (widget == nullptr || !isVisible()) return;
   // Painted and sent off here and now. (Qt's own sync would deliver events, timers among them.)
   repaint(QRect(widget->mapTo(this, QPoint(0, 0)), widget->size()));
 }
 
-void FormWindow::focusMoved(forms::Control* control) {
+void FormWindow::followFocus(forms::Control* control) {
   if (focused_ != nullptr) focused_->update();
   focused_ = control == nullptr ? nullptr : widgetOf(*control);
   if (focused_ == nullptr) return;
@@ -157,11 +162,11 @@ void FormWindow::focusMoved(forms::Control* control) {
 }
 
 void FormWindow::press(forms::Control& control) {
-  gate_.enter([&] { form_.press(control); });
+  road_.enter([&](Form& form) { form.press(control); });
 }
 
 void FormWindow::step(forms::Control& control, int steps) {
-  gate_.enter([&] { form_.wheel(&control, steps); });
+  road_.enter([&](Form& form) { form.wheel(&control, steps); });
 }
 
 // ---- input
@@ -195,26 +200,30 @@ forms::Mouse FormWindow::mouseAt(const QMouseEvent& event, const forms::Control*
 
 void FormWindow::mousePressEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton && event->button() != Qt::RightButton) return;
+  if (form_.traits().bodyless) {
+    road_.enter([](Form& form) { form.minimised = false; });
+    return;
+  }
   drag_.pressed(*event);
   forms::Control* control = hit(event->position().toPoint());
-  gate_.enter([&] { form_.mouseDown(control, mouseAt(*event, control)); });
+  road_.enter([&](Form& form) { form.mouseDown(control, mouseAt(*event, control)); });
 }
 
 void FormWindow::mouseMoveEvent(QMouseEvent* event) {
   if (drag_.moved(*event)) return;
   forms::Control* control = form_.pressed() != nullptr ? form_.pressed() : hit(event->position().toPoint());
-  gate_.enter([&] { form_.mouseMove(control, mouseAt(*event, control)); });
+  road_.enter([&](Form& form) { form.mouseMove(control, mouseAt(*event, control)); });
 }
 
 void FormWindow::mouseReleaseEvent(QMouseEvent* event) {
   if (drag_.released(*event)) return;
-  gate_.enter([&] { form_.mouseUp(mouseAt(*event, form_.pressed())); });
+  road_.enter([&](Form& form) { form.mouseUp(mouseAt(*event, form.pressed())); });
 }
 
 void FormWindow::mouseDoubleClickEvent(QMouseEvent* event) {
   // A double click is a second press as well: a deck's key pressed twice fast acts twice.
   mousePressEvent(event);
-  if (event->button() == Qt::LeftButton) gate_.enter([&] { form_.doubleClick(hit(event->position().toPoint())); });
+  if (event->button() == Qt::LeftButton) road_.enter([&](Form& form) { form.doubleClick(hit(event->position().toPoint())); });
 }
 
 void FormWindow::wheelEvent(QWheelEvent* event) {
@@ -224,18 +233,18 @@ void FormWindow::wheelEvent(QWheelEvent* event) {
   const int notches = wheel_ / kNotch;
   wheel_ %= kNotch;
   if (notches == 0) return;
-  gate_.enter([&] { form_.wheel(hit(event->position().toPoint()), notches); });
+  road_.enter([&](Form& form) { form.wheel(hit(event->position().toPoint()), notches); });
 }
 
 void FormWindow::keyPressEvent(QKeyEvent* event) {
   bool used = false;
-  gate_.enter([&] { used = form_.keyDown(keyPress(*event)); });
+  road_.enter([&](Form& form) { used = form.keyDown(keyPress(*event)); });
   if (!used) event->ignore();
 }
 
 void FormWindow::keyReleaseEvent(QKeyEvent* event) {
   if (event->isAutoRepeat()) return;
-  gate_.enter([&] { form_.keyUp(keyPress(*event)); });
+  road_.enter([&](Form& form) { form.keyUp(keyPress(*event)); });
 }
 
 bool FormWindow::focusNextPrevChild(bool /*next*/) { return false; }
@@ -244,7 +253,7 @@ void FormWindow::dragEnterEvent(QDragEnterEvent* event) {
   dragMoveEvent(event);
   if (!event->isAccepted()) return;
   bool taken = false;
-  gate_.enter([&] { taken = form_.takesFile(droppedFile(*event)); });
+  road_.enter([&](Form& form) { taken = form.takesFile(droppedFile(*event)); });
   rim_->setGeometry(rect());
   rim_->raise();
   rim_->setVisible(taken);
@@ -257,7 +266,7 @@ void FormWindow::dragMoveEvent(QDragMoveEvent* event) { takeCopy(*event); }
 void FormWindow::dropEvent(QDropEvent* event) {
   rim_->hide();
   if (!takeCopy(*event)) return;
-  gate_.enter([&] { form_.fileDropped(droppedFile(*event)); });
+  road_.enter([&](Form& form) { form.fileDropped(droppedFile(*event)); });
 }
 
 // ---- the window
@@ -281,20 +290,43 @@ void FormWindow::paintEvent(QPaintEvent* event) {
   }
   painter.fillRect(event->rect(),
                    QColor(static_cast<int>(back & 0xFFU), static_cast<int>(back >> 8U & 0xFFU), static_cast<int>(back >> 16U & 0xFFU)));
+  if (form_.traits().bodyless) windowIcon().paint(&painter, rect());
 }
 
 void FormWindow::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
-  if (event->type() == QEvent::ActivationChange) gate_.enter([&] { isActiveWindow() ? form_.activated() : form_.deactivated(); });
+  // The user's doing as well as the program's.
+  if (event->type() == QEvent::WindowStateChange) road_.enter([this](Form& form) { form.minimised = isMinimized(); });
+  if (event->type() == QEvent::ActivationChange) road_.enter([&](Form& form) { isActiveWindow() ? form.activated() : form.deactivated(); });
 }
 
 void FormWindow::closeEvent(QCloseEvent* event) {
   event->ignore();
-  gate_.enter([&] { form_.closeAsked(); });
+  road_.enter([&](Form& form) { form.closeAsked(); });
 }
 
-void FormWindow::drag() { drag_.begin(); }
-
 void FormWindow::moveEvent(QMoveEvent* /*event*/) { drag_.windowMoved(); }
+
+// ---- FixedView
+
+FixedView::~FixedView() {
+  if (window_ == nullptr) return;
+  if (window_->underWay()) {
+    window_->detach();
+  } else {
+    delete window_;
+  }
+}
+
+void FixedView::raise() {
+  // To raise a window that is minimised would bring it back.
+  if (window_->form().minimised) return;
+  if (window_->form().traits().behind) {
+    window_->lower();
+    return;
+  }
+  window_->raise();
+  window_->activateWindow();
+}
 
 }  // namespace orvanta

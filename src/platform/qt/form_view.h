@@ -1,6 +1,7 @@
 // A form on the screen: a frameless window with a child widget for each control.
 #pragma once
 
+#include <QPointer>
 #include <QWidget>
 #include <map>
 #include <memory>
@@ -11,24 +12,27 @@
 #include "platform/qt/art.h"
 #include "platform/qt/control_widget.h"
 #include "platform/qt/fonts.h"
+#include "platform/qt/form_road.h"
 #include "platform/qt/rim.h"
 #include "platform/qt/scale.h"
 #include "platform/qt/window_drag.h"
 
 namespace orvanta {
 
-class FormWindow : public QWidget, public forms::FormView {
+class FormWindow : public QWidget {
  public:
   FormWindow(forms::Form& form, CoreGate& gate, Fonts& fonts, const Scale& scale);
 
-  void show() override;
-  void hide() override;
-  void raise() override;
-  void changed(forms::Control& control, forms::Change change) override;
-  void formChanged(forms::Change change) override;
-  void refresh(forms::Control& control) override;
-  void focusMoved(forms::Control* control) override;
-  void drag() override;
+  /// The form is gone: nothing reaches it from here on. The window goes when the last call to it has come back.
+  void detach();
+  /// One of its events is on its way through the core.
+  bool underWay() const { return road_.underWay(); }
+  void showWanted(bool wanted);
+  void follow(forms::Control& control, forms::Change change);
+  void followForm(forms::Change change);
+  void followFocus(forms::Control* control);
+  void paintNow(forms::Control& control);
+  void drag() { drag_.begin(); }
 
   /// Space, ENTER and screen readers press a control by the same road as the mouse.
   void press(forms::Control& control);
@@ -71,8 +75,8 @@ class FormWindow : public QWidget, public forms::FormView {
   forms::Control* hit(const QPoint& place) const;
   forms::Mouse mouseAt(const QMouseEvent& event, const forms::Control* control) const;
 
-  forms::Form& form_;
-  CoreGate& gate_;
+  forms::Form& form_;  ///< lives as long as the program, loaded or not
+  FormRoad road_;
   Fonts& fonts_;
   ArtCache artCache_{ArtCache::kSurfaces};
   ArtCache glows_{ArtCache::kGlows};
@@ -85,6 +89,28 @@ class FormWindow : public QWidget, public forms::FormView {
   int wheel_ = 0;  ///< of a notch, in Qt's eighths of a degree
   bool painted_ = false;
   bool wanted_ = false;  ///< shown, as far as the form goes
+};
+
+/// The form's side. It may go in the midst of one of the window's events, so the window outlives it for a moment.
+class FixedView : public forms::FormView {
+ public:
+  FixedView(forms::Form& form, CoreGate& gate, Fonts& fonts, const Scale& scale) : window_(new FormWindow(form, gate, fonts, scale)) {}
+  ~FixedView() override;
+  FixedView(const FixedView&) = delete;
+  FixedView& operator=(const FixedView&) = delete;
+
+  void show() override { window_->showWanted(true); }
+  void hide() override { window_->showWanted(false); }
+  void raise() override;
+  void changed(forms::Control& control, forms::Change change) override { window_->follow(control, change); }
+  void formChanged(forms::Change change) override { window_->followForm(change); }
+  void refresh(forms::Control& control) override { window_->paintNow(control); }
+  void focusMoved(forms::Control* control) override { window_->followFocus(control); }
+  void drag() override { window_->drag(); }
+  FormWindow* window() const { return window_; }
+
+ private:
+  QPointer<FormWindow> window_;
 };
 
 }  // namespace orvanta

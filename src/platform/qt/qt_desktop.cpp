@@ -8,15 +8,7 @@ namespace orvanta {
 
 std::unique_ptr<forms::FormView> QtDesktop::open(forms::Form& form) {
   if (form.resizable()) return std::make_unique<DataView>(form, gate_, scale_);
-  return std::make_unique<FormWindow>(form, gate_, fonts_, scale_);
-}
-
-/// A window of ours goes once the event that it is in the middle of is through; the others see to that themselves.
-void QtDesktop::retire(std::unique_ptr<forms::FormView> view) {
-  auto* window = dynamic_cast<FormWindow*>(view.get());
-  if (window == nullptr) return;
-  static_cast<void>(view.release());
-  window->deleteLater();
+  return std::make_unique<FixedView>(form, gate_, fonts_, scale_);
 }
 
 }  // namespace orvanta

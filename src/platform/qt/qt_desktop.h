@@ -14,7 +14,6 @@ class QtDesktop : public forms::Desktop {
  public:
   QtDesktop(CoreGate& gate, const Scale& scale) : gate_(gate), scale_(scale) {}
   std::unique_ptr<forms::FormView> open(forms::Form& form) override;
-  void retire(std::unique_ptr<forms::FormView> view) override;
 
  private:
   CoreGate& gate_;

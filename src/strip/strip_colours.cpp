@@ -89,6 +89,7 @@ void StripColours::body() {
     form_.SSPanel2.backColor = colour[kCustomMetal];
     form_.SSPanel3.backColor = colour[kCustomKeypad];
   }
+  form_.SSPanel3.empty = state_.settings.showLights == 0;
   form_.Image10.picture = backgroundPicture(files_, state_.settings);
   for (auto* legend : {&form_.Label10, &form_.Label1}) {
     legend->backColor = form_.SSPanel2.backColor.get();

@@ -24,8 +24,26 @@ constexpr forms::PartnerRow kStripPartners[] = {
     {Role::Colour, "Image10", kNoIndex, "SSPanel2"},
 };
 
+using forms::AreaKind;
+
+/// All but the hairlines of the upper pane count from the body's corner.
+constexpr forms::AreaRow kStripAreas[] = {
+    {AreaKind::KeyRow, {42, 44, 2506, 285}, {60, 34, 3098, 345}},
+    {AreaKind::Bar, {54, 362, 1812, 86}, {69, 410, 2277, 104}},
+    {AreaKind::Plate, {2580, 276, 696, 180}, {3195, 300, 690, 225}},
+    {AreaKind::Glass, {60, 540, 3192, 3348}, {75, 600, 3765, 3180}},
+    {AreaKind::UpperPane, {60, 540, 3192, 1536}, {75, 600, 3765, 1455}},
+    {AreaKind::LowerPane, {1248, 2160, 2004, 1728}, {1290, 2145, 2550, 1635}},
+    {AreaKind::Groove, {90, 492, 3132, 0}, {90, 554, 3732, 0}},
+    {AreaKind::Disc, {60, 2160, 1104, 1728}, {75, 2145, 1130, 1635}},
+    {AreaKind::Rule, {48, 888, 3096, 0}, {60, 850, 3645, 0}},
+    {AreaKind::Column, {2340, 948, 0, 528}, {2520, 925, 0, 455}},
+};
+
 }  // namespace
 
 std::span<const forms::PartnerRow> VolCntl::partners() const { return kStripPartners; }
+
+std::span<const forms::AreaRow> VolCntl::areas() const { return kStripAreas; }
 
 }  // namespace orvanta

@@ -82,6 +82,7 @@ struct VolCntl : forms::Form {
  protected:
   std::span<const forms::DesignRow> design() const override;
   std::span<const forms::PartnerRow> partners() const override;
+  std::span<const forms::AreaRow> areas() const override;
 };
 
 }  // namespace orvanta

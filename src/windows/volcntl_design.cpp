@@ -85,7 +85,7 @@ constexpr forms::DesignRow kStripDesign[] = {
     {"Label22", 17, "Panel3D5", 2, {828, 1332, 348, 300}, {1050, 1230, 450, 285}, "18", 0x00FF00, 0x000000, kSmallFont, 8, true, true, Align::Center, false, true, false, "cell", "", "Track 18"},
     {"Label22", 18, "Panel3D5", 2, {1200, 1332, 348, 300}, {1530, 1230, 450, 285}, "19", 0x00FF00, 0x000000, kSmallFont, 8, true, true, Align::Center, false, true, false, "cell", "", "Track 19"},
     {"Label22", 19, "Panel3D5", 2, {1572, 1332, 348, 300}, {2010, 1230, 450, 285}, "20", 0x00FF00, 0x000000, kSmallFont, 8, true, true, Align::Center, false, true, false, "cell", "", "Track 20"},
-    {"SSPanel3", kNoIndex, "SSPanel2", 2, {60, 2160, 1104, 1728}, {75, 2145, 1130, 1635}, "", 0x000000, 0x2B2724, "", 0, false, true, Align::Left, false, false, false, "metal:scale", "", ""},
+    {"SSPanel3", kNoIndex, "SSPanel2", 2, {60, 2160, 1104, 1728}, {75, 2145, 1130, 1635}, "", 0x000000, 0x2B2724, "", 0, false, true, Align::Left, false, false, false, "metal:level", "", ""},
     {"PctL", kNoIndex, "SSPanel3", 2, {72, 60, 348, 180}, {75, 60, 345, 180}, "75", 0x00FF00, 0x000000, kSmallFont, 8, true, true, Align::Center, false, false, false, "percent", "", ""},
     {"VolumeL", kNoIndex, "SSPanel3", 2, {120, 288, 252, 1188}, {120, 270, 255, 1200}, "", 0x000000, 0x2B2724, "", 0, false, true, Align::Left, false, true, false, "clear", "", "Left volume"},
     {"VbarbtmL", kNoIndex, "VolumeL", 1, {72, 65, 108, 1110}, {75, 65, 105, 1110}, "", 0x000000, 0x60D818, "", 0, false, true, Align::Left, false, false, false, "slot", "", ""},

@@ -5,7 +5,9 @@
 #include <filesystem>
 #include <functional>
 
+#include "strip/strip_layout.h"
 #include "tests/gui/deck.h"
+#include "windows/volcntl.h"
 
 namespace orvanta::test {
 
@@ -85,6 +87,110 @@ QImage extras(Deck& deck) {
   return deck.picture();
 }
 
+QImage about(Deck& deck) {
+  deck.facts.now = {"0.1.0", "Debian GNU/Linux 12 (bookworm)", "Qt 6.4.2 on X11", "PulseAudio",
+                    "disc images in /home/ada/Music/Orvanta/The discs that I listen to on Sundays/tray"};
+  deck.gate.enter([&] { deck.core.actions().run(Action::About); });
+  return windowOf(deck.core.aboutForm)->grab().toImage();
+}
+
+using StripLook = std::function<void(VolCntl&)>;
+
+void stripKey(VolCntl& strip, size_t key, bool lit) {
+  strip.Image1[key].visible = false;
+  (lit ? strip.Image2 : strip.Image4)[key].visible = true;
+}
+
+void stripPlays(VolCntl& strip) {
+  stripKey(strip, Play, true);
+  strip.vcntlstatusbar.floodPercent = 42;
+  strip.Label3.caption = strip.Label8.caption = "7";
+  strip.Label4.caption = strip.Label5.caption = "2:05";
+  strip.Label12.caption = "The Winterlight Quartet - Harbour Lights";
+  strip.Label13.caption = "Slow Water, Late September";
+  for (size_t i = 0; i < strip.Label22.size(); ++i) {
+    strip.Label22[i].visible = i < 14;
+    strip.Label22[i].foreColor = i < 6 ? 0x004000 : 0x00FF00;
+  }
+}
+
+void stripMuted(VolCntl& strip) {
+  stripPlays(strip);
+  strip.Image5.visible = false;
+  strip.Image7.visible = true;
+  strip.VbarbtmL.backColor = strip.VbarbtmR.backColor = colours::kRed;
+}
+
+/// Paused in an hour-long disc; with a finger on the eject key.
+void stripPaused(VolCntl& strip) {
+  stripMuted(strip);
+  strip.Image2[Play].visible = false;
+  strip.Image1[Play].visible = true;
+  for (const size_t dead : {Previous, Next, Stop}) stripKey(strip, dead, false);
+  stripKey(strip, Pause, true);
+  strip.vcntlstatusbar.floodPercent = 66;
+  strip.Label3.caption = strip.Label8.caption = "12";
+  strip.Label4.caption = strip.Label5.caption = "-1:02:33";
+  strip.Label4.font = forms::Font{forms::kLcdFont, 4.5, true};
+  strip.Label5.font = forms::Font{forms::kLcdFont, 14.5, true};
+  strip.Label9.caption = "Totrem";
+  strip.Label21.caption = "PAUSE";
+  strip.Label21.foreColor = 0x00FFFF;
+  strip.Image9[0].visible = true;
+  strip.Image9[1].visible = false;
+  forms::Image& key = strip.Image1[5];
+  strip.mouseDown(&key, {});
+  strip.Shape7.move(key.left, key.top);
+  strip.Shape7.visible = true;
+  key.move(key.left + 10, key.top + 20);
+}
+
+StripLook stripInColours(Colour fore, Colour back) {
+  return [=](VolCntl& strip) {
+    stripPlays(strip);
+    for (forms::Panel* pane : {&strip.SSPanel1, &strip.Panel3D1, &strip.Panel3D5}) {
+      pane->bevelInner = 1;
+      pane->foreColor = fore;
+      pane->backColor = back;
+    }
+    for (forms::Control* control : strip.controls()) {
+      if (control->kind() == forms::Kind::Label && control->art != "engraved" && control->art != "percent") control->foreColor = fore;
+    }
+    strip.Label21.foreColor = strip.Label30.foreColor = back;
+    for (size_t i = 0; i < strip.Label22.size(); ++i) strip.Label22[i].foreColor = i >= 6 && i < 14 ? fore : back;
+    strip.vcntlstatusbar.floodColor = strip.VbarbtmL.backColor = strip.VbarbtmR.backColor = fore;
+    strip.vcntlstatusbar.backColor = back;
+  };
+}
+
+void stripInPlainDigits(VolCntl& strip) {
+  stripPlays(strip);
+  strip.Label8.font = forms::Font{"Arial", 19, true};
+  strip.Label5.font = forms::Font{"Arial", 12, true};
+}
+
+struct Border {
+  bool is;
+};
+/// The strip by itself: its window as data, in a look of play.
+std::function<QImage(Deck&)> strip(bool unfolded, Border border, const StripLook& look, int16_t soundMode = 3) {
+  return [=](Deck& deck) {
+    VolCntl form;
+    form.smallFonts = deck.core.form.smallFonts;
+    deck.core.state.settings.faceplateBorder = border.is ? kOn : kOff;
+    deck.core.state.settings.soundMode = soundMode;
+    form.load(deck.qtDesktop);
+    StripLayout layout(form, deck.core.state);
+    layout.apply();
+    if (unfolded) layout.unfold();
+    look(form);
+    return windowOf(form)->grab().toImage();
+  };
+}
+
+constexpr Border kBorder{true};
+constexpr Border kBare{false};
+
 std::function<void(Deck&)> display(Colour fore, Colour back, int16_t expanded) {
   return [=](Deck& deck) {
     deck.settings.lcdCustom = 1;
@@ -155,6 +261,19 @@ const std::vector<Scene>& scenes() {
        extras},
       {"own_colours", 15, ownColours, playing},
       {"own_picture", 15, ownPicture, playing},
+      {"strip_playing", 15, {}, strip(false, kBare, stripPlays)},
+      {"strip_muted", 15, {}, strip(false, kBare, stripMuted)},
+      {"strip_paused_border", 15, {}, strip(false, kBorder, stripPaused)},
+      {"strip_custom", 15, {}, strip(false, kBare, stripInColours(0x000000, 0x29CF95))},
+      {"strip_unfolded", 15, {}, strip(true, kBare, stripPlays)},
+      {"strip_unfolded_nosliders", 15, {}, strip(true, kBare, stripPlays, 0)},
+      {"strip_unfolded_custom", 15, {}, strip(true, kBare, stripInColours(0x000000, 0x29CF95))},
+      {"strip_unfolded_paused_border", 15, {}, strip(true, kBorder, stripPaused)},
+      {"strip_unfolded_plain_digits", 15, {}, strip(true, kBare, stripInPlainDigits)},
+      {"sf0_strip_playing", 12, {}, strip(false, kBare, stripPlays)},
+      {"sf0_strip_unfolded", 12, {}, strip(true, kBorder, stripPlays)},
+      {"about", 15, {}, about},
+      {"about_custom_lcd", 15, display(0x000000, 0x29CF95, 0), about},
       {"plain_digits", 15, [](Deck& deck) { deck.settings.noLcdFont = 1; }, playing},
   };
   return kScenes;

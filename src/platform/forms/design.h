@@ -51,7 +51,14 @@ enum class AreaKind {
   KeyRow,   ///< the recess of a row of keys
   Bracket,  ///< over a group of keys, from its ends
   Tray,     ///< one picture of which each panel on it shows its own slice
-  Rule,     ///< the hairline over the display's digits: how far below the top of their pane
+  Rule,     ///< a hairline across a pane, over the digits; so is the next, upright
+  Bar,      ///< the recess of a bar
+  Plate,    ///< the recess of a display that may leave: a name plate lies in it
+  UpperPane,
+  LowerPane,
+  Groove,  ///< between a strip and what it unfolds to
+  Disc,    ///< sunk into the metal
+  Column,
 };
 struct AreaRow {
   AreaKind kind;

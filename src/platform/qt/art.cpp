@@ -56,7 +56,8 @@ double bleedOf(const forms::Control& control) {
 }
 
 std::string surfaceKey(const forms::Control& control) {
-  static constexpr std::array<std::string_view, 7> kKept = {"faceplate", "metal", "door", "tray", "glass", "emblem", "power"};
+  static constexpr std::array<std::string_view, 9> kKept = {"faceplate", "strip",  "metal", "door", "tray",
+                                                            "glass",     "emblem", "disc",  "power"};
   const Name name = nameOf(control);
   if (std::find(kKept.begin(), kKept.end(), name.art) == kKept.end()) return {};
   std::string key = control.fullName() + ' ' + std::to_string(control.backColor) + ' ' + std::to_string(control.foreColor) + ' ' +
@@ -92,7 +93,9 @@ void paintControl(Art& art) {
   auto [name, detail] = nameOf(art.control);
   // A lit symbol on a key, not lit text on the glass.
   if (name == "lit" && !detail.empty()) name = "lit-symbol";
-  if (!paintSurface(art, name, detail) && !paintKey(art, name, detail) && !paintDisplay(art, name, detail)) paintPlain(art);
+  if (!paintSurface(art, name, detail) && !paintStrip(art, name, detail) && !paintKey(art, name, detail) &&
+      !paintDisplay(art, name, detail))
+    paintPlain(art);
 }
 
 }  // namespace orvanta

@@ -60,6 +60,7 @@ double bleedOf(const forms::Control& control);
 bool paintSurface(Art& art, std::string_view name, std::string_view detail);
 bool paintKey(Art& art, std::string_view name, std::string_view detail);
 void paintTray(Art& art, bool half);
+bool paintStrip(Art& art, std::string_view name, std::string_view detail);
 bool paintDisplay(Art& art, std::string_view name, std::string_view detail);
 
 }  // namespace orvanta

@@ -1,23 +1,14 @@
 // Keys: graphite transport keys with their symbols, aluminium for all the others.
 #include <QPainterPath>
 
+#include <algorithm>
+
 #include "platform/forms/form.h"
 #include "platform/qt/art_tools.h"
 
 namespace orvanta {
 
 namespace {
-
-QColor litColour(Symbol symbol) {
-  switch (symbol) {
-    case Symbol::Pause:
-    case Symbol::Stop: return {0xFF, 0xC2, 0x47};
-    case Symbol::Record: return {0xFF, 0x4A, 0x3D};
-    case Symbol::Rewind:
-    case Symbol::Forward: return {0x0A, 0x8F, 0x3C};
-    default: return {0x3D, 0xFF, 0x7A};
-  }
-}
 
 /// A mask or lit symbol of the same key shows: the face then leaves its own symbol to it.
 bool overlaid(const forms::Control& face) {
@@ -122,32 +113,35 @@ QPainterPath waves() {
   return path;
 }
 
-/// The signs of the volume panel's keys, cut into their caps.
-void keySign(Art& art, std::string_view name) {
+}  // namespace
+
+void keySign(Art& art, std::string_view name, double k) {
   QPainter& p = art.painter;
   const QPointF centre(art.w / 2, art.h / 2);
   const QColor dark(0x1C, 0x20, 0x24);
   const QColor below = alpha(Qt::white, .5);
   if (name == "mixer") {
-    sign(p, lines({{-3.6, -3.6, -3.6, 3.6}, {0, -3.6, 0, 3.6}, {3.6, -3.6, 3.6, 3.6}}), centre, art.k, {.9, dark, below});
-    sign(p, boxes({{-5, -2.3, 2.8, 2}, {-1.4, .8, 2.8, 2}, {2.2, -1.2, 2.8, 2}}), centre, art.k, {0, dark, below});
+    sign(p, lines({{-3.6, -3.6, -3.6, 3.6}, {0, -3.6, 0, 3.6}, {3.6, -3.6, 3.6, 3.6}}), centre, k, {.9, dark, below});
+    sign(p, boxes({{-5, -2.3, 2.8, 2}, {-1.4, .8, 2.8, 2}, {2.2, -1.2, 2.8, 2}}), centre, k, {0, dark, below});
   } else if (name == "display") {
     QPainterPath path = boxes({{-5.2, -3.4, 10.4, 6.8}});
     path.addPath(
         lines({{-2.4, 0, -3.9, 0}, {-3, -1.2, -4.2, 0}, {-4.2, 0, -3, 1.2}, {2.4, 0, 3.9, 0}, {3, -1.2, 4.2, 0}, {4.2, 0, 3, 1.2}}));
-    sign(p, path, centre, art.k, {.95, dark, below});
+    sign(p, path, centre, k, {.95, dark, below});
   } else if (name == "linked" || name == "unlinked") {
     const bool joined = name == "linked";
-    sign(p, chain(joined ? 1.1 : 2.3, joined), centre, art.k, {1.3, joined ? QColor(0x0B, 0x3A, 0x1A) : QColor(0x3C, 0x41, 0x47), below});
-    if (joined) lamp(p, QRectF(centre.x() - 2 * art.k, art.h - 4.2 * art.k, 4 * art.k, 1.2 * art.k), QColor(0x3D, 0xFF, 0x7A), true, .6);
+    sign(p, chain(joined ? 1.1 : 2.3, joined), centre, k, {1.3, joined ? QColor(0x0B, 0x3A, 0x1A) : QColor(0x3C, 0x41, 0x47), below});
+    if (joined) lamp(p, QRectF(centre.x() - 2 * k, art.h - 4.2 * k, 4 * k, 1.2 * k), QColor(0x3D, 0xFF, 0x7A), true, .6);
   } else if (name == "mute") {
-    sign(p, loudspeaker(), centre, art.k, {0, dark, below});
-    sign(p, waves(), centre, art.k, {1.1, dark, below});
+    sign(p, loudspeaker(), centre, k, {0, dark, below});
+    sign(p, waves(), centre, k, {1.1, dark, below});
   } else if (name == "muted") {
-    sign(p, loudspeaker(), centre, art.k, {0, Qt::white});
-    sign(p, lines({{1.6, -1.8, 5, 1.8}, {5, -1.8, 1.6, 1.8}}), centre, art.k, {1.1, Qt::white});
+    sign(p, loudspeaker(), centre, k, {0, Qt::white});
+    sign(p, lines({{1.6, -1.8, 5, 1.8}, {5, -1.8, 1.6, 1.8}}), centre, k, {1.1, Qt::white});
   }
 }
+
+namespace {
 
 void panelKey(Art& art, std::string_view name, bool down) {
   QPainter& p = art.painter;
@@ -163,7 +157,9 @@ void panelKey(Art& art, std::string_view name, bool down) {
   } else {
     aluminium(p, cap, 2, down || name == "linked" || isPressed(art.control));
   }
-  keySign(art, name);
+  // On a larger cap a larger sign.
+  constexpr double kUsualCap = 17;
+  keySign(art, name, std::max(art.k, art.w / kUsualCap));
 }
 
 /// The mixer key that stands where the volume panel is when there are no sliders.
@@ -189,6 +185,10 @@ void titleKey(Art& art, std::string_view name) {
   SignPen pen{1.5, QColor(0xDD, 0xE1, 0xE5), alpha(Qt::black, .8), .7};
   if (name == "exit") {
     path = lines({{-3.2, -3.2, 3.2, 3.2}, {3.2, -3.2, -3.2, 3.2}});
+  } else if (name == "tray") {
+    path = lines(
+        {{0, -4.2, 0, .6}, {-2.4, -1.5, 0, .9}, {0, .9, 2.4, -1.5}, {-3.9, 1.2, -3.9, 3.6}, {-3.9, 3.6, 3.9, 3.6}, {3.9, 3.6, 3.9, 1.2}});
+    pen.width = 1.2;
   } else if (name == "minimise") {
     path = lines({{-3.8, 3, 3.8, 3}});
   } else if (name == "small") {

@@ -20,7 +20,9 @@ double at(const Art& art, double twips) { return twips / 15 * art.k; }
 /// the metal shows.
 void ground(Art& art) {
   const forms::Control& c = art.control;
-  if (c.backColor != colours::kBlack && c.backColor != c.form().backColor.get()) fill(art.painter, area(art), qColour(c.backColor));
+  const Colour around = c.parent != nullptr ? c.parent->backColor : c.form().backColor;
+  if (c.backColor != colours::kBlack && c.backColor != c.form().backColor.get() && c.backColor != around)
+    fill(art.painter, area(art), qColour(c.backColor));
 }
 
 QRectF placed(const Art& art, const forms::Place& place) {
@@ -57,7 +59,8 @@ void faceplate(Art& art) {
   }
   edge(p, area(art), 0, .45, .9, 1);
   well(p, placed(art, form.area(forms::AreaKind::Glass)), 1.5, QColor(2, 3, 3), 3 * art.k);
-  well(p, placed(art, form.area(forms::AreaKind::KeyRow)), 2, QColor(5, 6, 7), 1.8 * art.k);
+  const QRectF keys = placed(art, form.area(forms::AreaKind::KeyRow));
+  if (!keys.isEmpty()) well(p, keys, 2, QColor(5, 6, 7), 1.8 * art.k);
   const QRectF group = placed(art, form.area(forms::AreaKind::Bracket));
   if (!group.isEmpty()) bracket(art, group);
 }
@@ -122,10 +125,8 @@ QConicalGradient sheen(QPointF centre, const QColor& dark, const QColor& light, 
   return gradient;
 }
 
-void emblem(Art& art) {
-  QPainter& p = art.painter;
-  const QPointF centre(art.w / 2, art.h / 2);
-  const double r = std::min(art.w, art.h) / 2 - .5;
+/// A silver disc with its hub.
+void emblem(QPainter& p, QPointF centre, double r) {
   const auto disc = [&](QPointF at, double radius, const QBrush& brush, const QPen& pen = Qt::NoPen) {
     p.setPen(pen);
     p.setBrush(brush);
@@ -219,36 +220,103 @@ void groove(Art& art) {
   fill(p, QRectF(1, 1.9 * art.k - .3, art.w - 2, .6), alpha(Qt::white, .28));
 }
 
-/// A sunk panel. Within the volume panel a scale is engraved between the sliders, a mark for each
-/// tenth of their way and a long one for each half.
-void sunkPanel(Art& art, bool scale) {
+/// A mark for each tenth of the sliders' way and a long one for each half, from the middle of the panel outwards.
+struct Marks {
+  double last;  ///< design pixels from the panel's top
+  double apart;
+  double longer;
+  double shorter;
+};
+
+void engraveScale(Art& art, const forms::Control& slider, const Marks& marks) {
+  const double middle = art.w / 2;
+  for (int mark = 0; mark <= 10; ++mark) {
+    const double y = at(art, slider.top + 115 + mark * 99.5);
+    if (y > marks.last) break;
+    const bool half = mark % 5 == 0;
+    const double length = (half ? marks.longer : marks.shorter) * art.k;
+    for (const double from : {middle - marks.apart * art.k, middle + marks.apart * art.k - length}) {
+      fill(art.painter, QRectF(from, y + .35, length, .7), alpha(Qt::black, .6));
+      fill(art.painter, QRectF(from, y - .35, length, .7), alpha(QColor(0xC9, 0xCE, 0xD4), half ? .75 : .5));
+    }
+  }
+}
+
+void sunkMetal(Art& art, double inset) {
   QPainter& p = art.painter;
-  const double inset = scale ? 1 : 0;
   const QRectF inner = area(art).adjusted(inset, inset, -inset, -inset);
-  well(p, inner, 3, QColor(Qt::black), (scale ? 1.6 : 1.8) * art.k);
+  well(p, inner, 3, QColor(Qt::black), (inset > 0 ? 1.6 : 1.8) * art.k);
   metal(art, inner, qColour(art.control.backColor), 3, .2);
   fill(p, QRectF(inner.left(), inner.top(), inner.width(), 6),
        blend(inner.topLeft(), inner.topLeft() + QPointF(0, 6), {{0, alpha(Qt::black, .52)}, {1, alpha(Qt::black, 0)}}), 3);
   fill(p, QRectF(inner.left(), inner.top(), 5, inner.height()),
        blend(inner.topLeft(), inner.topLeft() + QPointF(5, 0), {{0, alpha(Qt::black, .42)}, {1, alpha(Qt::black, 0)}}), 3);
-  const forms::Control* slider = scale ? art.control.with(forms::Role::Scale) : nullptr;
+}
+
+/// The legends and lamps of a volume panel that has no controls for them: round its sliders, over its link key.
+void levelPanel(Art& art, const forms::Control& slider) {
+  const auto& panel = static_cast<const forms::Panel&>(art.control);
+  const forms::Control* link = nullptr;
+  for (const forms::Control* control : panel.form().controls()) {
+    if (control->parent == &panel && control->art.find("linked") != std::string::npos) link = control;
+  }
+  if (link == nullptr) return;
+  engraveScale(art, slider, {at(art, link->top - 190), 11.5, 8.5, 5});
+  const forms::Font font{forms::kSmallFont, 7};
+  const QColor legend = legendOn(QColor(0xC9, 0xCE, 0xD4), qColour(panel.backColor));
+  engraved(art, {0, at(art, link->top - 150), art.w, at(art, 135)}, font, "Link", legend, {});
+  const double under = at(art, slider.top + slider.height + 5);
+  const double wide = at(art, slider.width);
+  engraved(art, {at(art, slider.left), under, wide, at(art, 150)}, font, "L", legend, {});
+  engraved(art, {art.w - at(art, slider.left) - wide, under, wide, at(art, 150)}, font, "R", legend, {});
+  if (panel.empty) return;
+  constexpr int kLamps = 6;
+  for (int i = 0; i < kLamps; ++i) {
+    const QRectF left(at(art, 45) + .3, at(art, slider.top + 100 + i * 199) + .2, at(art, 60) - .6, at(art, 30) - .4);
+    const QColor colour(0x50, 0xE6, 0x78);
+    lamp(art.painter, left, colour, true, .8);
+    lamp(art.painter, left.translated(art.w - 2 * left.left() - left.width(), 0), colour, true, .8);
+  }
+}
+
+/// A sunk panel; with a scale between sliders, or with all of a volume panel.
+void sunkPanel(Art& art, std::string_view detail) {
+  const forms::Control* slider = art.control.with(forms::Role::Scale);
+  sunkMetal(art, slider != nullptr ? 1 : 0);
   if (slider == nullptr) return;
-  const double middle = art.w / 2;
-  const double last = at(art, art.k == 1 ? 1235 : 1215);
-  for (int mark = 0; mark <= 10; ++mark) {
-    const double y = at(art, slider->top + 115 + mark * 99.5);
-    if (y > last) break;
-    const double length = (mark % 5 == 0 ? 7.5 : 4.5) * art.k;
-    for (const double from : {middle - 10.5 * art.k, middle + 10.5 * art.k - length}) {
-      fill(p, QRectF(from < middle ? from : from + length, y + .35, from < middle ? length : -length, .7).normalized(),
-           alpha(Qt::black, .6));
-      fill(p, QRectF(from < middle ? from : from + length, y - .35, from < middle ? length : -length, .7).normalized(),
-           alpha(QColor(0xC9, 0xCE, 0xD4), mark % 5 == 0 ? .75 : .5));
-    }
+  if (detail == "level") {
+    levelPanel(art, *slider);
+  } else {
+    engraveScale(art, *slider, {at(art, art.k == 1 ? 1235 : 1215), 10.5, 7.5, 4.5});
   }
 }
 
 }  // namespace
+
+void sunkDisc(Art& art, const QRectF& place) {
+  constexpr double kWide = 75.3;  // design pixels of the place that the measures are for
+  QPainter& p = art.painter;
+  const double unit = place.width() / kWide;
+  const double r = 29 * unit;
+  const QPointF centre(place.center().x(), place.top() + 45.8 * unit);
+  const QRectF rim(centre - QPointF(r, r), centre + QPointF(r, r));
+  const auto ring = [&](double wider, const QBrush& brush, const QPen& pen = Qt::NoPen) {
+    p.setPen(pen);
+    p.setBrush(brush);
+    p.drawEllipse(centre, r + wider * unit, r + wider * unit);
+  };
+  ring(5, blendIn(rim, .3, 1, {{0, alpha(Qt::black, .6)}, {1, alpha(Qt::white, .16)}}));
+  ring(3.6, QColor(0x15, 0x17, 0x1A),
+       QPen(QBrush(blend(rim.topLeft(), rim.bottomLeft(), {{0, alpha(Qt::black, .9)}, {1, alpha(Qt::black, .2)}})), 1.6));
+  emblem(p, centre, r);
+  const forms::Font font{forms::kSmallFont, 7.5 * unit / art.k, true};
+  const QColor legend = legendOn(QColor(0xC3, 0xC9, 0xCF), qColour(art.control.form().backColor));
+  double top = centre.y() + r + 12 * unit;
+  for (const char* word : {"COMPACT", "DISC"}) {
+    engraved(art, QRectF(place.left(), top, place.width(), 10 * unit), font, word, legend, {forms::Align::Center, 2.2 * unit});
+    top += 10 * unit;
+  }
+}
 
 bool paintSurface(Art& art, std::string_view name, std::string_view detail) {
   const forms::Control& c = art.control;
@@ -256,13 +324,15 @@ bool paintSurface(Art& art, std::string_view name, std::string_view detail) {
   if (name == "faceplate") {
     faceplate(art);
   } else if (name == "metal") {
-    sunkPanel(art, detail == "scale");
+    sunkPanel(art, detail);
   } else if (name == "door") {
     door(art, detail == "moving");
   } else if (name == "tray") {
     paintTray(art, detail == "half");
   } else if (name == "emblem") {
-    emblem(art);
+    emblem(art.painter, area(art).center(), std::min(art.w, art.h) / 2 - .5);
+  } else if (name == "disc") {
+    sunkDisc(art, area(art));
   } else if (name == "statuslamp") {
     statusLamp(art);
   } else if (name == "power") {

@@ -66,7 +66,8 @@ namespace {
 /// The light of one word or digit: a blurred copy of it, kept for each quarter of a pixel that it may stand at.
 void glowPiece(Art& art, const QRectF& rect, const forms::Font& font, const std::string& text, const QColor& colour, const Lettering& how,
                double strength) {
-  const double sigma = std::max(1.2, 1.7 * art.k * art.factor);
+  constexpr double kTiny = 6;  // points
+  const double sigma = std::max(1.2, (font.points < kTiny ? 1.2 : 1.7) * art.k * art.factor);
   const int margin = static_cast<int>(sigma * 3);
   const QSize size(static_cast<int>(rect.width() * art.factor) + 2 * margin, static_cast<int>(rect.height() * art.factor) + 2 * margin);
   const auto quarters = static_cast<int>(std::lround(rect.left() * art.factor * 4));

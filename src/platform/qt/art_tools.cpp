@@ -8,6 +8,8 @@
 #include <cmath>
 #include <vector>
 
+#include "platform/qt/palette.h"
+
 namespace orvanta {
 
 QColor qColour(Colour colour) {
@@ -93,7 +95,8 @@ bool ownPicture(Art& art, bool round) {
 }
 
 bool symbolOf(std::string_view name, Symbol& symbol) {
-  static constexpr std::array<std::string_view, 8> kNames = {"prev", "next", "play", "pause", "stop", "record", "rewind", "forward"};
+  static constexpr std::array<std::string_view, 9> kNames = {"prev",   "next",   "play",    "pause", "stop",
+                                                             "record", "rewind", "forward", "eject"};
   const auto* found = std::find(kNames.begin(), kNames.end(), name);
   if (found == kNames.end()) return false;
   symbol = static_cast<Symbol>(found - kNames.begin());
@@ -132,6 +135,11 @@ QPainterPath symbolPath(Symbol symbol) {
     case Symbol::Forward:
       triangle(0, 4.8, 7.6);
       triangle(-7.8, 4.8, -.2);
+      break;
+    case Symbol::Eject:
+      path.addPolygon(QPolygonF({{0, -6.2}, {7, 1.4}, {-7, 1.4}}));
+      path.closeSubpath();
+      bar(-7, 3.6, 14, 2.6);
       break;
   }
   return path;
@@ -192,18 +200,30 @@ void symbol(QPainter& painter, Symbol which, QPointF centre, double k, const QCo
   sign(painter, path, centre, k, {.8, colour});
 }
 
-void litSymbol(Art& art, Symbol which, QPointF centre, double k, const QColor& colour) {
+QColor litColour(Symbol symbol) {
+  switch (symbol) {
+    case Symbol::Pause:
+    case Symbol::Stop:
+    case Symbol::Eject: return kAmber;
+    case Symbol::Record: return {0xFF, 0x4A, 0x3D};
+    case Symbol::Rewind:
+    case Symbol::Forward: return {0x0A, 0x8F, 0x3C};
+    default: return {0x3D, 0xFF, 0x7A};
+  }
+}
+
+void litSymbol(Art& art, Symbol which, QPointF centre, double k, const QColor& colour, QSizeF pool) {
   QPainter& painter = art.painter;
   painter.save();
   painter.translate(centre);
-  painter.scale(2 * k, k);
-  QRadialGradient pool(QPointF(0, 0), 12);
-  pool.setColorAt(0, alpha(colour, .42));
-  pool.setColorAt(.5, alpha(colour, .14));
-  pool.setColorAt(1, alpha(colour, 0));
+  painter.scale(k * pool.width() / pool.height(), k);
+  QRadialGradient light(QPointF(0, 0), pool.height());
+  light.setColorAt(0, alpha(colour, .42));
+  light.setColorAt(.5, alpha(colour, .14));
+  light.setColorAt(1, alpha(colour, 0));
   painter.setPen(Qt::NoPen);
-  painter.setBrush(pool);
-  painter.drawEllipse(QPointF(0, 0), 12, 12);
+  painter.setBrush(light);
+  painter.drawEllipse(QPointF(0, 0), pool.height(), pool.height());
   painter.restore();
   const QPainterPath path = symbolPath(which);
   // A halo: wide faint strokes under the bright face.

@@ -63,12 +63,17 @@ void glow(Art& art, const QRectF& rect, const forms::Font& font, const std::stri
 /// Dark copy below, then the text: cut into metal.
 void engraved(Art& art, const QRectF& rect, const forms::Font& font, const std::string& text, const QColor& colour, const Lettering& how);
 
-enum class Symbol { Previous, Next, Play, Pause, Stop, Record, Rewind, Forward };
+enum class Symbol { Previous, Next, Play, Pause, Stop, Record, Rewind, Forward, Eject };
 /// false for a name that is no symbol.
 bool symbolOf(std::string_view name, Symbol& symbol);
 QPainterPath symbolPath(Symbol symbol);
-/// A symbol of light: a pool of it on the key, a halo, a bright face.
-void litSymbol(Art& art, Symbol symbol, QPointF centre, double k, const QColor& colour);
+QColor litColour(Symbol symbol);
+/// A symbol of light: a pool of it on the key, as wide and high as told on each side, a halo, a bright face.
+void litSymbol(Art& art, Symbol symbol, QPointF centre, double k, const QColor& colour, QSizeF pool = {24, 12});
+/// The sign of a key of the volume panel, cut into its cap.
+void keySign(Art& art, std::string_view name, double k);
+/// The disc sunk into the metal, with its words below.
+void sunkDisc(Art& art, const QRectF& place);
 /// A path around (x, y) in a stroke or filled, with an engraving copy below when `below` is not transparent.
 struct SignPen {
   double width = 0;  ///< 0 fills

@@ -139,6 +139,8 @@ void Links::endAtOnce() { core_.endOfSession(); }
 
 void Links::showHelp(int topic) { core_.shell_.help.show(topic); }
 
+void Links::showAbout() { core_.shell_.about.show(); }
+
 // ---- the CDDB
 
 void Links::openCddb() { core_.cddb_.window.open(); }

@@ -54,6 +54,7 @@ class Links : public PlaybackUpward,
   void showTrackList() override;
   void closeTrackList() override;
   void closeDiscWindows() override;
+  void showAbout() override;
 
   // The CDDB.
   void openCddb() override;
@@ -84,7 +85,6 @@ class Links : public PlaybackUpward,
   void showPage(const std::string& address) override;
 
   // Windows and programs that are still to come aboard; their keys do nothing yet.
-  void showAbout() override {}
   void launchEnhancedDisc() override {}
 
  private:

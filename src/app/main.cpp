@@ -12,9 +12,9 @@
 #include <thread>
 
 #include "app/command_line.h"
-#include "app/licences.h"
 #include "app/options.h"
 #include "app/orvanta.h"
+#include "base/licences.h"
 #include "platform/disc/cdrom_drive.h"
 #include "platform/disc/drive_tray.h"
 #include "platform/disc/image_drive.h"
@@ -26,12 +26,15 @@
 #include "platform/linux/host_system.h"
 #include "platform/linux/local_socket.h"
 #include "platform/linux/signals.h"
+#include "platform/ports/facts.h"
 #include "platform/qt/fonts.h"
+#include "platform/qt/icons.h"
 #include "platform/qt/late_net.h"
 #include "platform/qt/late_printer.h"
 #include "platform/qt/qt_clock.h"
 #include "platform/qt/qt_desktop.h"
 #include "platform/qt/qt_dialogs.h"
+#include "platform/qt/qt_facts.h"
 #include "platform/qt/qt_menus.h"
 #include "platform/qt/qt_screen.h"
 #include "platform/qt/qt_tray.h"
@@ -147,6 +150,25 @@ struct Drive {
   std::unique_ptr<Player> player;
 };
 
+class DeckFacts : public FactSource {
+ public:
+  explicit DeckFacts(const Drive& drive) : drive_(drive) {}
+  Facts facts() const override {
+    return {ORVANTA_VERSION, systemName(), toolkitName(), sound(), drive_.real ? drive_.path : "disc images in " + drive_.path};
+  }
+
+ private:
+  /// Which of the desktop's roads it is shows with the first sound.
+  std::string sound() const {
+    const std::string road = drive_.player->soundRoad();
+    if (drive_.audio.rfind("file:", 0) == 0) return "written to " + drive_.audio.substr(5);
+    if (drive_.audio == "null") return "heard by nobody, as asked for";
+    return road.empty() ? "through PulseAudio or ALSA, from the first play on" : road;
+  }
+
+  const Drive& drive_;
+};
+
 /// The adapters that need Qt, and the core over them all.
 struct Deck {
   Deck(const Options& options, Host& host, Drive& drive)
@@ -156,8 +178,9 @@ struct Deck {
         volume(drive.player->level(), host.files, clock, host.inData(DataFile::Level), [&drive] { drive.player->relevel(); }),
         drivePath(drive.path),
         deckSound(makeSound(options.audio == "default" ? options.audio : "null")),
-        ports{device, tray,  clock,  dialogs, host.files, host.processes, screen,     host.system,
-              volume, mixer, sounds, printer, net,        menus,          systemTray, desktop},
+        facts(drive),
+        ports{device, tray,   clock,   dialogs, host.files, host.processes, screen, host.system, volume,
+              mixer,  sounds, printer, net,     menus,      systemTray,     facts,  desktop},
         orvanta(std::make_unique<Orvanta>(ports)) {
     gate.setOnEnd([] { QApplication::exit(0); });
     host.processes.setYield([this] { clock.yield(); });
@@ -180,6 +203,7 @@ struct Deck {
   std::unique_ptr<MasterVolume> master = systemMasterVolume();
   MixerStandIn mixer{*master};
   SoundSetup deckSound;
+  DeckFacts facts;
   WavePlayer sounds{*deckSound.outputs, [] { QApplication::beep(); }};
   Ports ports;
   std::unique_ptr<Orvanta> orvanta;
@@ -244,6 +268,12 @@ class Listener {
   std::unique_ptr<QSocketNotifier> notifier_;
 };
 
+std::string versionText() {
+  std::string text = "Orvanta LX " ORVANTA_VERSION "\n";
+  for (const Licence& licence : kLicences) text += nameAndUse(licence) + ": " + licence.licence + "\n";
+  return text;
+}
+
 /// What is said instead of a start; nullopt for one.
 std::optional<int> answered(const Options& options) {
   if (!options.error.empty()) {
@@ -251,7 +281,7 @@ std::optional<int> answered(const Options& options) {
     return 2;
   }
   if (options.help) return std::fputs(helpText().c_str(), stdout) < 0 ? 1 : 0;
-  if (options.version) return std::fputs("Orvanta LX " ORVANTA_VERSION "\n" ORVANTA_LICENCES, stdout) < 0 ? 1 : 0;
+  if (options.version) return std::fputs(versionText().c_str(), stdout) < 0 ? 1 : 0;
   return std::nullopt;
 }
 
@@ -293,6 +323,7 @@ int run(int argc, char** argv) {
   QApplication application(argc, argv);
   QApplication::setApplicationName(QStringLiteral("Orvanta LX"));
   QApplication::setQuitOnLastWindowClosed(false);
+  QApplication::setWindowIcon(applicationIcon());
   watchTurns();
   return live(application, options, host, drive);
 }

@@ -32,7 +32,7 @@ LibraryPorts forLibrary(const Ports& all) {
 CddbPorts forCddb(const Ports& all) { return {all.clock, all.dialogs, all.files, all.net, all.screen, all.desktop}; }
 
 ShellPorts forShell(const Ports& all) {
-  return {all.dialogs, all.files, all.processes, all.screen, all.system, all.systemTray, all.desktop};
+  return {all.dialogs, all.files, all.processes, all.screen, all.system, all.systemTray, all.facts, all.desktop};
 }
 
 WebPorts forWeb(const Ports& all) { return {all.clock, all.dialogs, all.files, all.menus, all.processes, all.screen, all.system}; }
@@ -51,7 +51,7 @@ Orvanta::Orvanta(Ports& ports)
       strip_(forStrip(ports), playback_, faceplate_, {stripForm, iconForm}, form, state, links_),
       library_(forLibrary(ports), playback_, {editor, playlistForm, infoForm}, form, state, links_),
       cddb_(forCddb(ports), library_.cdData, editor, {cddbForm, categoryForm, mailForm}, form, state, links_),
-      shell_(forShell(ports), strip_, faceplate_.drawer, playback_.status, wallpaperForm, form, state, links_),
+      shell_(forShell(ports), strip_, faceplate_.drawer, playback_.status, {wallpaperForm, aboutForm}, form, state, links_),
       web_(forWeb(ports), faceplate_.actions, form, state, links_),
       life_(forLife(ports), playback_, faceplate_, form, state) {
   playback_.status.watch([this](const DeckStatus& /*now*/) { library_.cdData.markPlaying(); });

@@ -52,6 +52,7 @@ class Orvanta {
   Form26 wallpaperForm;
   VolCntl stripForm;
   ICONmin iconForm;
+  AboutBox aboutForm;
   SharedState state;
 
  private:

@@ -56,6 +56,7 @@ enum class Action : uint8_t {
   Library,
   Wallpaper,
   Help,
+  About,
   Exit,
 };
 constexpr size_t kActions = static_cast<size_t>(Action::Exit) + 1;

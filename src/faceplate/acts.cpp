@@ -179,6 +179,7 @@ const Act kActs[] = {
     {Action::Library, kClicks, Refuses::Row, upward<&FaceplateUpward::startLibrary>, always, off},
     {Action::Wallpaper, kSilent, Refuses::Row, upward<&FaceplateUpward::switchWallpaper>, always, off},
     {Action::Help, kSilent, Refuses::Row, [](P on, By, int) { on.upward.showHelp(kHelpTopic); }, always, off},
+    {Action::About, kSilent, Refuses::Row, upward<&FaceplateUpward::showAbout>, always, off},
     {Action::Exit, kClicks, Refuses::Row, upward<&FaceplateUpward::exitProgram>, always, off},
 };
 static_assert(std::size(kActs) == kActions);

@@ -19,6 +19,7 @@ class FaceplateUpward {
   virtual void showPlaylist() = 0;
   virtual void showTrackList() = 0;
   virtual void closeTrackList() = 0;
+  virtual void showAbout() = 0;
   virtual void launchEnhancedDisc() = 0;
   /// The deck makes room: the strip or the tray stands in for it while a disc plays or pauses, else a task button alone.
   virtual void minimise() = 0;

@@ -4,6 +4,7 @@
 namespace orvanta {
 
 class Dialogs;
+class FactSource;
 class Files;
 class Processes;
 class Screen;
@@ -20,6 +21,7 @@ struct ShellPorts {
   Screen& screen;
   System& system;
   Tray& tray;
+  FactSource& facts;
   forms::Desktop& desktop;
 };
 

@@ -5,13 +5,19 @@
 #include <QApplication>
 #include <QDropEvent>
 #include <QMimeData>
+#include <QPointer>
 #include <QTemporaryDir>
+#include <QTest>
 #include <QUrl>
 #include <algorithm>
+#include <functional>
+#include <set>
 
 #include "platform/forms/design.h"
 #include "platform/qt/art_tools.h"
 #include "platform/qt/text_lines.h"
+#include "shell/about.h"
+#include "shell/upward.h"
 #include "tests/gui/deck.h"
 
 namespace orvanta::test {
@@ -174,7 +180,7 @@ TEST(View, DrawsAWindowOfAnyNames) {
   QtDesktop desktop(gate, Scale{});
   Stranger form;
   form.show(desktop);
-  auto* window = dynamic_cast<FormWindow*>(form.view());
+  FormWindow* window = windowOf(form);
   ASSERT_NE(window, nullptr);
   const auto key = [&](bool masked, bool lit) {
     form.veil.visible = masked;
@@ -195,6 +201,48 @@ TEST(View, DrawsAWindowOfAnyNames) {
   EXPECT_EQ(fader->role(), QAccessible::Slider);
   EXPECT_EQ(fader->text(QAccessible::Value), QStringLiteral("42%"));
   EXPECT_LT(window->grab().toImage().pixelColor(160, 40).lightness(), 40) << "glass without a display's area of its own";
+}
+
+TEST(AboutBox, IsReachedWholeByKeysAndByAScreenReader) {
+  struct Browser : ShellUpward {
+    void showAbout() override {}
+    void endAtOnce() override {}
+    void showPage(const std::string& address) override { pages.push_back(address); }
+    std::vector<std::string> pages;
+  } browser;
+  Deck deck;
+  AboutBox form;
+  About about({deck.dialogs, deck.files, deck.processes, deck.screen, deck.system, deck.systemTray, deck.facts, deck.qtDesktop}, form,
+              deck.core.form, deck.core.state.settings, browser);
+  about.show();
+  FormWindow* window = windowOf(form);
+  const auto key = [&](Qt::Key code) { QTest::keyClick(window, code); };
+  QStringList heard;
+  std::function<void(QAccessibleInterface*)> listen = [&](QAccessibleInterface* at) {
+    heard << at->text(QAccessible::Name);
+    for (int i = 0; i < at->childCount(); ++i) listen(at->child(i));
+  };
+  listen(QAccessible::queryAccessibleInterface(window));
+  for (const char* text :
+       {"Orvanta LX", "1.2.3", "A system", "A toolkit", "A wire", "/drive", "Qt 6 (linked dynamically)", "LGPL-3.0", "Close"})
+    EXPECT_TRUE(heard.contains(QString::fromLatin1(text))) << text;
+  std::set<std::string> visited;
+  for (int i = 0; i < 20; ++i) {
+    key(Qt::Key_Tab);
+    const forms::Control* at = form.activeControl();
+    visited.insert(at->name());
+    const auto role = QAccessible::queryAccessibleInterface(window->widgetOf(*at))->role();
+    EXPECT_EQ(role, at->kind() == forms::Kind::Label ? QAccessible::Link : QAccessible::PushButton) << at->fullName();
+    if (at == &form.AboutLicence[1] && browser.pages.empty()) key(Qt::Key_Space);
+  }
+  EXPECT_EQ(visited, (std::set<std::string>{"AboutLicence", "AboutClose", "AboutExit"}));
+  EXPECT_EQ(browser.pages, std::vector<std::string>{"https://www.gnu.org/licenses/lgpl-3.0.html"});
+  // The window goes in the midst of its own event.
+  const QPointer<FormWindow> watched(window);
+  key(Qt::Key_Escape);
+  EXPECT_FALSE(form.loaded());
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  EXPECT_TRUE(watched.isNull());
 }
 
 TEST(Drops, LightTheDeckUpForWhatItTakes) {

@@ -32,9 +32,10 @@ struct CoreRig {
   FakeNet net{clock};
   FakeMenus menus;
   FakeTray systemTray;
+  FakeFacts facts;
   DriveTray tray{player, "/drive"};
-  Ports ports{device,    tray,  clock,  dialogs, files, processes, screen,     system,
-              auxVolume, mixer, sounds, printer, net,   menus,     systemTray, desktop};
+  Ports ports{device, tray,   clock,   dialogs, files, processes,  screen, system, auxVolume,
+              mixer,  sounds, printer, net,     menus, systemTray, facts,  desktop};
   Orvanta orvanta{ports};
   CDForm& form = orvanta.form;
   SharedState& state = orvanta.state;

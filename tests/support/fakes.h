@@ -12,6 +12,7 @@
 #include "platform/ports/aux_volume.h"
 #include "platform/ports/core_gate.h"
 #include "platform/ports/dialogs.h"
+#include "platform/ports/facts.h"
 #include "platform/ports/files.h"
 #include "platform/ports/menu.h"
 #include "platform/ports/mixer_application.h"
@@ -25,6 +26,12 @@
 namespace orvanta::test {
 
 using Tape = std::vector<std::string>;
+
+class FakeFacts : public FactSource {
+ public:
+  Facts facts() const override { return now; }
+  Facts now{"1.2.3", "A system", "A toolkit", "A wire", "/drive"};
+};
 
 class FakeFiles : public Files {
  public:

@@ -21,6 +21,7 @@ const std::map<std::string, Preparation> kPreparations = {
     {"stuck", [](PlayRig& rig, const Word&) { rig.player.stuck = true; }},
     {"held", [](PlayRig& rig, const Word&) { rig.player.held = Holder::Other; }},
     {"drive", [](PlayRig& rig, const Word& w) { rig.player.absent = w.value; }},
+    {"drive-told", [](PlayRig& rig, const Word& w) { rig.facts.now.drive = w.value; }},
     {"entry", [](PlayRig& rig, const Word& w) { rig.entry = w.value; }},
     {"plays", [](PlayRig& rig, const Word& w) { rig.playsFrom = w.number(); }},
     {"words", [](PlayRig& rig, const Word& w) { rig.words = w.value; }},

@@ -148,6 +148,7 @@ class Scene {
     if (act.verb == "yes") return rig_.dialogs.yes = act.number() != 0, true;
     if (act.verb == "fail-write") return rig_.files.failAt = rig_.files.writes() + act.number(), true;
     if (act.verb == "second") return second(act.list());
+    if (act.verb == "about") return enter([&] { rig_.orvanta.actions().run(Action::About); });
     if (act.verb == "draft") return enter([&] { rig_.orvanta.keepDrafts(); });
     if (act.verb == "session-ends") return enter([&] { rig_.orvanta.endOfSession(); });
     if (act.verb == "full") return rig_.files.full = act.number() != 0, true;
@@ -368,7 +369,8 @@ class Scene {
                                {&rig_.orvanta.mailForm, false, {}, {}},
                                {&rig_.orvanta.wallpaperForm, false, {}, {}},
                                {&rig_.orvanta.stripForm, false, {}, {}},
-                               {&rig_.orvanta.iconForm, false, {}, {}}};
+                               {&rig_.orvanta.iconForm, false, {}, {}},
+                               {&rig_.orvanta.aboutForm, false, {}, {}}};
   forms::Form* front_ = &rig_.form;
   std::string summary_;
   std::string focus_;

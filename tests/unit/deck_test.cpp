@@ -12,7 +12,7 @@ TEST_P(Deck, DoesAsItIsWritten) { expectTranscript(std::string("deck/") + GetPar
 
 INSTANTIATE_TEST_SUITE_P(All, Deck,
                          testing::Values("play", "hands", "looks", "sliders", "comings", "windows", "online", "shell", "starts", "strip",
-                                         "menus"),
+                                         "menus", "about"),
                          [](const auto& each) { return std::string(each.param); });
 
 }  // namespace

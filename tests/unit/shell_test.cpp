@@ -21,6 +21,7 @@ TEST(Help, OpensWhatATopicHasOrSaysWhyNot) {
     FakeSystem system;
     FakeTray tray;
     FakeDesktop desktop;
+    FakeFacts facts;
     SharedState state;
     state.settings.appDir = "/data";
     const auto words = wordsOf(line);
@@ -31,7 +32,7 @@ TEST(Help, OpensWhatATopicHasOrSaysWhyNot) {
       if (word.verb == "refuses") processes.fail = true;
       for (const std::string& program : word.verb == "missing" ? word.list() : Tape{}) processes.missing.insert(program);
     }
-    Help help({dialogs, files, processes, screen, system, tray, desktop}, state);
+    Help help({dialogs, files, processes, screen, system, tray, facts, desktop}, state);
     help.show(std::stoi(words[0].verb));
     return "started: " + runs(processes.tape, ", ") + "\nbox: " + runs(dialogs.tape, ", ");
   });

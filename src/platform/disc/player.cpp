@@ -90,6 +90,11 @@ bool Player::soundless() const {
   return output_ && output_->toNobody();
 }
 
+std::string Player::soundRoad() const {
+  const std::lock_guard lock(mutex_);
+  return road_;
+}
+
 std::string Player::missingDrive() const {
   const std::lock_guard lock(mutex_);
   return missing_;

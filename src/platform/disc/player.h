@@ -42,6 +42,8 @@ class Player : public DiscPlayer, private SampleFeed {
   std::string firstEntry() const override;
   SheetTexts texts() const override;
   bool soundless() const override;
+  /// What the last stream went through; "" before the first.
+  std::string soundRoad() const;
   std::string missingDrive() const override;
   PlayState state() const override;
   int frame() const override;
@@ -153,6 +155,7 @@ class Player : public DiscPlayer, private SampleFeed {
   int shownFrame_ = kFirstFrame;
   int shownEnd_ = kFirstFrame;
   std::unique_ptr<SoundOutput> output_;
+  const char* road_ = "";
   std::vector<Span> spans_;
   Holder holder_ = Holder::Unknown;
   DriveStatus status_ = DriveStatus::NotReady;

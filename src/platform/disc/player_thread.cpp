@@ -169,6 +169,7 @@ void Player::startStream(int from, bool afterFailure) {
   const std::lock_guard lock(mutex_);
   if (afterFailure && shownState_ == PlayState::Paused) output->pause();
   output_ = std::move(output);
+  road_ = output_->road();
   lastTry_ = SteadyClock::now();
 }
 

@@ -9,6 +9,7 @@ class CdDevice;
 class Clock;
 class Dialogs;
 class DiscTray;
+class FactSource;
 class Files;
 class MixerApplication;
 class Menus;
@@ -39,6 +40,7 @@ struct Ports {
   Net& net;
   Menus& menus;
   Tray& systemTray;
+  FactSource& facts;
   forms::Desktop& desktop;  ///< gives loaded forms their views
 };
 

@@ -45,7 +45,7 @@ QAccessible::Role roleOf(const forms::Control& control) {
   if (percentOf(control) != nullptr) return QAccessible::Slider;
   if (control.kind() == forms::Kind::Panel && control.tabStop) return QAccessible::PushButton;
   switch (control.kind()) {
-    case forms::Kind::Label: return QAccessible::StaticText;
+    case forms::Kind::Label: return control.tabStop ? QAccessible::Link : QAccessible::StaticText;
     case forms::Kind::Bar: return QAccessible::ProgressBar;
     case forms::Kind::TextBox: return QAccessible::EditableText;
     case forms::Kind::Panel: return QAccessible::Pane;

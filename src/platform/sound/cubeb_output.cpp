@@ -73,6 +73,7 @@ class CubebOutput : public SoundOutput {
   void pause() override { library().stop(stream_); }
   void resume() override { library().start(stream_); }
   bool failed() const override { return failed_; }
+  const char* road() const override { return "ALSA"; }
 
   uint64_t heard() const override {
     uint64_t position = 0;

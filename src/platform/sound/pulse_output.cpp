@@ -113,6 +113,7 @@ class PulseOutputs::Stream : public SoundOutput {
   void pause() override { cork(1); }
   void resume() override { cork(0); }
   bool failed() const override { return failed_; }
+  const char* road() const override { return "PulseAudio"; }
 
   uint64_t heard() const override {
     const Lock lock(*connection_);

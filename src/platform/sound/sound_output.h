@@ -37,6 +37,8 @@ class SoundOutput {
   virtual bool failed() const = 0;
   /// False for one that takes all it can get.
   virtual bool paced() const { return true; }
+  /// What it goes through, by the name that users know.
+  virtual const char* road() const { return "heard by nobody"; }
   /// It stands in for sound that cannot be had.
   virtual bool toNobody() const { return false; }
 };

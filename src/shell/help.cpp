@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <string_view>
+#include <vector>
 
 #include "base/text.h"
 #include "platform/ports/dialogs.h"
@@ -25,9 +26,22 @@ constexpr Topic kTopics[] = {
     {21, "orvhelp/CDBGRND.TXT"}, {25, "orvhelp/COMPWINA.TXT"},
 };
 
-/// What desktops show a text with, the plain ones first.
+/// What desktops show a text with, the plain ones first, where none was chosen.
 constexpr const char* kEditors[] = {"gnome-text-editor", "gedit",   "kwrite", "kate", "mousepad", "xed", "pluma",
                                     "featherpad",        "l3afpad", "geany",  "gvim", "xedit"};
+
+/// Where the command has a place for it, else at its end.
+std::vector<std::string> withPath(std::vector<std::string> command, const std::string& path) {
+  constexpr std::string_view kPlace = "%u";
+  for (std::string& argument : command) {
+    const size_t at = argument.find(kPlace);
+    if (at == std::string::npos) continue;
+    argument.replace(at, kPlace.size(), path);
+    return command;
+  }
+  command.push_back(path);
+  return command;
+}
 
 }  // namespace
 
@@ -54,9 +68,12 @@ std::string Help::pathOf(const std::string& name) const {
 void Help::showText(const std::string& path) {
   const auto tell = [&](const std::string& text) { ports_.dialogs.message(BoxStyle::Warning, "Orvanta", text); };
   if (!ports_.files.exists(path)) return tell("The help text " + path + " is missing.");
-  for (const char* editor : kEditors) {
-    if (!ports_.processes.canStart(editor)) continue;
-    if (ports_.processes.start({{editor, path}, state_.settings.appDir, WindowStyle::Normal}) != 0) return;
+  std::vector<std::string> commands{ports_.system.programFor("text/plain")};
+  commands.insert(commands.end(), std::begin(kEditors), std::end(kEditors));
+  for (const std::string& command : commands) {
+    const auto arguments = withPath(splitCommand(command, ports_.files.exists(command)), path);
+    if (arguments.size() < 2 || !ports_.processes.canStart(arguments.front())) continue;
+    if (ports_.processes.start({arguments, state_.settings.appDir, WindowStyle::Normal}) != 0) return;
   }
   tell("No program to show a text with was found. The help text is " + path);
 }

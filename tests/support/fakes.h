@@ -192,11 +192,14 @@ class FakeSystem : public System {
   std::string windowsDir() const override { return "/programs"; }
   std::string defaultDataDir() const override { return "/usual"; }
   std::string mixerProgram() const override { return ""; }
-  std::string programFor(const std::string& type) const override { return type == "text/html" ? browser : ""; }
+  std::string programFor(const std::string& type) const override {
+    return type == "text/html" ? browser : type == "text/plain" ? viewer : "";
+  }
   int16_t platformId() const override { return 1; }
   std::vector<std::string> handedOn() const override { return arguments; }
   void changeDrive(const std::string& drive, const std::string& disc) override { arguments = {"--drive", drive, "--disc", disc}; }
   Tape arguments;
+  std::string viewer;   ///< of texts, as the desktop has it
   std::string browser;  ///< of the desktop
 };
 

@@ -28,6 +28,7 @@ TEST(Help, OpensWhatATopicHasOrSaysWhyNot) {
     for (const Word& word : words) {
       if (word.verb == "text") files.files[upper(word.value)] = "x";
       if (word.verb == "runs") processes.names = {"orvhelp"};
+      if (word.verb == "viewer") system.viewer = word.value;
       if (word.verb == "bare") processes.bare = true;
       if (word.verb == "refuses") processes.fail = true;
       for (const std::string& program : word.verb == "missing" ? word.list() : Tape{}) processes.missing.insert(program);

@@ -119,7 +119,9 @@ void ControlWidget::paintArt(QPainter& painter) {
 
 void ControlWidget::describe() {
   const std::string& shown = control_.caption;
-  setAccessibleName(toQt(shown.empty() ? control_.says : shown));
+  // A number that is a key says more than its figure.
+  const bool key = control_.kind() == forms::Kind::Label && control_.tabStop && !control_.says.empty();
+  setAccessibleName(toQt(shown.empty() || key ? control_.says : shown));
   setAccessibleDescription(toQt(testNames() ? control_.fullName() : control_.toolTip.get()));
 }
 

@@ -21,7 +21,10 @@ struct Strip {
         events({deck.actions, acts, window, mirror, sliders, colours, place, deck.keyboard, deck.sounds, deck.choice, upward}, forms.strip,
                state),
         button(window, forms.icon) {
-    playback.status.watch([this](const DeckStatus& now) { button.show(now); });
+    playback.status.watch([this](const DeckStatus& now) {
+      button.show(now);
+      mirror.follow();
+    });
   }
 
   StripLayout layout;

@@ -20,7 +20,7 @@ void StripPlace::putUsual(const WorkArea& area) {
 }
 
 void StripPlace::save() const {
-  if (!inTray()) place_.save(DataFile::StripPlace);
+  if (!wantsTray()) place_.save(DataFile::StripPlace);
 }
 
 }  // namespace orvanta

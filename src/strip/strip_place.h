@@ -25,7 +25,7 @@ class StripPlace {
   void pullIn() { place_.pullIn(); }
   /// Nothing while it lives in the tray: it stands nowhere then.
   void save() const;
-  bool inTray() const { return state_.settings.minToTray == kOn || state_.display.trayWanted; }
+  bool wantsTray() const { return state_.settings.minToTray == kOn || state_.display.trayWanted; }
 
  private:
   void putUsual(const WorkArea& area);

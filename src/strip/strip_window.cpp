@@ -25,11 +25,16 @@ class Meanwhile {
 // ---- the ways in
 
 void StripWindow::minfp1() {
-  if (out()) return;
+  if (out()) {
+    if (form_.loaded() && on_.place.wantsTray()) Image13_MouseUp();
+    return;
+  }
   const Meanwhile changing(changing_);
   upward_.hideWallpaper();
   icon_.minimised = true;
   icon_.show(desktop_);
+  // From here on each activation of it is the user's.
+  desktop_.lastShown = nullptr;
   faceplate_.hide();
   const DeckState now = engine_.heard();
   if (state_.disc.in() && (now == DeckState::Playing || now == DeckState::Paused)) showStrip();
@@ -58,7 +63,7 @@ void StripWindow::lookAnew() {
 }
 
 void StripWindow::vcposn() {
-  form_.parked = on_.place.inTray();
+  form_.parked = on_.place.wantsTray();
   if (form_.parked && upward_.toTray()) return;
   form_.parked = false;
   on_.place.restore();

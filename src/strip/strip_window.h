@@ -42,7 +42,7 @@ class StripWindow {
         upward_(upward) {}
 
   /// Hides the faceplate. While a disc plays or pauses the strip stands in for it, or the tray where that is wanted;
-  /// else there is the task button alone. Nothing while it is hidden already.
+  /// else there is the task button alone. From a strip that is out already to the tray, if that is wanted now.
   void minfp1();
   /// The faceplate comes back, whatever stands in for it.
   void restore();

@@ -108,6 +108,8 @@ class Scene {
     if (act.verb == "in") return in(act.value);
     forms::Form& form = *front_;
     if (act.verb == "let-go") return enter([&] { form.mouseUp({forms::MouseButton::Left, act.number(0), act.number(1)}); });
+    if (act.verb == "activate") return enter([&] { form.activated(); });
+    if (act.verb == "restore") return enter([&] { form.minimised = false; });
     if (act.verb == "close") return enter([&] { form.closeAsked(); });
     if (act.verb == "bar") return rig_.clickBar(std::atof(act.value.c_str())), true;
     const size_t colon = act.verb.find(':');
@@ -181,6 +183,9 @@ class Scene {
     if (act.verb == "tray-there") return rig_.systemTray.there = act.number() != 0, true;
     if (act.verb == "tray-refuses") return rig_.systemTray.refuses = act.value, true;
     if (act.verb == "tray-open") return rig_.systemTray.open = act.number() != 0, true;
+    if (act.verb == "minimise")
+      return enter([&] { rig_.orvanta.actions().run(act.value == "tray" ? Action::MinimiseToTray : Action::MinimiseToStrip); });
+    if (act.verb == "step") return enter([&] { rig_.orvanta.actions().run(act.value == "on" ? Action::TrackAfter : Action::TrackBefore); });
     if (act.verb == "fails") return rig_.player.failure = true, rig_.player.stop(), true;
     if (act.verb == "drag") return enter([&] { front_->dragged(act.number(0), act.number(1)); });
     if (act.verb == "device") return rig_.player.play(act.number(), rig_.player.disc.leadOut), true;

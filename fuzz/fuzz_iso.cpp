@@ -12,9 +12,10 @@ int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   const int start = (data[0] << 8 | data[1]) * 6;
   const size_t kept = size - 2;
   int asked = 0;
+  int limit = 100;
   // A few bytes stand for all blocks: the descriptor first, then the root.
   const auto read = [&](int block, orvanta::IsoBlock& out) {
-    if (block < 0 || block >= orvanta::kMaxFrames || ++asked > 100) std::abort();
+    if (block < 0 || block >= orvanta::kMaxFrames || ++asked > limit) std::abort();
     out.fill(0);
     const bool descriptor = block == start + 16;
     if (descriptor) std::copy_n("\1CD001", 6, out.begin());
@@ -30,5 +31,10 @@ int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   };
   const std::string name = orvanta::firstRootFile(start, read);
   if (name.size() > 255) std::abort();
+  limit = 4300;
+  for (const orvanta::IsoFile& file : orvanta::isoFiles(start, read)) {
+    if (("/" + file.way + "/").find("/../") != std::string::npos || file.way.starts_with('/') || file.block < 0 || file.size < 0)
+      std::abort();
+  }
   return 0;
 }

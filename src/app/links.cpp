@@ -173,6 +173,8 @@ void Links::showSearches(bool byKey) { core_.web_.menu.isrchopts(byKey); }
 
 void Links::startLibrary() { core_.web_.library.arun5(); }
 
+void Links::launchEnhancedDisc() { core_.web_.enhanced.launchEnhancedCd(); }
+
 void Links::centreFaceplate() { core_.faceplate_.place.Form_DblClick(); }
 
 /// Of the disc in CD Data, as it stands there now.

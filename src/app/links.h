@@ -77,15 +77,13 @@ class Links : public PlaybackUpward,
   void showMenu(bool byKey) override;
   void showSearches(bool byKey) override;
   void startLibrary() override;
+  void launchEnhancedDisc() override;
   void lookUpOnline() override;
   bool looksUp() const override;
   void cancelLookUp() override;
   void centreFaceplate() override;
   void lookForLyrics() override;
   void showPage(const std::string& address) override;
-
-  // Windows and programs that are still to come aboard; their keys do nothing yet.
-  void launchEnhancedDisc() override {}
 
  private:
   using Later = std::unique_ptr<Timer>;

@@ -17,6 +17,8 @@
 #include "base/licences.h"
 #include "platform/disc/cdrom_drive.h"
 #include "platform/disc/drive_tray.h"
+#include "platform/disc/folder_data.h"
+#include "platform/disc/image_data.h"
 #include "platform/disc/image_drive.h"
 #include "platform/disc/mci_device.h"
 #include "platform/disc/play_on.h"
@@ -179,8 +181,11 @@ struct Deck {
         drivePath(drive.path),
         deckSound(makeSound(options.audio == "default" ? options.audio : "null")),
         facts(drive),
-        ports{device, tray,   clock,   dialogs, host.files, host.processes, screen, host.system, volume,
-              mixer,  sounds, printer, net,     menus,      systemTray,     facts,  desktop},
+        discData(drive.real ? std::unique_ptr<DiscData>(std::make_unique<FolderData>([this] { return mountPointOf(drivePath); }))
+                            : std::make_unique<ImageData>([&drive] { return drive.player->sheet(); }, HostSystem::discFolder(),
+                                                          [this] { clock.yield(); })),
+        ports{device, tray,  *discData, clock,   dialogs, host.files, host.processes, screen, host.system,
+              volume, mixer, sounds,    printer, net,     menus,      systemTray,     facts,  desktop},
         orvanta(std::make_unique<Orvanta>(ports)) {
     gate.setOnEnd([] { QApplication::exit(0); });
     host.processes.setYield([this] { clock.yield(); });
@@ -205,6 +210,7 @@ struct Deck {
   SoundSetup deckSound;
   DeckFacts facts;
   WavePlayer sounds{*deckSound.outputs, [] { QApplication::beep(); }};
+  std::unique_ptr<DiscData> discData;
   Ports ports;
   std::unique_ptr<Orvanta> orvanta;
 };

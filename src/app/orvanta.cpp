@@ -35,7 +35,9 @@ ShellPorts forShell(const Ports& all) {
   return {all.dialogs, all.files, all.processes, all.screen, all.system, all.systemTray, all.facts, all.desktop};
 }
 
-WebPorts forWeb(const Ports& all) { return {all.clock, all.dialogs, all.files, all.menus, all.processes, all.screen, all.system}; }
+WebPorts forWeb(const Ports& all) {
+  return {all.clock, all.dialogs, all.discData, all.files, all.menus, all.processes, all.screen, all.system};
+}
 
 LifePorts forLife(const Ports& all) {
   return {all.device, all.auxVolume, all.clock, all.dialogs, all.files, all.processes, all.screen, all.system};

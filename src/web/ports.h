@@ -5,6 +5,7 @@ namespace orvanta {
 
 class Clock;
 class Dialogs;
+class DiscData;
 class Files;
 class Menus;
 class Processes;
@@ -14,6 +15,7 @@ class System;
 struct WebPorts {
   Clock& clock;
   Dialogs& dialogs;
+  DiscData& discData;
   Files& files;
   Menus& menus;
   Processes& processes;

@@ -146,8 +146,8 @@ TEST(DataWindow, GoesWhileABoxStandsOverIt) {
   for (const bool byKey : {true, false}) {
     Windows rig;
     QtDialogs boxes(rig.gate, rig.screen);
-    Ports ports{rig.device, rig.tray,   rig.clock,   boxes,   rig.files, rig.processes,  rig.screen, rig.system,   rig.auxVolume,
-                rig.mixer,  rig.sounds, rig.printer, rig.net, rig.menus, rig.systemTray, rig.facts,  rig.qtDesktop};
+    Ports ports{rig.device,    rig.tray,  rig.discData, rig.clock,   boxes,   rig.files, rig.processes,  rig.screen, rig.system,
+                rig.auxVolume, rig.mixer, rig.sounds,   rig.printer, rig.net, rig.menus, rig.systemTray, rig.facts,  rig.qtDesktop};
     Orvanta core(ports);
     rig.gate.enter([&] {
       core.startUp({});

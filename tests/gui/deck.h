@@ -39,8 +39,8 @@ struct Deck : CoreRig {
   QImage picture() const { return window->grab().toImage(); }
   Scale scale;
   QtDesktop qtDesktop;
-  Ports realPorts{device, tray,   clock,   dialogs, files, processes,  screen, system,   auxVolume,
-                  mixer,  sounds, printer, net,     menus, systemTray, facts,  qtDesktop};
+  Ports realPorts{device,    tray,  discData, clock,   dialogs, files, processes,  screen, system,
+                  auxVolume, mixer, sounds,   printer, net,     menus, systemTray, facts,  qtDesktop};
   Orvanta core{realPorts};
   FormWindow* window = nullptr;
 };

@@ -33,9 +33,10 @@ struct CoreRig {
   FakeMenus menus;
   FakeTray systemTray;
   FakeFacts facts;
+  FakeDiscData discData;
   DriveTray tray{player, "/drive"};
-  Ports ports{device, tray,   clock,   dialogs, files, processes,  screen, system, auxVolume,
-              mixer,  sounds, printer, net,     menus, systemTray, facts,  desktop};
+  Ports ports{device,    tray,  discData, clock,   dialogs, files, processes,  screen, system,
+              auxVolume, mixer, sounds,   printer, net,     menus, systemTray, facts,  desktop};
   Orvanta orvanta{ports};
   CDForm& form = orvanta.form;
   SharedState& state = orvanta.state;

@@ -12,6 +12,7 @@
 #include "platform/ports/aux_volume.h"
 #include "platform/ports/core_gate.h"
 #include "platform/ports/dialogs.h"
+#include "platform/ports/disc_data.h"
 #include "platform/ports/facts.h"
 #include "platform/ports/files.h"
 #include "platform/ports/menu.h"
@@ -89,6 +90,10 @@ class FakeDialogs : public Dialogs {
   void message(BoxStyle box, const std::string& title, const std::string& text) override { stand(box, title + ": " + text); }
   bool askYesNo(BoxStyle box, const std::string& title, const std::string& text) override {
     stand(box, title + "? " + text);
+    return yes;
+  }
+  bool confirm(const std::string& title, const std::string& text) override {
+    stand(BoxStyle::Warning, title + "?! " + text);
     return yes;
   }
   std::optional<std::string> askText(const std::string& title, const std::string& prompt, const std::string& /*proposed*/) override {
@@ -313,6 +318,24 @@ class FakeMenus : public Menus {
   MenuItem shown;      ///< last
   std::string choice;  ///< of the next one
   std::function<void()> whileOpen;
+};
+
+/// A disc that is mounted at "/mnt", its files by their way in upper case.
+class FakeDiscData : public DiscData {
+ public:
+  std::vector<std::string> rootFiles() override {
+    std::vector<std::string> names;
+    for (const auto& [way, bytes] : files) {
+      if (way.find('/') == std::string::npos) names.push_back(way);
+    }
+    return names;
+  }
+  std::string find(const std::string& way) override { return files.count(upper(way)) > 0 ? upper(way) : ""; }
+  std::string read(const std::string& way, size_t most) override { return files[way].substr(0, most); }
+  std::string bring(const std::string& way) override { return joinPath(folder(), way); }
+  std::string folder() override { return "/mnt"; }
+  std::string wayOf(const std::string& path) override { return path.starts_with("/mnt/") ? path.substr(5) : ""; }
+  std::map<std::string, std::string> files;
 };
 
 class FakePrinter : public Printer {

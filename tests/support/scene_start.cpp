@@ -30,6 +30,11 @@ const std::map<std::string, Preparation> kPreparations = {
     {"mixer", [](PlayRig& rig, const Word& w) { rig.settings.mixerPath = w.value; }},
     {"browser", [](PlayRig& rig, const Word& w) { rig.settings.browserPath = w.value; }},
     {"engine", [](PlayRig& rig, const Word& w) { rig.settings.searchEngine = w.value; }},
+    {"on-disc",
+     [](PlayRig& rig, const Word& w) {
+       const size_t colon = w.value.find(':');
+       rig.discData.files[upper(w.value.substr(0, colon))] = colon == std::string::npos ? "" : w.value.substr(colon + 1);
+     }},
     {"lyrics", [](PlayRig& rig, const Word& w) { rig.settings.lyricsSite = w.value; }},
     {"bits", [](PlayRig& rig, const Word& w) { rig.screen.bits = w.number(); }},
     {"twips", [](PlayRig& rig, const Word& w) { rig.screen.twips = w.number(); }},

@@ -35,7 +35,7 @@ std::string trackLines(const std::vector<int>& lengths, int gap) {
 int total(const std::vector<int>& lengths) { return std::accumulate(lengths.begin(), lengths.end(), 0); }
 
 /// An ISO 9660 session of 20 blocks at `start`, its root folder holding one file; raw sectors of mode 1.
-std::string isoSectors(int start, const std::string& file) {
+std::string isoSectors(int start, const std::string& file, const std::string& content) {
   constexpr int kBlocks = 20;
   std::vector<std::string> blocks(kBlocks, std::string(2048, '\0'));
   const auto put32 = [](std::string& block, size_t at, int value) {
@@ -52,6 +52,7 @@ std::string isoSectors(int start, const std::string& file) {
     std::string& root = blocks[18];
     root[at] = static_cast<char>(length);
     put32(root, at + 2, start + 19);
+    if (flags == 0) put32(root, at + 10, static_cast<int>(content.size()));
     root[at + 25] = flags;
     root[at + 32] = static_cast<char>(name.size());
     root.replace(at + 33, name.size(), name);
@@ -61,6 +62,7 @@ std::string isoSectors(int start, const std::string& file) {
   entry("\x01", 2);
   entry("ADIR", 2);
   entry(file + ";1", 0);
+  blocks[19].replace(0, content.size(), content);
   std::string sectors;
   for (const std::string& block : blocks) {
     std::string sector(kBytesPerFrame, '\0');
@@ -106,9 +108,10 @@ std::string makeDisc(const TempFolder& folder, const std::vector<int>& lengths, 
   return folder / "disc.cue";
 }
 
-std::string makeEnhancedDisc(const TempFolder& folder, const std::vector<int>& lengths, const std::string& file) {
+std::string makeEnhancedDisc(const TempFolder& folder, const std::vector<int>& lengths, const std::string& file,
+                             const std::string& content) {
   const int audio = total(lengths);
-  writeFile(folder / "disc.bin", frameBytes(kFirstFrame, audio) + isoSectors(audio, file));
+  writeFile(folder / "disc.bin", frameBytes(kFirstFrame, audio) + isoSectors(audio, file, content));
   const std::string data =
       "  TRACK " + padded(static_cast<long>(lengths.size()) + 1, 2) + " MODE1/2352\n    INDEX 01 " + cueTime(audio) + "\n";
   writeFile(folder / "disc.cue", "FILE \"disc.bin\" BINARY\n" + trackLines(lengths, 0) + data);

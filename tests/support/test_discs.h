@@ -36,8 +36,9 @@ std::string frameBytes(int first, int count);
 /// sound). Returns the sheet's path.
 std::string makeDisc(const TempFolder& folder, const std::vector<int>& lengths, int gap = 0);
 
-/// Audio tracks, then a data track whose root folder holds `file`.
-std::string makeEnhancedDisc(const TempFolder& folder, const std::vector<int>& lengths, const std::string& file);
+/// Audio tracks, then a data track whose root folder holds `file`, of at most 2048 bytes, and a folder that leads round to itself.
+std::string makeEnhancedDisc(const TempFolder& folder, const std::vector<int>& lengths, const std::string& file,
+                             const std::string& content = "");
 
 /// The same audio as makeDisc(), in a WAVE or FLAC file.
 std::string makeSoundDisc(const TempFolder& folder, const std::vector<int>& lengths, bool flac);

@@ -23,6 +23,8 @@ class DiscPlayer {
   virtual Toc toc() const = 0;  ///< empty without a disc
   virtual std::string firstEntry() const = 0;
   virtual SheetTexts texts() const = 0;
+  /// Of a disc that is an image: its path, else "".
+  virtual std::string sheet() const { return {}; }
   virtual bool soundless() const = 0;            ///< what plays is heard by nobody
   virtual std::string missingDrive() const = 0;  ///< the path where no drive is
 

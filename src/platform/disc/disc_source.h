@@ -27,6 +27,8 @@ class DiscSource {
   virtual SheetTexts texts() const { return {}; }
   /// The drive's path when there is nothing at it.
   virtual std::string missing() const { return {}; }
+  /// Of a disc that is an image: its path.
+  virtual std::string sheet() const { return {}; }
   /// What a person should know of the disc, as poll() found it; once, then "".
   virtual std::string takeNotice() { return {}; }
   /// Frames `frame` to `frame + count - 1` as interleaved samples; false when the drive fails.

@@ -56,11 +56,15 @@ std::unique_ptr<DiscImage> DiscImage::open(const std::string& cuePath, std::stri
   return disc;
 }
 
-std::string DiscImage::entryOfDisc() {
+int DiscImage::dataStart() const {
   const auto data = std::find_if(layout_.toc.tracks.begin(), layout_.toc.tracks.end(), [](const TocTrack& track) { return track.data; });
-  if (data == layout_.toc.tracks.end()) return "Track01.cda";
-  const std::string file =
-      firstRootFile(data->start - kFirstFrame, [this](int block, IsoBlock& out) { return readBlock(block, out.data()); });
+  return data == layout_.toc.tracks.end() ? -1 : data->start - kFirstFrame;
+}
+
+std::string DiscImage::entryOfDisc() {
+  const int start = dataStart();
+  if (start < 0) return "Track01.cda";
+  const std::string file = firstRootFile(start, [this](int block, IsoBlock& out) { return readBlock(block, out.data()); });
   return file.empty() && layout_.toc.hasAudio() ? "Track01.cda" : file;
 }
 
@@ -122,14 +126,19 @@ ImageDrive::ImageDrive(std::string folder, const std::string& disc, std::string 
     : folder_(std::move(folder)), memory_(std::move(memory)) {
   std::string why;
   if (!disc.empty()) {
-    disc_ = DiscImage::open(disc, why);
-    if (disc_) {
+    if (take(disc, why)) {
       remember(disc);
     } else {
       notice_ = refusalOf(disc, why);
     }
   }
   if (!disc_) takeRemembered();
+}
+
+bool ImageDrive::take(const std::string& sheet, std::string& why) {
+  disc_ = DiscImage::open(sheet, why);
+  sheet_ = sheet;
+  return disc_ != nullptr;
 }
 
 std::string rememberedImage(std::string_view bytes, const std::string& folder) {
@@ -142,8 +151,7 @@ void ImageDrive::takeRemembered() {
   const std::string last = bytes ? rememberedImage(*bytes, folder_) : "";
   if (last.empty()) return;
   std::string why;
-  disc_ = DiscImage::open(last, why);
-  if (!disc_ && notice_.empty()) notice_ = refusalOf(last, why);
+  if (!take(last, why) && notice_.empty()) notice_ = refusalOf(last, why);
 }
 
 /// False when the next process would not find the image: the disk is full.
@@ -155,6 +163,7 @@ std::string ImageDrive::accept(const std::string& imagePath) {
   std::string why;
   next_ = DiscImage::open(imagePath, why);
   if (!next_) return refusalOf(imagePath, why);
+  nextSheet_ = imagePath;
   // Another disc is played by another process, which has no other way to know it.
   if (remember(imagePath)) return {};
   next_.reset();
@@ -186,9 +195,8 @@ void ImageDrive::takeFirstSheet() {
   const std::string sheet = firstSheet();
   if (sheet.empty() || sheet == tried_) return;
   std::string why;
-  disc_ = DiscImage::open(sheet, why);
   tried_ = sheet;
-  if (!disc_ && notice_.empty()) notice_ = refusalOf(sheet, why);
+  if (!take(sheet, why) && notice_.empty()) notice_ = refusalOf(sheet, why);
 }
 
 DriveStatus ImageDrive::poll() {
@@ -225,6 +233,7 @@ void ImageDrive::closeTray() {
   open_ = false;
   if (!next_) return;
   disc_ = std::move(next_);
+  sheet_ = nextSheet_;
   fateTold_ = false;
 }
 

@@ -24,12 +24,15 @@ class DiscImage {
   const std::string& firstEntry() const { return firstEntry_; }
   const SheetTexts& texts() const { return texts_; }
   bool read(int frame, int count, int16_t* samples);
+  /// The first block of its data session, from the start of the disc; -1 where it has none.
+  int dataStart() const;
+  /// The 2048 bytes of one of its blocks.
+  bool readBlock(int block, unsigned char* bytes);
   /// What has become of a file of the image since the disc was put in; "" for nothing.
   std::string fate() const;
 
  private:
   bool readPiece(const Segment& segment, int frame, int count, int16_t* samples);
-  bool readBlock(int block, unsigned char* bytes);
   const Segment* segmentAt(int frame) const;
   std::string entryOfDisc();
 
@@ -54,6 +57,7 @@ class ImageDrive : public DiscSource {
   std::string firstEntry() const override;
   SheetTexts texts() const override;
   std::string missing() const override;
+  std::string sheet() const override { return disc_ && !open_ ? sheet_ : ""; }
   std::string takeNotice() override { return std::exchange(notice_, {}); }
   bool read(int frame, int count, int16_t* samples) override;
   void openTray() override;
@@ -63,6 +67,8 @@ class ImageDrive : public DiscSource {
  private:
   std::string firstSheet() const;
   void takeFirstSheet();
+  /// Puts an image in; false where it is refused.
+  bool take(const std::string& sheet, std::string& why);
   void takeRemembered();
   bool remember(const std::string& imagePath) const;
 
@@ -70,6 +76,8 @@ class ImageDrive : public DiscSource {
   std::string memory_;
   std::string notice_;
   std::string tried_;  ///< sheet of the folder that was refused, not to be tried each second
+  std::string sheet_;  ///< of the disc that is in
+  std::string nextSheet_;
   std::unique_ptr<DiscImage> disc_;
   std::unique_ptr<DiscImage> next_;  ///< accepted, for the tray's next closing
   UniqueFd lock_;

@@ -85,6 +85,11 @@ SheetTexts Player::texts() const {
   return texts_;
 }
 
+std::string Player::sheet() const {
+  const std::lock_guard lock(mutex_);
+  return sheet_;
+}
+
 bool Player::soundless() const {
   const std::lock_guard lock(mutex_);
   return output_ && output_->toNobody();

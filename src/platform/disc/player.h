@@ -41,6 +41,7 @@ class Player : public DiscPlayer, private SampleFeed {
   Toc toc() const override;
   std::string firstEntry() const override;
   SheetTexts texts() const override;
+  std::string sheet() const override;
   bool soundless() const override;
   /// What the last stream went through; "" before the first.
   std::string soundRoad() const;
@@ -163,6 +164,7 @@ class Player : public DiscPlayer, private SampleFeed {
   std::string entry_;
   SheetTexts texts_;
   std::string missing_;
+  std::string sheet_;
   bool failure_ = false;
 
   std::thread thread_;  ///< last: it runs on all of the above

@@ -87,9 +87,11 @@ void Player::lookAtDrive() {
   lastLook_ = SteadyClock::now();
   std::string notice = source_.takeNotice();
   std::string missing = source_.missing();
+  std::string sheet = source_.sheet();
   const std::lock_guard lock(mutex_);
   looked_ = true;
   missing_ = std::move(missing);
+  sheet_ = std::move(sheet);
   if (!notice.empty()) notice_ = std::move(notice);
   heldBack_ = heldBack_ && (status == DriveStatus::Disc || status == DriveStatus::NotReady);
   if (heldBack_) status = DriveStatus::NotReady;

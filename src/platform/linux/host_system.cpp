@@ -37,6 +37,8 @@ std::string HostSystem::configHome() { return xdgFolder("XDG_CONFIG_HOME", ".con
 
 std::string HostSystem::dataHome() { return xdgFolder("XDG_DATA_HOME", ".local/share"); }
 
+std::string HostSystem::discFolder() { return joinPath(xdgFolder("XDG_CACHE_HOME", ".cache"), "orvanta/disc"); }
+
 std::string HostSystem::systemDir() const { return joinPath(configHome(), "orvanta"); }
 
 std::string HostSystem::defaultDataDir() const { return joinPath(dataHome(), "orvanta"); }

@@ -16,6 +16,8 @@ class HostSystem : public System {
   /// $XDG_CONFIG_HOME and $XDG_DATA_HOME, or where they would be.
   static std::string configHome();
   static std::string dataHome();
+  /// Where the files of an image are copied to, to be started: in $XDG_CACHE_HOME.
+  static std::string discFolder();
   /// The demo disc of this installation.
   std::string demoFolder() const;
   int16_t platformId() const override { return 1; }

@@ -21,6 +21,8 @@ class Dialogs {
   /// Plain text; returns when the user has closed it.
   virtual void message(BoxStyle style, const std::string& title, const std::string& text) = 0;
   virtual bool askYesNo(BoxStyle style, const std::string& title, const std::string& text) = 0;
+  /// What may do harm: a warning that is answered with No unless the user says Yes to it.
+  virtual bool confirm(const std::string& title, const std::string& text) = 0;
   /// nullopt when cancelled, as for the file questions.
   virtual std::optional<std::string> askText(const std::string& title, const std::string& prompt, const std::string& proposed) = 0;
   virtual std::optional<std::string> askOpenFile(const FileQuestion& question) = 0;

@@ -8,6 +8,7 @@ class AuxVolume;
 class CdDevice;
 class Clock;
 class Dialogs;
+class DiscData;
 class DiscTray;
 class FactSource;
 class Files;
@@ -27,6 +28,7 @@ class Desktop;
 struct Ports {
   CdDevice& device;
   DiscTray& tray;
+  DiscData& discData;
   Clock& clock;
   Dialogs& dialogs;
   Files& files;

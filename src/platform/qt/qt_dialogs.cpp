@@ -71,6 +71,13 @@ bool QtDialogs::askYesNo(BoxStyle style, const std::string& title, const std::st
   return run(box) == QMessageBox::Yes;
 }
 
+bool QtDialogs::confirm(const std::string& title, const std::string& text) {
+  QMessageBox box(QMessageBox::Warning, toQt(title), toQt(text), QMessageBox::Yes | QMessageBox::No);
+  box.setTextFormat(Qt::PlainText);
+  box.setDefaultButton(QMessageBox::No);
+  return run(box) == QMessageBox::Yes;
+}
+
 std::optional<std::string> QtDialogs::askText(const std::string& title, const std::string& prompt, const std::string& proposed) {
   QInputDialog box;
   box.setWindowTitle(toQt(title));

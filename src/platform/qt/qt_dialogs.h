@@ -15,6 +15,7 @@ class QtDialogs : public Dialogs {
   QtDialogs(CoreGate& gate, Screen& screen) : gate_(gate), screen_(screen) {}
   void message(BoxStyle style, const std::string& title, const std::string& text) override;
   bool askYesNo(BoxStyle style, const std::string& title, const std::string& text) override;
+  bool confirm(const std::string& title, const std::string& text) override;
   std::optional<std::string> askText(const std::string& title, const std::string& prompt, const std::string& proposed) override;
   std::optional<std::string> askOpenFile(const FileQuestion& question) override;
   std::optional<std::string> askSaveFile(const FileQuestion& question) override;

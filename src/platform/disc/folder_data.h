@@ -1,0 +1,33 @@
+// The files of a disc under a folder of this machine: where the desktop has mounted it, or where they were copied to.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "platform/ports/disc_data.h"
+
+namespace orvanta {
+
+/// Where the desktop has mounted a device, by the text of /proc/self/mounts; `same` tells whether a source is that device. "" for
+/// nowhere.
+std::string mountPointIn(const std::string& mounts, const std::function<bool(const std::string& source)>& same);
+std::string mountPointOf(const std::string& device);
+
+class FolderData : public DiscData {
+ public:
+  /// `root` is asked each time: discs come and go.
+  explicit FolderData(std::function<std::string()> root) : root_(std::move(root)) {}
+
+  std::vector<std::string> rootFiles() override;
+  std::string find(const std::string& way) override;
+  std::string read(const std::string& way, size_t most) override;
+  std::string bring(const std::string& way) override;
+  std::string folder() override { return root_(); }
+  std::string wayOf(const std::string& path) override;
+
+ private:
+  std::function<std::string()> root_;
+};
+
+}  // namespace orvanta

@@ -1,0 +1,112 @@
+// autorun.inf, then the usual names, then the one program in the root, then the user.
+#include "web/enhanced_disc.h"
+
+#include <algorithm>
+#include <string_view>
+#include <vector>
+
+#include "base/text.h"
+#include "faceplate/actions.h"
+#include "platform/ports/dialogs.h"
+#include "platform/ports/disc_data.h"
+#include "platform/ports/processes.h"
+#include "platform/ports/screen.h"
+
+namespace orvanta {
+
+namespace {
+
+constexpr const char* kTitle = "Orvanta Enhanced CD Menu";
+constexpr size_t kAutorunBytes = 65536;  ///< more is none
+constexpr const char* kUsual[] = {"program.exe", "run.exe", "play.exe", "start.exe", "runme32.exe", "launch.exe"};
+
+}  // namespace
+
+std::string autorunFile(const std::string& text) {
+  for (const std::string& line : splitLines(withoutControls(text, true))) {
+    const std::string_view trimmed = trim(line);
+    if (!startsWithNoCase(trimmed, "OPEN=")) continue;
+    std::string way(trim(trimmed.substr(5)));
+    std::replace(way.begin(), way.end(), '\\', '/');
+    while (way.starts_with('/')) way.erase(0, 1);
+    return ("/" + way + "/").find("/../") == std::string::npos ? way : "";
+  }
+  return {};
+}
+
+std::string EnhancedDisc::ofAutorun() const {
+  const std::string list = ports_.discData.find("autorun.inf");
+  if (list.empty()) return {};
+  const std::string way = autorunFile(ports_.discData.read(list, kAutorunBytes));
+  return way.empty() ? "" : ports_.discData.find(way);
+}
+
+std::string EnhancedDisc::onlyProgram() const {
+  std::string only;
+  for (const std::string& name : ports_.discData.rootFiles()) {
+    if (!endsWithNoCase(name, ".exe")) continue;
+    if (!only.empty()) return {};
+    only = name;
+  }
+  return only;
+}
+
+std::string EnhancedDisc::startFile() const {
+  if (std::string way = ofAutorun(); !way.empty()) return way;
+  for (const char* name : kUsual) {
+    if (std::string way = ports_.discData.find(name); !way.empty()) return way;
+  }
+  return onlyProgram();
+}
+
+void EnhancedDisc::launchEnhancedCd() {
+  if (form_.Label14.caption.get() != "Enh-CD" || state_.disc.drawerOpen || busy_) return;
+  busy_ = true;
+  ports_.screen.setPointer(Pointer::Hourglass);
+  const std::string way = startFile();
+  ports_.screen.setPointer(Pointer::Normal);
+  const Start how = way.empty() ? Start::Impossible : start(way);
+  if (how == Start::Impossible) askForAnother(way);
+  if (how == Start::Started) giveWay();
+  busy_ = false;
+}
+
+EnhancedDisc::Start EnhancedDisc::start(const std::string& way) {
+  const std::string question = "The disc would like to start its program \"" + withoutControls(way) +
+                               "\".\n\nA program can do to your files whatever you can. Start it?";
+  if (!ports_.dialogs.confirm(kTitle, question)) return Start::Unwanted;
+  ports_.screen.setPointer(Pointer::Hourglass);
+  const std::string program = ports_.discData.bring(way);
+  ports_.screen.setPointer(Pointer::Normal);
+  ProcessRequest request{{program}, program.substr(0, program.rfind('/') + 1), WindowStyle::Normal};
+  request.detached = true;
+  const bool started = !program.empty() && ports_.processes.canStart(program) && ports_.processes.start(request) != 0;
+  return started ? Start::Started : Start::Impossible;
+}
+
+/// `failed`: could not be started here; "" where none was found.
+void EnhancedDisc::askForAnother(const std::string& failed) {
+  const std::string why =
+      failed.empty() ? "Enhanced CD Startup File Not Found!" : "\"" + failed + "\" could not be started on this system.";
+  if (!ports_.dialogs.askYesNo(BoxStyle::Question, kTitle, why + " Do you wish to search for the program file on the CD?")) return;
+  const std::string folder = ports_.discData.folder();
+  const auto file = ports_.dialogs.askOpenFile({"Find Enhanced CD Startup File...", folder, "", "All Executable Files (*)|*"});
+  if (!file) return;
+  const std::string way = ports_.discData.wayOf(*file);
+  if (way.empty()) {
+    ports_.dialogs.message(BoxStyle::Warning, kTitle, "The file " + *file + " does not lie on the disc.");
+    return;
+  }
+  const Start how = start(way);
+  if (how == Start::Started) giveWay();
+  if (how == Start::Impossible)
+    ports_.dialogs.message(BoxStyle::Warning, kTitle, "The file " + *file + " could not be started on this system.");
+}
+
+/// The disc is the other program's now.
+void EnhancedDisc::giveWay() {
+  actions_.run(Action::Stop, By::Program);
+  actions_.run(Action::Cont, By::Program);
+}
+
+}  // namespace orvanta

@@ -1,0 +1,90 @@
+// A disc's files: what is found stays on the disc, and nothing that is no plain file is touched.
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+
+#include "platform/disc/folder_data.h"
+#include "platform/disc/image_data.h"
+#include "tests/support/test_discs.h"
+#include "tests/support/transcript.h"
+#include "web/enhanced_disc.h"
+
+namespace orvanta::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+TEST(EnhancedDisc, TakesTheFirstOpenLineOfAutorun) {
+  expectAnswers("answers/autorun.txt", [](const std::string& text) { return autorunFile(text); });
+  EXPECT_EQ(autorunFile("[autorun]\nopen=" + std::string(1U << 20U, 'x')).size(), 1U << 20U) << "no line end";
+}
+
+TEST(FolderData, KeepsToTheDisc) {
+  const TempFolder outside;
+  writeFile(outside / "secret.exe", "x");
+  const TempFolder root;
+  fs::create_directories(root / "inner");
+  writeFile(root / "Start.EXE", "start");
+  writeFile(root / "inner/run.exe", "run");
+  fs::create_symlink("/bin/sh", root / "evil.exe");
+  fs::create_symlink(outside.path(), root / "out");
+  fs::create_symlink("Start.EXE", root / "good.exe");
+  ASSERT_EQ(::mkfifo((root / "autorun.inf").c_str(), 0600), 0);
+  std::string top = root.path();
+  FolderData data([&] { return top; });
+  EXPECT_EQ(data.rootFiles(), (std::vector<std::string>{"Start.EXE", "good.exe"}));
+  for (const auto& [way, found] : {std::pair{"start.exe", "Start.EXE"},
+                                   {"INNER/RUN.EXE", "inner/run.exe"},
+                                   {"good.exe", "Start.EXE"},
+                                   {"evil.exe", ""},
+                                   {"out/secret.exe", ""},
+                                   {"../../bin/sh", ""},
+                                   {"/bin/sh", ""},
+                                   {"autorun.inf", ""},
+                                   {"inner", ""},
+                                   {"gone.exe", ""},
+                                   {"", ""}}) {
+    EXPECT_EQ(data.find(way), found) << way;
+    EXPECT_EQ(data.bring(way), *found == '\0' ? "" : fs::canonical(root / found).string()) << way;
+  }
+  EXPECT_EQ(data.read("Start.EXE", 3), "sta");
+  EXPECT_EQ(data.read("autorun.inf", 9), "");
+  EXPECT_EQ(data.wayOf(root / "inner/../Start.EXE"), "Start.EXE");
+  EXPECT_EQ(data.wayOf(outside / "secret.exe"), "");
+  top.clear();
+  EXPECT_EQ(data.find("start.exe"), "") << "not mounted";
+  EXPECT_TRUE(data.rootFiles().empty());
+}
+
+TEST(FolderData, IsWhereTheDesktopHasMountedTheDrive) {
+  const std::string mounts = "proc /proc proc rw 0 0\n/dev/sr0 /media/My\\040Disc iso9660 ro 0 0\n/dev/sr1 /other iso9660 ro 0 0\n";
+  EXPECT_EQ(mountPointIn(mounts, [](const std::string& source) { return source == "/dev/sr0"; }), "/media/My Disc");
+  EXPECT_EQ(mountPointIn(mounts, [](const std::string& source) { return source == "proc"; }), "");
+  EXPECT_EQ(mountPointOf("/nowhere"), "");
+}
+
+TEST(ImageData, IsReadFromTheDataTrackAndCopiedOut) {
+  const TempFolder folder;
+  std::string sheet = makeEnhancedDisc(folder, {100}, "START.EXE", "#!/bin/sh\n");
+  ImageData data([&] { return sheet; }, folder / "store", [] {});
+  EXPECT_EQ(data.rootFiles(), std::vector<std::string>{"START.EXE"});
+  EXPECT_EQ(data.find("start.exe"), "START.EXE");
+  EXPECT_EQ(data.find("../START.EXE"), "");
+  EXPECT_EQ(data.read("START.EXE", 5), "#!/bi");
+  EXPECT_FALSE(fs::exists(folder / "store")) << "a look copies nothing";
+  const std::string path = data.bring("START.EXE");
+  ASSERT_EQ(path, fs::canonical(folder / "store/START.EXE").string());
+  std::ifstream file(path);
+  EXPECT_EQ(std::string(std::istreambuf_iterator<char>(file), {}), "#!/bin/sh\n");
+  EXPECT_NE(fs::status(path).permissions() & fs::perms::owner_exec, fs::perms::none);
+  EXPECT_EQ(data.wayOf(path), "START.EXE");
+  sheet.clear();
+  EXPECT_EQ(data.find("START.EXE"), "") << "the tray is open";
+  EXPECT_EQ(data.folder(), "");
+}
+
+}  // namespace
+}  // namespace orvanta::test

@@ -68,7 +68,7 @@ std::string Help::pathOf(const std::string& name) const {
 void Help::showText(const std::string& path) {
   const auto tell = [&](const std::string& text) { ports_.dialogs.message(BoxStyle::Warning, "Orvanta", text); };
   if (!ports_.files.exists(path)) return tell("The help text " + path + " is missing.");
-  std::vector<std::string> commands{ports_.system.programFor("text/plain")};
+  std::vector<std::string> commands{ports_.system.programFor({"text/plain"})};
   commands.insert(commands.end(), std::begin(kEditors), std::end(kEditors));
   for (const std::string& command : commands) {
     const auto arguments = withPath(splitCommand(command, ports_.files.exists(command)), path);

@@ -2,6 +2,7 @@
 #include "web/browser.h"
 
 #include <algorithm>
+#include <array>
 #include <string_view>
 
 #include "base/text.h"
@@ -23,14 +24,28 @@ constexpr std::string_view kCommon[] = {
     "opera",         "microsoft-edge", "epiphany", "falkon",           "konqueror",     "midori",      "netsurf",       "dillo",
 };
 
+const std::string kAnother = "\n\nAccess the Orvanta Setup Section to choose another one.";
+
 constexpr int kLook = 250;    ///< milliseconds
 constexpr int kTrial = 3000;  ///< one that ends within this time with an error has shown nothing
 
 }  // namespace
 
+bool takesAddress(const std::vector<std::string>& command) {
+  constexpr std::array<std::string_view, 7> kShells = {"sh", "bash", "dash", "zsh", "ksh", "fish", "busybox"};
+  if (command.empty() || command.front().empty()) return false;
+  const std::string_view file = std::string_view(command.front()).substr(command.front().rfind('/') + 1);
+  const bool shell = std::find(kShells.begin(), kShells.end(), file) != kShells.end();
+  return std::none_of(command.begin(), command.end(), [&](const std::string& word) {
+    const size_t at = word.find(kPlace);
+    const bool option = word.starts_with("--") && word.find('=') + 1 == at && at + kPlace.size() == word.size();
+    return (shell && word.starts_with("-c")) || (at != std::string::npos && word != kPlace && !option);
+  });
+}
+
 std::vector<std::string> browserArguments(std::vector<std::string> command, const std::string& address) {
+  if (!takesAddress(command)) return {};
   bool placed = false;
-  if (command.empty()) return command;
   for (auto each = command.begin() + 1; each != command.end();) {
     const size_t at = each->find(kPlace);
     if (at != std::string::npos) placed = true;
@@ -50,7 +65,7 @@ Browser::Browser(const WebPorts& ports, SharedState& state)
 
 bool Browser::there(const std::string& command) const {
   const auto arguments = splitCommand(command, ports_.files.exists(command));
-  return !arguments.empty() && !arguments.front().empty() && ports_.processes.canStart(arguments.front());
+  return takesAddress(arguments) && ports_.processes.canStart(arguments.front());
 }
 
 bool Browser::launch(const std::string& address) {
@@ -59,16 +74,16 @@ bool Browser::launch(const std::string& address) {
   // What was stored and has gone is the user's to replace.
   const std::string found = trim(path).empty() ? detected() : "";
   if (found.empty()) return ask() && start(address);
-  remember(found);
-  return start(address);
+  path = found;
+  const bool started = start(address);
+  // One that cannot be started is looked for anew the next time.
+  started ? remember(found) : path.clear();
+  return started;
 }
 
 std::string Browser::ofDesktop() const {
-  for (const char* type : {"text/html", "x-scheme-handler/http"}) {
-    const std::string command = ports_.system.programFor(type);
-    if (!command.empty() && there(command)) return command;
-  }
-  return {};
+  const std::string command = ports_.system.programFor({"text/html", "x-scheme-handler/http"});
+  return there(command) ? command : "";
 }
 
 std::string Browser::detected() const {
@@ -126,7 +141,7 @@ bool Browser::start(const std::string& address) {
     watch(id);
     return true;
   }
-  ports_.dialogs.message(BoxStyle::Warning, "Orvanta", "The Web Browser " + program + " could not be started.");
+  ports_.dialogs.message(BoxStyle::Warning, "Orvanta", "The Web Browser " + program + " could not be started." + kAnother);
   return false;
 }
 
@@ -145,7 +160,7 @@ void Browser::look() {
   const std::string& command = state_.settings.browserPath;
   ports_.dialogs.message(BoxStyle::Warning, "Orvanta",
                          "The Web Browser " + splitCommand(command, ports_.files.exists(command)).front() +
-                             " ended at once and may have shown nothing.\n\nAccess the Orvanta Setup Section to choose another one.");
+                             " ended at once and may have shown nothing." + kAnother);
 }
 
 }  // namespace orvanta

@@ -39,7 +39,12 @@ class Browser {
   int64_t until_ = 0;
 };
 
-/// A browser's command with an address in the place that it names, or behind it; without an address that place goes.
+/// False for a command that would have the address read as something else than one argument: in the middle of a word, as a
+/// shell's command line.
+bool takesAddress(const std::vector<std::string>& command);
+
+/// A browser's command with an address in the place that it names, or behind it; without an address that place goes. Empty for one
+/// that does not take it.
 std::vector<std::string> browserArguments(std::vector<std::string> command, const std::string& address);
 
 }  // namespace orvanta

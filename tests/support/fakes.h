@@ -197,8 +197,8 @@ class FakeSystem : public System {
   std::string windowsDir() const override { return "/programs"; }
   std::string defaultDataDir() const override { return "/usual"; }
   std::string mixerProgram() const override { return ""; }
-  std::string programFor(const std::string& type) const override {
-    return type == "text/html" ? browser : type == "text/plain" ? viewer : "";
+  std::string programFor(const std::vector<std::string>& types) const override {
+    return types.front() == "text/html" ? browser : types.front() == "text/plain" ? viewer : "";
   }
   int16_t platformId() const override { return 1; }
   std::vector<std::string> handedOn() const override { return arguments; }

@@ -54,6 +54,7 @@ TEST(Associations, AreReadFromTheDesktopsFiles) {
 }
 
 TEST(Associations, TakeTheFirstProgramThatCanBeHad) {
+  const std::vector<std::string> kPages = {"text/html", "x-scheme-handler/http"};
   const TempFolder home;
   std::filesystem::create_directories(home / "data/applications/own");
   const auto program = [&](const char* name, const char* command) {
@@ -66,14 +67,15 @@ TEST(Associations, TakeTheFirstProgramThatCanBeHad) {
     before[variable] = old != nullptr ? old : "";
     ::setenv(variable, (home / value).c_str(), 1);
   }
-  EXPECT_EQ(associatedCommand("text/html"), "");
+  EXPECT_EQ(associatedCommand(kPages), "");
   program("/cached.desktop", "cached");
-  writeFile(home / "data/applications/mimeinfo.cache", "[MIME Cache]\ntext/html=cached.desktop;\n");
-  EXPECT_EQ(associatedCommand("text/html"), "cached");
+  writeFile(home / "data/applications/mimeinfo.cache", "[MIME Cache]\ntext/html=editor.desktop;\nx-scheme-handler/http=cached.desktop;\n");
+  program("/editor.desktop", "editor");
+  EXPECT_EQ(associatedCommand(kPages), "cached");
   program("/own/browser.desktop", "chosen");
   std::filesystem::create_directories(home / "config");
   writeFile(home / "config/mimeapps.list", "[Default Applications]\ntext/html=gone.desktop;../../etc/x.desktop;own-browser.desktop\n");
-  EXPECT_EQ(associatedCommand("text/html"), "chosen") << "one that has gone is passed over";
+  EXPECT_EQ(associatedCommand(kPages), "chosen") << "one that has gone is passed over";
   for (const auto& [variable, value] : before) value.empty() ? ::unsetenv(variable.c_str()) : ::setenv(variable.c_str(), value.c_str(), 1);
 }
 

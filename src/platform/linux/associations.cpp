@@ -109,7 +109,10 @@ std::optional<std::string> joined(const std::vector<std::string>& arguments) {
   for (const std::string& each : arguments) {
     const std::string argument = withPlace(each);
     if (argument.empty()) continue;
-    if (command.empty() && argument.find("%u") != std::string::npos) return std::nullopt;
+    const size_t place = argument.find("%u");
+    // Within a longer word it could be read as something else than an address.
+    const bool option = argument.starts_with("--") && argument.ends_with("=%u") && argument.find('=') + 1 == place;
+    if (place != std::string::npos && (command.empty() || (argument != "%u" && !option))) return std::nullopt;
     if (argument.find('"') != std::string::npos || withoutControls(argument) != argument) return std::nullopt;
     const bool blank = argument.find(' ') != std::string::npos;
     command += (command.empty() ? "" : " ") + (blank ? '"' + argument + '"' : argument);
@@ -181,20 +184,25 @@ std::optional<std::string> commandOf(std::string_view desktopFile) {
   return arguments ? joined(*arguments) : std::nullopt;
 }
 
-std::string associatedCommand(const std::string& type) {
+std::string associatedCommand(const std::vector<std::string>& types) {
   const Folders folders = foldersOfDesktop();
-  // What was chosen, what was added, and what programs say of themselves.
   std::vector<std::string> choices;
-  const auto collect = [&](const std::string& folder, const std::string& name, std::string_view group) {
+  const auto collect = [&](const std::string& folder, const std::string& name, std::string_view group, const std::string& type) {
     const auto list = HostFiles().read(joinPath(folder, name));
     if (list) std::ranges::copy(choicesFor(*list, group, type), std::back_inserter(choices));
   };
-  for (const char* group : {"Default Applications", "Added Associations"}) {
-    for (const std::string& folder : folders.lists) {
-      for (const std::string& name : listNames()) collect(folder, name, group);
+  // What was chosen, what was added.
+  for (const std::string& type : types) {
+    for (const char* group : {"Default Applications", "Added Associations"}) {
+      for (const std::string& folder : folders.lists) {
+        for (const std::string& name : listNames()) collect(folder, name, group, type);
+      }
     }
   }
-  for (const std::string& folder : folders.programs) collect(folder, "mimeinfo.cache", "MIME Cache");
+  // What programs say of themselves: an editor says that it opens pages, of the web's scheme only browsers do.
+  for (auto type = types.rbegin(); type != types.rend(); ++type) {
+    for (const std::string& folder : folders.programs) collect(folder, "mimeinfo.cache", "MIME Cache", *type);
+  }
   for (const std::string& choice : choices) {
     const auto file = programFile(folders, choice);
     const auto command = file ? commandOf(*file) : std::nullopt;

@@ -15,7 +15,8 @@ std::vector<std::string> choicesFor(std::string_view list, std::string_view grou
 /// "%u" where an address goes. nullopt for a program that cannot be started so: hidden, for a terminal, or not understood.
 std::optional<std::string> commandOf(std::string_view desktopFile);
 
-/// By the user's lists, then the system's; "" when none of the chosen programs can be had.
-std::string associatedCommand(const std::string& type);
+/// What was chosen for one of these kinds, the first kind first, by the user's lists, then the system's; else what says of
+/// itself that it opens them, the last kind first. "" when none of these programs can be had.
+std::string associatedCommand(const std::vector<std::string>& types);
 
 }  // namespace orvanta

@@ -43,7 +43,7 @@ std::string HostSystem::systemDir() const { return joinPath(configHome(), "orvan
 
 std::string HostSystem::defaultDataDir() const { return joinPath(dataHome(), "orvanta"); }
 
-std::string HostSystem::programFor(const std::string& type) const { return associatedCommand(type); }
+std::string HostSystem::programFor(const std::vector<std::string>& types) const { return associatedCommand(types); }
 
 std::string HostSystem::windowsDir() const {
   std::error_code error;

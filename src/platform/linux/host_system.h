@@ -12,7 +12,7 @@ class HostSystem : public System {
   std::string windowsDir() const override;
   std::string defaultDataDir() const override;
   std::string mixerProgram() const override;
-  std::string programFor(const std::string& type) const override;
+  std::string programFor(const std::vector<std::string>& types) const override;
   /// $XDG_CONFIG_HOME and $XDG_DATA_HOME, or where they would be.
   static std::string configHome();
   static std::string dataHome();

@@ -25,9 +25,9 @@ class System {
   virtual std::string defaultDataDir() const = 0;
   /// The desktop's own mixer program; "" when none is installed.
   virtual std::string mixerProgram() const = 0;
-  /// What the desktop opens a kind of file with ("text/html"): a command, with "%u" where an address goes if that is not its
-  /// end; "" for nothing.
-  virtual std::string programFor(const std::string& type) const = 0;
+  /// What the desktop opens one of these kinds of files with ("text/html"), the most general kind first: a command, with "%u"
+  /// where an address goes if that is not its end; "" for nothing.
+  virtual std::string programFor(const std::vector<std::string>& types) const = 0;
   /// 1: interface sounds and centring in the free area are wanted.
   virtual int16_t platformId() const = 0;
   /// Arguments of the host (`--data`, `--drive`, `--audio`, `--scale`) to hand on at a restart.

@@ -33,7 +33,7 @@ bool Recorder::ready() {
   const auto arguments = request().arguments;
   const bool there = !arguments.empty() && ports_.processes.canStart(arguments.front());
   if (!there) tellNotStarted();
-  return there;
+  return there && !known_.runsAlready(arguments);
 }
 
 void Recorder::run() {

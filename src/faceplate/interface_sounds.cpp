@@ -46,7 +46,7 @@ void InterfaceSounds::runMixer() {
   const auto arguments = mixer();
   if (arguments.empty()) {
     ports_.dialogs.message(BoxStyle::Warning, "Orvanta", kNoMixer);
-  } else if (!known_.runsAlready(arguments.front())) {
+  } else if (!known_.runsAlready(arguments)) {
     start(arguments);
   }
 }
@@ -55,7 +55,7 @@ void InterfaceSounds::runMixerAtStart() {
   const auto arguments = mixer();
   if (arguments.empty()) {
     runMixer();
-  } else if (!known_.runs(arguments.front())) {
+  } else if (!known_.runs(arguments)) {
     start(arguments);
   }
 }

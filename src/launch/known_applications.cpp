@@ -48,6 +48,7 @@ constexpr Known kKnown[] = {
     {"PW2.EXE"},
     {"ORVHELP.EXE"},
     {"ORVLIB.EXE"},
+    {"ORVREC.EXE"},
     {"SNDVOL32.EXE"},
     {"SNDREC32.EXE", "Sound - Sound Recorder"},
     // The mixers that a desktop of today has.
@@ -77,24 +78,28 @@ const Known* knownAs(const std::string& file) {
 }  // namespace
 
 bool KnownApplications::checkAlreadyRunning(const std::string& launchName) {
-  return knownAs(fileOf(launchName)) != nullptr && runsAlready(launchName);
+  return knownAs(fileOf(launchName)) != nullptr && runsAlready(std::vector{launchName});
 }
 
-bool KnownApplications::runs(const std::string& launchName) const {
-  const std::string file = fileOf(launchName);
+bool KnownApplications::runs(const std::vector<std::string>& command) const {
+  const std::string file = fileOf(command.front());
+  if (command.size() > 1 && knownAs(file) == nullptr) return false;
   return !file.empty() && (processes_.nameRuns(file) || processes_.nameRuns(withoutExe(file)));
 }
 
-bool KnownApplications::runsAlready(const std::string& launchName) {
-  if (!runs(launchName)) return false;
-  const std::string file = fileOf(launchName);
+bool KnownApplications::runsAlready(const std::vector<std::string>& command) {
+  if (!runs(command)) return false;
+  tell(fileOf(command.front()));
+  return true;
+}
+
+void KnownApplications::tell(const std::string& file) {
   const Known* known = knownAs(file);
   const std::string shown = known != nullptr ? std::string(known->shown) : upper(file);
   dialogs_.message(BoxStyle::Warning, "Orvanta",
                    shown +
                        " Application Already Running! Use the Taskbar to Activate.\n\nPress Ctrl + Esc to access Taskbar, then click on " +
                        shown + ", or press Alt + Esc to change window displayed.");
-  return true;
 }
 
 }  // namespace orvanta

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 namespace orvanta {
 
@@ -14,12 +15,15 @@ class KnownApplications {
 
   /// True: the program is one of the table and runs for this user; the user was told, and it is not to be started again.
   bool checkAlreadyRunning(const std::string& launchName);
-  /// The same for a program that need not be in the table, as a mixer of the user's choice.
-  bool runsAlready(const std::string& launchName);
+  /// The same for a command of the user's choice, whose program need not be in the table. The first of several words may be
+  /// one that runs others, as a shell or a terminal does: it counts only if the table has it.
+  bool runsAlready(const std::vector<std::string>& command);
   /// Without a word to the user.
-  bool runs(const std::string& launchName) const;
+  bool runs(const std::vector<std::string>& command) const;
 
  private:
+  void tell(const std::string& file);
+
   Dialogs& dialogs_;
   const Processes& processes_;
 };

@@ -30,7 +30,8 @@ TEST(KnownApplications, AreNotStartedTwice) {
   FakeProcesses processes;
   processes.names = {"mine"};
   KnownApplications known(dialogs, processes);
-  EXPECT_TRUE(known.runsAlready("/opt/mine")) << "the user's own mixer";
+  EXPECT_TRUE(known.runsAlready({"/opt/mine"})) << "the user's own mixer";
+  EXPECT_FALSE(known.runsAlready({"mine", "mixer"})) << "may be a shell that runs others";
   EXPECT_EQ(dialogs.tape.size(), 1U);
 }
 

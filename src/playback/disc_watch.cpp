@@ -28,6 +28,8 @@ void DiscWatch::tick() {
     // Cleared first: the timer must not find it again while the setup program is open.
     state_.process.setupWanted = false;
     upward_.runSetup();
+    // Nor again for a wish that came meanwhile.
+    state_.process.setupWanted = false;
   }
   on_.answers.take();
   on_.modes.introTick();

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "platform/qt/palette.h"
+#include "platform/qt/picture_file.h"
 
 namespace orvanta {
 
@@ -77,7 +78,7 @@ bool ownPicture(Art& art, bool round) {
   if (image == nullptr || image->picture.get().empty()) return false;
   const std::string key = "file " + image->picture.get();
   const QImage* picture = art.cache.find(key);
-  if (picture == nullptr) picture = &art.cache.keep(key, QImage(QString::fromStdString(image->picture)));
+  if (picture == nullptr) picture = &art.cache.keep(key, QImage(pictureFile(image->picture)));
   if (picture->isNull()) return false;
   art.painter.setRenderHint(QPainter::SmoothPixmapTransform);
   const QRectF area(0, 0, art.w, art.h);

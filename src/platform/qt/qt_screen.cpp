@@ -8,6 +8,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "platform/qt/picture_file.h"
+
 namespace orvanta {
 
 namespace {
@@ -40,7 +42,7 @@ int QtScreen::textWidthTwips(const std::string& text, const std::string& family,
 }
 
 PictureSize QtScreen::pictureSize(const std::string& path) const {
-  const QSize size = QImageReader(QString::fromStdString(path)).size();
+  const QSize size = QImageReader(pictureFile(path)).size();
   return size.isValid() ? PictureSize{scale_.twips(size.width()), scale_.twips(size.height())} : PictureSize{};
 }
 

@@ -123,10 +123,12 @@ void Wallpaper::tile() {
   }
 }
 
-/// A click on it brings the deck to the front.
 void Wallpaper::activate() {
   if (state_.settings.wallpaperOption >= kFirst && deck_.loaded() && !deck_.minimised) deck_.show(ports_.desktop);
 }
+
+/// Its window takes no focus, so that a click does not activate it; the deck comes to the front all the same.
+void Wallpaper::mouseDown(forms::Control* /*control*/, const forms::Mouse& /*mouse*/) { activate(); }
 
 void Wallpaper::closeAsked() { takeAway(); }
 

@@ -29,6 +29,7 @@ class Wallpaper : public forms::FormEvents {
 
   void load() override;
   void activate() override;
+  void mouseDown(forms::Control* control, const forms::Mouse& mouse) override;
   void closeAsked() override;
 
  private:

@@ -25,6 +25,7 @@
 #include <QTimer>
 #include <QTreeWidget>
 #include <QWheelEvent>
+#include <algorithm>
 
 #include "platform/forms/design.h"
 #include "platform/qt/data_window.h"
@@ -178,6 +179,30 @@ TEST(DataWindow, GoesWhileABoxStandsOverIt) {
     EXPECT_FALSE(boxes.open());
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_TRUE(view.isNull());
+  }
+}
+
+TEST(Boxes, StandOverTheMiddleOfTheWindowHoweverLongTheirText) {
+  Windows rig;
+  QtDialogs boxes(rig.gate, rig.screen);
+  const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+  for (const QPoint at : {screen.center(), screen.bottomRight()}) {
+    QWidget over;
+    over.setGeometry(at.x() - 100, at.y() - 60, 100, 60);
+    over.show();
+    over.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&over));
+    QRect place;
+    // The second of two turns of the box's loop: it is where it stays.
+    const auto look = [&] {
+      place = QApplication::activeModalWidget()->frameGeometry();
+      QApplication::activeModalWidget()->close();
+    };
+    QTimer::singleShot(0, [&] { QTimer::singleShot(0, look); });
+    boxes.message(BoxStyle::Information, "Orvanta", QStringLiteral("many words ").repeated(60).toStdString());
+    EXPECT_TRUE(screen.contains(place)) << place.x() << ',' << place.y() << ' ' << place.width() << 'x' << place.height();
+    const int middle = std::min(over.frameGeometry().center().x(), screen.right() - place.width() / 2);
+    EXPECT_NEAR(place.center().x(), middle, 2);
   }
 }
 

@@ -6,7 +6,10 @@
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QMessageBox>
+#include <QScreen>
+#include <QTimer>
 #include <QWindow>
+#include <algorithm>
 
 #include "platform/ports/screen.h"
 #include "platform/qt/to_qt.h"
@@ -37,13 +40,25 @@ QString filterOf(const std::string& filter) {
   return filters.join(QStringLiteral(";;"));
 }
 
+/// As near as the screen lets it.
+void centre(QDialog& box, QPoint middle, const QRect& screen) {
+  QRect place = box.frameGeometry();
+  place.moveCenter(middle);
+  box.move(std::max(screen.left(), std::min(place.left(), screen.right() + 1 - place.width())),
+           std::max(screen.top(), std::min(place.top(), screen.bottom() + 1 - place.height())));
+}
+
 /// Over the middle of the window in use, and kept above it by the window manager, which forgets a window that goes.
 void putOver(QDialog& box, const QWidget* window) {
   if (window == nullptr || !window->isVisible()) return;
   box.adjustSize();
   box.winId();
   if (box.windowHandle() != nullptr) box.windowHandle()->setTransientParent(window->windowHandle());
-  box.move(window->frameGeometry().center() - box.rect().center());
+  const QPoint middle = window->frameGeometry().center();
+  const QRect screen = window->screen()->availableGeometry();
+  centre(box, middle, screen);
+  // A message breaks its lines when it is shown, and is as wide as a long text until then.
+  QTimer::singleShot(0, &box, [&box, middle, screen] { centre(box, middle, screen); });
 }
 
 }  // namespace

@@ -143,8 +143,15 @@ void TrayControl::showPicture() {
 
 // ---- what the user does with it
 
+/// Whoever is not heard because a box stands gets to see it.
+bool TrayControl::passedOver() {
+  if (!ports_.dialogs.open()) return busy_;
+  ports_.dialogs.raiseOpen();
+  return true;
+}
+
 void TrayControl::clicked() {
-  if (busy_ || ports_.dialogs.open()) return;
+  if (passedOver()) return;
   {
     const For busy(busy_, true);
     iconState_ = (iconState_ + 1) % kPictures;
@@ -155,7 +162,7 @@ void TrayControl::clicked() {
 }
 
 void TrayControl::chosen(const std::string& item) {
-  if (busy_ || ports_.dialogs.open()) return;
+  if (passedOver()) return;
   const auto all = rows();
   const auto row = std::find_if(all.begin(), all.end(), [&](const Row& each) { return each.name == item; });
   if (row == all.end() || row->run == nullptr) return;

@@ -38,6 +38,7 @@ class TrayControl : public TrayEvents {
   struct Row;
   static std::span<const Row> rows();
   TrayIcon icon() const;
+  bool passedOver();
   void follow();
   void showPicture();
   void act(int picture);

@@ -110,6 +110,7 @@ class FakeDialogs : public Dialogs {
     return next();
   }
   bool open() const override { return open_; }
+  void raiseOpen() override { tape.emplace_back("raised"); }
 
   Tape tape;
   bool yes = false;

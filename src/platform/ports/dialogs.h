@@ -29,6 +29,8 @@ class Dialogs {
   virtual std::optional<std::string> askSaveFile(const FileQuestion& question) = 0;
   /// One of the boxes stands: a restart and an exit by program wait.
   virtual bool open() const = 0;
+  /// Brings the box that stands before all other windows.
+  virtual void raiseOpen() = 0;
 };
 
 }  // namespace orvanta

@@ -111,6 +111,13 @@ std::optional<std::string> QtDialogs::askFile(const FileQuestion& question, bool
   return chosen ? std::optional(dialog.selectedFiles().front().toStdString()) : std::nullopt;
 }
 
+void QtDialogs::raiseOpen() {
+  QWidget* box = QApplication::activeModalWidget();
+  if (box == nullptr) return;
+  box->raise();
+  box->activateWindow();
+}
+
 std::optional<std::string> QtDialogs::askOpenFile(const FileQuestion& question) { return askFile(question, false); }
 std::optional<std::string> QtDialogs::askSaveFile(const FileQuestion& question) { return askFile(question, true); }
 

@@ -20,6 +20,7 @@ class QtDialogs : public Dialogs {
   std::optional<std::string> askOpenFile(const FileQuestion& question) override;
   std::optional<std::string> askSaveFile(const FileQuestion& question) override;
   bool open() const override { return open_ > 0; }
+  void raiseOpen() override;
 
  private:
   /// Shows the box over the window in use and waits for its end.

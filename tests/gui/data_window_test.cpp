@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <QAccessible>
+#include <QAction>
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
@@ -11,6 +12,7 @@
 #include <QInputMethodEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPointer>
@@ -31,6 +33,7 @@
 #include "platform/qt/data_window.h"
 #include "platform/qt/late_printer.h"
 #include "platform/qt/qt_dialogs.h"
+#include "platform/qt/qt_menus.h"
 #include "platform/qt/qt_printer.h"
 #include "platform/qt/row_list.h"
 #include "tests/gui/deck.h"
@@ -204,6 +207,27 @@ TEST(Boxes, StandOverTheMiddleOfTheWindowHoweverLongTheirText) {
     const int middle = std::min(over.frameGeometry().center().x(), screen.right() - place.width() / 2);
     EXPECT_NEAR(place.center().x(), middle, 2);
   }
+}
+
+/// A desktop that shows a menu itself names the chosen item by a number that goes with its action.
+TEST(Menus, KeepTheirActionsWhileTheirLooksChange) {
+  const auto item = [](const char* name, const std::vector<MenuItem>& items = {}) {
+    return MenuItem{name, name, true, false, true, items, false};
+  };
+  MenuItem tree = item("", {item("play"), item(""), item("more", {item("stop")})});
+  QMenu menu;
+  updateMenu(menu, tree);
+  const auto actions = menu.actions();
+  const QAction* stop = actions[2]->menu()->actions()[0];
+  tree.items[0].caption = "Play on";
+  tree.items[0].checked = tree.items[2].items[0].checked = true;
+  updateMenu(menu, tree);
+  EXPECT_EQ(menu.actions(), actions);
+  EXPECT_TRUE(actions[0]->isChecked() && actions[0]->text() == QStringLiteral("Play on"));
+  EXPECT_TRUE(actions[2]->menu()->actions()[0] == stop && stop->isChecked());
+  tree.items[0].name = "pause";
+  updateMenu(menu, tree);
+  EXPECT_EQ(menu.actions()[0]->data().toString(), QStringLiteral("pause"));
 }
 
 TEST(DataWindow, FitsTheScreenAtAnyScale) {

@@ -38,7 +38,7 @@ class Tray {
   virtual bool change(const TrayIcon& icon) = 0;
   /// False: it cannot be taken away. Nothing is told afterwards.
   virtual bool remove() = 0;
-  /// The icon's menu is open.
+  /// The icon's menu is open, as far as the desktop tells.
   virtual bool menuOpen() const = 0;
 };
 

@@ -8,6 +8,7 @@
 #include <QMenu>
 #include <QTimer>
 #include <QWindow>
+#include <algorithm>
 
 #include "platform/ports/screen.h"
 #include "platform/qt/to_qt.h"
@@ -15,6 +16,14 @@
 namespace orvanta {
 
 namespace {
+
+void setLooks(QAction& action, const MenuItem& item) {
+  action.setText(toQt(item.caption));
+  action.setEnabled(item.enabled);
+  action.setVisible(item.shown);
+  action.setCheckable(item.checked);
+  action.setChecked(item.checked);
+}
 
 void addItem(QMenu& menu, const MenuItem& item) {
   if (item.caption.empty()) {
@@ -30,10 +39,12 @@ void addItem(QMenu& menu, const MenuItem& item) {
     action = part->menuAction();
   }
   action->setData(toQt(item.name));
-  action->setEnabled(item.enabled);
-  action->setVisible(item.shown);
-  action->setCheckable(item.checked);
-  action->setChecked(item.checked);
+  setLooks(*action, item);
+}
+
+bool standsFor(const QAction& action, const MenuItem& item) {
+  if (item.caption.empty() || action.isSeparator()) return item.caption.empty() && action.isSeparator();
+  return action.data().toString() == toQt(item.name) && (action.menu() == nullptr) == item.items.empty();
 }
 
 /// Over the window in use where a key asked, or a press that the mouse did not make.
@@ -56,6 +67,21 @@ void fillMenu(QMenu& menu, const MenuItem& item) {
   menu.clear();
   qDeleteAll(menu.findChildren<QMenu*>(QString(), Qt::FindDirectChildrenOnly));
   for (const MenuItem& each : item.items) addItem(menu, each);
+}
+
+void updateMenu(QMenu& menu, const MenuItem& item) {
+  const auto actions = menu.actions();
+  if (!std::equal(actions.begin(), actions.end(), item.items.begin(), item.items.end(),
+                  [](const QAction* action, const MenuItem& each) { return standsFor(*action, each); })) {
+    fillMenu(menu, item);
+    return;
+  }
+  for (qsizetype i = 0; i < actions.size(); ++i) {
+    const MenuItem& each = item.items[static_cast<size_t>(i)];
+    if (each.caption.empty()) continue;
+    setLooks(*actions[i], each);
+    if (actions[i]->menu() != nullptr) updateMenu(*actions[i]->menu(), each);
+  }
 }
 
 std::string QtMenus::popUp(const MenuItem& item, bool byKey) {

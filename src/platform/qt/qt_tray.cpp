@@ -48,6 +48,9 @@ QtTray::QtTray(CoreGate& gate) : gate_(gate) {
 
 QtTray::~QtTray() = default;
 
+/// A menu that the desktop shows itself may be opened without a word of its end, so that one does not count.
+bool QtTray::menuOpen() const { return menu_ != nullptr && menu_->isVisible(); }
+
 bool QtTray::available() const { return QSystemTrayIcon::isSystemTrayAvailable(); }
 
 template <class Call>
@@ -60,12 +63,8 @@ void QtTray::later(Call call) {
 bool QtTray::add(const TrayIcon& icon, TrayEvents& events) {
   if (icon_ != nullptr || !available()) return false;
   menu_ = std::make_unique<QMenu>();
-  QObject::connect(menu_.get(), &QMenu::aboutToShow, &watch_, [this] { menuOpen_ = true; });
-  QObject::connect(menu_.get(), &QMenu::aboutToHide, &watch_, [this] {
-    menuOpen_ = false;
-    QTimer::singleShot(0, menu_.get(), [this] { showMenu(); });
-  });
   QObject::connect(menu_.get(), &QMenu::triggered, &watch_, [this](const QAction* action) {
+    showMenu();  // Qt has turned the item's mark, which tells the deck's state
     later([item = action->data().toString().toStdString()](TrayEvents& to) { to.chosen(item); });
   });
   icon_ = std::make_unique<QSystemTrayIcon>();
@@ -94,15 +93,14 @@ bool QtTray::change(const TrayIcon& icon) {
   const TrayIcon before = std::exchange(shown_, icon);
   if (icon_->icon().isNull() || before.picture != icon.picture) icon_->setIcon(pictureOf(icon.picture));
   if (before.tip != icon.tip) icon_->setToolTip(tipOf(icon.tip));
-  // An open menu stays as it was opened.
-  if (before.menu != icon.menu && !menuOpen_) showMenu();
+  if (before.menu != icon.menu) showMenu();
   return true;
 }
 
 void QtTray::showMenu() {
   MenuItem menu = shown_.menu;
   for (MenuItem& item : menu.items) item.enabled = true;
-  fillMenu(*menu_, menu);
+  updateMenu(*menu_, menu);
   const auto actions = menu_->actions();
   for (qsizetype i = 0; i < actions.size() && i < static_cast<qsizetype>(menu.items.size()); ++i) {
     if (menu.items[static_cast<size_t>(i)].isDefault) menu_->setDefaultAction(actions[i]);
@@ -115,7 +113,6 @@ bool QtTray::remove() {
   notifiers_.reset();
   icon_.reset();
   menu_.reset();
-  menuOpen_ = false;
   return true;
 }
 

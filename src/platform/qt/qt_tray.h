@@ -22,7 +22,7 @@ class QtTray : public Tray {
   bool add(const TrayIcon& icon, TrayEvents& events) override;
   bool change(const TrayIcon& icon) override;
   bool remove() override;
-  bool menuOpen() const override { return menuOpen_; }
+  bool menuOpen() const override;
 
  private:
   void watch();
@@ -41,7 +41,6 @@ class QtTray : public Tray {
   bool docked_ = false;  ///< an X tray takes its window in
   int looks_ = 0;        ///< at an icon that no tray has put on the screen yet
   bool seen_ = false;    ///< one has
-  bool menuOpen_ = false;
 };
 
 }  // namespace orvanta

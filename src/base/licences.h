@@ -16,7 +16,7 @@ inline constexpr Licence kLicences[] = {
     {"Orvanta LX", "", "MIT licence", "https://opensource.org/license/mit"},
     {"Qt 6", "linked dynamically", "LGPL-3.0", "https://www.gnu.org/licenses/lgpl-3.0.html"},
     {"libxcb", "linked dynamically", "MIT licence", "https://opensource.org/license/mit"},
-    {"libsndfile", "linked dynamically", "LGPL-2.1 or later", "https://www.gnu.org/licenses/old-licenses/lgpl-2.1.html"},
+    {"libsndfile", "loaded", "LGPL-2.1 or later", "https://www.gnu.org/licenses/old-licenses/lgpl-2.1.html"},
     {"libpulse", "loaded", "LGPL-2.1 or later", "https://www.gnu.org/licenses/old-licenses/lgpl-2.1.html"},
     {"libcubeb", "", "ISC licence", "https://opensource.org/license/isc-license-txt"},
     {"DSEG7 Classic", "embedded font", "SIL Open Font Licence 1.1", "https://openfontlicense.org"},

@@ -63,6 +63,7 @@ void EnhancedDisc::launchEnhancedCd() {
   if (form_.Label14.caption.get() != "Enh-CD" || state_.disc.drawerOpen || busy_) return;
   busy_ = true;
   ports_.screen.setPointer(Pointer::Hourglass);
+  disc_ = ports_.discData.disc();
   const std::string way = startFile();
   ports_.screen.setPointer(Pointer::Normal);
   const Start how = way.empty() ? Start::Impossible : start(way);
@@ -74,22 +75,34 @@ void EnhancedDisc::launchEnhancedCd() {
 EnhancedDisc::Start EnhancedDisc::start(const std::string& way) {
   const std::string question = "The disc would like to start its program \"" + withoutControls(way) +
                                "\".\n\nA program can do to your files whatever you can. Start it?";
-  if (!ports_.dialogs.confirm(kTitle, question)) return Start::Unwanted;
+  if (!ports_.dialogs.confirm(kTitle, question) || !discStays()) return Start::Unwanted;
   ports_.screen.setPointer(Pointer::Hourglass);
   const std::string program = ports_.discData.bring(way);
   ports_.screen.setPointer(Pointer::Normal);
+  if (!discStays()) return Start::Unwanted;
   ProcessRequest request{{program}, program.substr(0, program.rfind('/') + 1), WindowStyle::Normal};
   request.detached = true;
   const bool started = !program.empty() && ports_.processes.canStart(program) && ports_.processes.start(request) != 0;
   return started ? Start::Started : Start::Impossible;
 }
 
+/// A yes is one to the disc that was asked about.
+bool EnhancedDisc::discStays() const { return !state_.disc.drawerOpen && ports_.discData.disc() == disc_; }
+
 /// `failed`: could not be started here; "" where none was found.
 void EnhancedDisc::askForAnother(const std::string& failed) {
   const std::string why =
       failed.empty() ? "Enhanced CD Startup File Not Found!" : "\"" + failed + "\" could not be started on this system.";
   if (!ports_.dialogs.askYesNo(BoxStyle::Question, kTitle, why + " Do you wish to search for the program file on the CD?")) return;
-  const std::string folder = ports_.discData.folder();
+  ports_.screen.setPointer(Pointer::Hourglass);
+  const std::string folder = discStays() ? ports_.discData.folder() : "";
+  ports_.screen.setPointer(Pointer::Normal);
+  if (!discStays()) return;
+  if (folder.empty()) {
+    ports_.dialogs.message(BoxStyle::Warning, kTitle,
+                           "The files of the disc cannot be reached: it is damaged, not mounted, or there is no room for a copy.");
+    return;
+  }
   const auto file = ports_.dialogs.askOpenFile({"Find Enhanced CD Startup File...", folder, "", "All Executable Files (*)|*"});
   if (!file) return;
   const std::string way = ports_.discData.wayOf(*file);

@@ -24,6 +24,7 @@ class EnhancedDisc {
   std::string startFile() const;
   std::string ofAutorun() const;
   std::string onlyProgram() const;
+  bool discStays() const;
   /// Asks, naming the file.
   Start start(const std::string& way);
   void askForAnother(const std::string& failed);
@@ -33,6 +34,7 @@ class EnhancedDisc {
   Actions& actions_;
   const CDForm& form_;
   const SharedState& state_;
+  std::string disc_;   ///< that it is about
   bool busy_ = false;  ///< one of its boxes stands
 };
 

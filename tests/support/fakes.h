@@ -324,6 +324,7 @@ class FakeMenus : public Menus {
 /// A disc that is mounted at "/mnt", its files by their way in upper case.
 class FakeDiscData : public DiscData {
  public:
+  std::string disc() override { return "disc"; }
   std::vector<std::string> rootFiles() override {
     std::vector<std::string> names;
     for (const auto& [way, bytes] : files) {

@@ -67,6 +67,14 @@ std::string mountPointOf(const std::string& device) {
   });
 }
 
+/// Another disc in the same drive is a file system of its own, made at another time.
+std::string FolderData::disc() {
+  const std::string root = root_();
+  struct stat info {};
+  if (root.empty() || ::stat(root.c_str(), &info) != 0) return {};
+  return root + ' ' + std::to_string(info.st_dev) + ' ' + std::to_string(info.st_ino) + ' ' + std::to_string(info.st_mtime);
+}
+
 std::vector<std::string> FolderData::rootFiles() {
   std::vector<std::string> names;
   const std::string root = root_();

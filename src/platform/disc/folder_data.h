@@ -19,6 +19,7 @@ class FolderData : public DiscData {
   /// `root` is asked each time: discs come and go.
   explicit FolderData(std::function<std::string()> root) : root_(std::move(root)) {}
 
+  std::string disc() override;
   std::vector<std::string> rootFiles() override;
   std::string find(const std::string& way) override;
   std::string read(const std::string& way, size_t most) override;

@@ -1,13 +1,18 @@
 // An image's data track as files. The player has the image open too; this is a reader of its own.
 #include "platform/disc/image_data.h"
 
+#include <signal.h>
+#include <unistd.h>
+
 #include <algorithm>
+#include <cerrno>
 #include <filesystem>
 #include <fstream>
 #include <numeric>
 
 #include "base/text.h"
 #include "platform/disc/image_drive.h"
+#include "platform/linux/host_files.h"
 
 namespace orvanta {
 
@@ -20,8 +25,12 @@ constexpr int kBlocksAtATime = 512;                 ///< copied between two yiel
 
 }  // namespace
 
-ImageData::ImageData(std::function<std::string()> sheet, std::string store, std::function<void()> yield)
-    : sheet_(std::move(sheet)), store_(std::move(store)), yield_(std::move(yield)), copied_([this] { return store_; }) {}
+ImageData::ImageData(std::function<std::string()> sheet, std::string stores, std::function<void()> yield)
+    : sheet_(std::move(sheet)),
+      stores_(std::move(stores)),
+      store_(joinPath(stores_, std::to_string(::getpid()))),
+      yield_(std::move(yield)),
+      copied_([this] { return store_; }) {}
 
 ImageData::~ImageData() = default;
 
@@ -79,18 +88,34 @@ bool ImageData::copyOut() {
   if (stored_ == opened_) return true;
   const std::string sheet = opened_;
   stored_.clear();
-  const int64_t bytes =
-      std::accumulate(files_.begin(), files_.end(), int64_t{0}, [](int64_t sum, const IsoFile& file) { return sum + file.size; });
+  clearStores();
+  if (copyAll(sheet)) {
+    stored_ = sheet;
+    return true;
+  }
+  // What was broken off would only fill the disk.
   std::error_code error;
   fs::remove_all(store_, error);
-  if (bytes > kMostBytes || files_.empty() || !fs::create_directories(store_, error)) return false;
-  fs::permissions(store_, fs::perms::owner_all, error);
-  for (const IsoFile& file : std::vector<IsoFile>(files_)) {
-    // Another disc came while events were delivered.
-    if (!copy(file) || opened_ != sheet) return false;
+  return false;
+}
+
+/// Ours, and those of decks that have ended.
+void ImageData::clearStores() const {
+  std::error_code error;
+  for (const auto& entry : fs::directory_iterator(stores_, error)) {
+    const auto owner = static_cast<pid_t>(leadingNumber(entry.path().filename().string()));
+    if (owner == ::getpid() || owner <= 0 || (::kill(owner, 0) != 0 && errno == ESRCH)) fs::remove_all(entry.path(), error);
   }
-  stored_ = sheet;
-  return true;
+}
+
+/// False, too, when the disc was taken out, or another came, while events were delivered.
+bool ImageData::copyAll(const std::string& sheet) {
+  const int64_t bytes =
+      std::accumulate(files_.begin(), files_.end(), int64_t{0}, [](int64_t sum, const IsoFile& file) { return sum + file.size; });
+  // For this user alone, each folder of the way.
+  if (bytes > kMostBytes || files_.empty() || !HostFiles().makeFolder(store_)) return false;
+  const std::vector<IsoFile> files = files_;
+  return std::all_of(files.begin(), files.end(), [&](const IsoFile& file) { return copy(file) && sheet_() == sheet; });
 }
 
 /// Executable: which of a disc's files are programs, its names alone tell.
@@ -102,8 +127,11 @@ bool ImageData::copy(const IsoFile& file) {
   IsoBlock block{};
   int64_t left = file.size;
   for (int i = 0; left > 0; ++i) {
-    if (i % kBlocksAtATime == kBlocksAtATime - 1) yield_();
-    if (!image_ || !readBlock(file.block + i, block)) return false;
+    if (++blocks_ % kBlocksAtATime == 0) {
+      yield_();
+      if (sheet_() != opened_) return false;
+    }
+    if (!out || !image_ || !readBlock(file.block + i, block)) return false;
     const int64_t piece = std::min<int64_t>(left, kIsoBlock);
     out.write(reinterpret_cast<const char*>(block.data()), piece);
     left -= piece;

@@ -10,6 +10,8 @@ namespace orvanta {
 class DiscData {
  public:
   virtual ~DiscData() = default;
+  /// Tells the disc that lies there now from any other that may lie there later; "" for none.
+  virtual std::string disc() = 0;
   /// Names of the files in its root, sorted; none where it holds none, or nobody has mounted it.
   virtual std::vector<std::string> rootFiles() = 0;
   /// A regular file of the disc by its way from the root, "/" between names, in any letter case: the way as it is written

@@ -160,9 +160,6 @@ bool StripEvents::sliderKey(const forms::KeyPress& key) {
   return (up || down) && on_.sliders.step(*focus, up ? 1 : -1);
 }
 
-void StripEvents::dragged() {
-  on_.place.pullIn();
-  on_.place.save();
-}
+void StripEvents::dragged() { on_.place.moved(); }
 
 }  // namespace orvanta

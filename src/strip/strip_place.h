@@ -20,11 +20,15 @@ class StripPlace {
 
   /// To the stored place, or on the faceplate's screen to the usual one; whole on the screen.
   void restore();
-  /// To the usual place of the screen that it is on.
+  /// To the usual place of the screen that it is on, which is kept.
   void reset();
+  /// The user put it elsewhere: whole on the screen, and kept.
+  void moved();
   void pullIn() { place_.pullIn(); }
-  /// Nothing while it lives in the tray: it stands nowhere then.
-  void save() const;
+  /// Grown: pulled up from the lower edge, for as long as it stays so and where it is.
+  void unfolded();
+  void folded();
+  void save() const { place_.save(DataFile::StripPlace); }
   bool wantsTray() const { return state_.settings.minToTray == kOn || state_.display.trayWanted; }
 
  private:
@@ -36,6 +40,7 @@ class StripPlace {
   VolCntl& form_;
   const CDForm& faceplate_;
   const SharedState& state_;
+  int pulled_ = 0;  ///< twips that unfolding moved it up
 };
 
 }  // namespace orvanta

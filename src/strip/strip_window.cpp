@@ -76,7 +76,10 @@ void StripWindow::takeUp() {
   const int top = form_.top;
   form_.putDesignBack();
   lookAnew();
-  if (unfolded) unfold();
+  if (unfolded) {
+    on_.layout.unfold();
+    on_.mirror.follow();
+  }
   form_.left = left;
   form_.top = top;
   on_.place.pullIn();
@@ -97,7 +100,11 @@ void StripWindow::restore() {
 void StripWindow::unload() {
   state_.display.popupOpen = false;
   on_.sliders.letGo();
-  if (!form_.parked) on_.place.save();
+  if (!form_.parked) {
+    // It comes again folded, where it stands so.
+    fold();
+    on_.place.save();
+  }
   if (!state_.disc.drawerOpen) putLevelBack();
 }
 
@@ -113,7 +120,10 @@ void StripWindow::showFromTray() {
     return;
   }
   form_.parked = false;
+  const bool unfolded = state_.display.popupLayout == kOn;
+  on_.layout.fold();
   on_.place.restore();
+  if (unfolded) unfold();
   form_.show(desktop_);
   on_.mirror.follow();
 }
@@ -141,13 +151,13 @@ void StripWindow::putLevelBack() {
 void StripWindow::fold() {
   on_.layout.fold();
   on_.mirror.follow();
-  on_.place.pullIn();
+  on_.place.folded();
 }
 
 void StripWindow::unfold() {
   on_.layout.unfold();
   on_.mirror.follow();
-  on_.place.pullIn();
+  on_.place.unfolded();
 }
 
 }  // namespace orvanta

@@ -95,6 +95,8 @@ void Links::showFaceplate() {
 
 void Links::minimise() { core_.strip_.window.minfp1(); }
 
+void Links::comeBack() { core_.strip_.window.restore(); }
+
 void Links::hideFaceplate() { core_.form.hide(); }
 
 bool Links::mayShowCdData() const { return core_.state.disc.in() || core_.library_.cdData.openForPerson(); }
@@ -123,7 +125,7 @@ void Links::closeDiscWindows() {
 
 /// It ends with the faceplate in sight.
 void Links::switchWallpaper() {
-  core_.strip_.window.restore();
+  comeBack();
   core_.shell_.wallpaper.wpfp1();
 }
 

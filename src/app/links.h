@@ -48,6 +48,7 @@ class Links : public PlaybackUpward,
   void showFaceplate() override;
   void hideFaceplate() override;
   void minimise() override;
+  void comeBack() override;
   void showCdData() override;
   bool mayShowCdData() const override;
   void showPlaylist() override;

@@ -71,12 +71,19 @@ bool numberLit(const ActParts& on, int track) {
   return awake(on, 0) && track >= 1 && track <= 20 && on.form.Label34[static_cast<size_t>(track - 1)].foreColor != colours::kGrey;
 }
 
-void eject(const ActParts& on, By by, int /*argument*/) {
+/// Whoever puts a disc in looks at the drawer.
+void putIn(const ActParts& on, By /*by*/, int /*argument*/) {
+  on.upward.comeBack();
+  on.choice.ask();
+}
+
+void eject(const ActParts& on, By by, int argument) {
   if (by == By::Person && on.choice.discWanted()) {
-    on.choice.ask();
-  } else {
-    on.engine.mmcontrol1_EjectClick();
+    putIn(on, by, argument);
+    return;
   }
+  on.engine.mmcontrol1_EjectClick();
+  on.upward.comeBack();
 }
 
 /// Without sliders the keys for the level open the mixer.
@@ -151,7 +158,7 @@ const Act kActs[] = {
     {Action::TrackAfter, kClicks, Refuses::Row, step<&Engine::nextFromAnywhere>, discIn, off},
     {Action::Seek, kSilent, Refuses::Part, [](P on, By, int x) { on.buttons.CDStatusBar_Click(x); }, playing, off},
     {Action::Eject, kClicks, Refuses::Row, eject, always, [](P on) { return on.state.disc.drawerOpen; }},
-    {Action::PutIn, kSilent, Refuses::Row, [](P on, By, int) { on.choice.ask(); }, discWanted, off},
+    {Action::PutIn, kSilent, Refuses::Row, putIn, discWanted, off},
     {Action::Mute, kClicks, Refuses::Row, mute, always, [](P on) { return on.volume.muted(); }},
     {Action::Louder, kSilent, Refuses::Row, louder<1>, always, off},
     {Action::Softer, kSilent, Refuses::Row, louder<-1>, always, off},

@@ -23,6 +23,8 @@ class FaceplateUpward {
   virtual void launchEnhancedDisc() = 0;
   /// The deck makes room: the strip or the tray stands in for it while a disc plays or pauses, else a task button alone.
   virtual void minimise() = 0;
+  /// The faceplate comes back from whatever stands in for it; nothing while it is there.
+  virtual void comeBack() = 0;
   /// Hands the disc to the recorder.
   virtual void record() = 0;
   /// The power button: saves, stops and ends the process. Comes back when the user would rather keep what was typed.

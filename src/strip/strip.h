@@ -17,7 +17,7 @@ struct Strip {
         mirror(colours, sliders, forms.strip, faceplate, state),
         place(ports.files, ports.screen, forms.strip, faceplate, state),
         window(ports, {layout, colours, sliders, mirror, place}, playback.engine, forms, faceplate, state, upward),
-        acts(deck.actions, deck.volume, window, mirror, upward),
+        acts(deck.actions, deck.volume, mirror, upward),
         events({deck.actions, acts, window, mirror, sliders, colours, place, deck.keyboard, deck.sounds, deck.choice, upward}, forms.strip,
                state),
         button(window, forms.icon) {

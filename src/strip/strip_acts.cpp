@@ -25,12 +25,10 @@ void StripActs::Image7_MouseUp() {
 
 void StripActs::eject() {
   if (actions_.enabled(Action::PutIn)) {
-    window_.restore();
     actions_.run(Action::PutIn);
-    return;
+  } else {
+    actions_.run(Action::Eject, By::Program);
   }
-  actions_.run(Action::Eject, By::Program);
-  window_.restore();
 }
 
 }  // namespace orvanta

@@ -3,14 +3,14 @@
 
 #include "faceplate/actions.h"
 #include "strip/strip_mirror.h"
-#include "strip/strip_window.h"
+#include "strip/upward.h"
 
 namespace orvanta {
 
 class StripActs {
  public:
-  StripActs(Actions& actions, const Volume& volume, StripWindow& window, StripMirror& mirror, StripUpward& upward)
-      : actions_(actions), volume_(volume), window_(window), mirror_(mirror), upward_(upward) {}
+  StripActs(Actions& actions, const Volume& volume, StripMirror& mirror, StripUpward& upward)
+      : actions_(actions), volume_(volume), mirror_(mirror), upward_(upward) {}
 
   /// Previous, next, play, pause, stop, eject. The steps are to be had from a pause and from rest as well.
   void Image1_MouseUp(size_t key);
@@ -27,7 +27,6 @@ class StripActs {
  private:
   Actions& actions_;
   const Volume& volume_;
-  StripWindow& window_;
   StripMirror& mirror_;
   StripUpward& upward_;
 };

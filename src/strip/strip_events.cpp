@@ -113,10 +113,19 @@ void StripEvents::released(forms::Control& control, const forms::Mouse& mouse) {
   if (percent && form_.Image7.visible) return;
   if (row != nullptr) {
     on_.actions.release(row->action, control.index() + 1);
-  } else if (&control == &form_.Label12) {
-    on_.colours.sizeTitles(-1);
+  } else if (&control == &form_.Label12 || &control == &form_.Label13) {
+    titleReleased(control);
   } else {
     windowKey(control);
+  }
+}
+
+/// Without a disc the titles are the prompt, and ask for one as the faceplate's do.
+void StripEvents::titleReleased(const forms::Control& title) {
+  if (on_.actions.enabled(Action::PutIn)) {
+    on_.actions.run(Action::PutIn);
+  } else if (&title == &form_.Label12) {
+    on_.colours.sizeTitles(-1);
   }
 }
 

@@ -8,6 +8,7 @@
 #include "platform/forms/form.h"
 #include "strip/strip_acts.h"
 #include "strip/strip_press.h"
+#include "strip/strip_window.h"
 
 namespace orvanta {
 
@@ -47,6 +48,7 @@ class StripEvents : public forms::FormEvents {
   bool isBody(const forms::Control* control) const;
   void rightReleased(const forms::Control* control);
   void released(forms::Control& control, const forms::Mouse& mouse);
+  void titleReleased(const forms::Control& title);
   void windowKey(const forms::Control& control);
   bool sliderKey(const forms::KeyPress& key);
 

@@ -47,6 +47,7 @@ class Links : public PlaybackUpward,
   // Windows.
   void showFaceplate() override;
   void hideFaceplate() override;
+  void activateStrip() override;
   void minimise() override;
   void comeBack() override;
   void showCdData() override;

@@ -209,7 +209,11 @@ void CdData::updateSubmitKey() {
 }
 
 void CdData::unload() {
-  if (visit_.tookPlace) upward_.showFaceplate();
+  if (visit_.tookPlace) {
+    upward_.showFaceplate();
+  } else if (visit_.byPerson) {
+    upward_.activateStrip();
+  }
 }
 
 void CdData::close() {

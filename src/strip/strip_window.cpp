@@ -45,7 +45,8 @@ void StripWindow::showStrip() {
   keepLevel();
   form_.smallFonts = state_.process.smallFonts;
   form_.load(desktop_);
-  if (!form_.parked) form_.show(desktop_);
+  onScreen_ = !form_.parked;
+  if (onScreen_) form_.show(desktop_);
 }
 
 void StripWindow::load() {
@@ -98,7 +99,7 @@ void StripWindow::restore() {
 }
 
 void StripWindow::unload() {
-  state_.display.popupOpen = false;
+  state_.display.popupOpen = onScreen_ = false;
   on_.sliders.letGo();
   if (!form_.parked) {
     // It comes again folded, where it stands so.
@@ -111,7 +112,9 @@ void StripWindow::unload() {
 // ---- the tray
 
 void StripWindow::Image13_MouseUp() {
-  if (upward_.toTray()) form_.hide();
+  if (!upward_.toTray()) return;
+  onScreen_ = false;
+  form_.hide();
 }
 
 void StripWindow::showFromTray() {
@@ -124,8 +127,13 @@ void StripWindow::showFromTray() {
   on_.layout.fold();
   on_.place.restore();
   if (unfolded) unfold();
+  onScreen_ = true;
   form_.show(desktop_);
   on_.mirror.follow();
+}
+
+void StripWindow::comeForward() {
+  if (onScreen_) form_.show(desktop_);
 }
 
 // ---- the level

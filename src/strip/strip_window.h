@@ -55,6 +55,8 @@ class StripWindow {
   void Image13_MouseUp();
   /// Out of the tray to its place. A strip that has gone meanwhile leaves the faceplate to come.
   void showFromTray();
+  /// What stood over it has closed: the keyboard is its own again, where it shows.
+  void comeForward();
 
   void fold();
   void unfold();
@@ -88,6 +90,7 @@ class StripWindow {
   SharedState& state_;
   StripUpward& upward_;
   Level level_;
+  bool onScreen_ = false;  ///< the strip is, and no icon stands for it
   bool changing_ = false;  ///< windows come and go: what they tell of themselves asks for nothing
 };
 

@@ -20,6 +20,25 @@ constexpr const char* kTitle = "Orvanta Enhanced CD Menu";
 constexpr size_t kAutorunBytes = 65536;  ///< more is none
 constexpr const char* kUsual[] = {"program.exe", "run.exe", "play.exe", "start.exe", "runme32.exe", "launch.exe"};
 
+/// A name of the disc's making, so that all of it is read as it is: in lines that fit a box, without marks that turn letters round.
+std::string shownName(const std::string& way) {
+  constexpr size_t kLine = 60;  // characters
+  std::string plain = withoutControls(way);
+  const auto byte = [&](size_t at) { return at < plain.size() ? static_cast<unsigned char>(plain[at]) : 0U; };
+  for (size_t at = plain.find('\xE2'); at != std::string::npos; at = plain.find('\xE2', at + 1)) {
+    const unsigned code = byte(at + 1) << 8U | byte(at + 2);
+    const bool turns = code == 0x808E || code == 0x808F || (code >= 0x80A8 && code <= 0x80AE) || (code >= 0x81A6 && code <= 0x81A9);
+    if (turns) plain.replace(at, 3, "?");
+  }
+  std::string shown;
+  for (std::string_view rest = plain; !rest.empty();) {
+    const std::string_view line = firstCharacters(rest, kLine);
+    shown += (shown.empty() ? "" : "\n") + std::string(line);
+    rest.remove_prefix(line.size());
+  }
+  return shown;
+}
+
 }  // namespace
 
 std::string autorunFile(const std::string& text) {
@@ -73,14 +92,15 @@ void EnhancedDisc::launchEnhancedCd() {
 }
 
 EnhancedDisc::Start EnhancedDisc::start(const std::string& way) {
-  const std::string question = "The disc would like to start its program \"" + withoutControls(way) +
-                               "\".\n\nA program can do to your files whatever you can. Start it?";
+  const std::string question =
+      "The disc would like to start its program \"" + shownName(way) + "\".\n\nA program can do to your files whatever you can. Start it?";
   if (!ports_.dialogs.confirm(kTitle, question) || !discStays()) return Start::Unwanted;
   ports_.screen.setPointer(Pointer::Hourglass);
   const std::string program = ports_.discData.bring(way);
   ports_.screen.setPointer(Pointer::Normal);
   if (!discStays()) return Start::Unwanted;
-  ProcessRequest request{{program}, program.substr(0, program.rfind('/') + 1), WindowStyle::Normal};
+  // A disc's program finds what is the disc's from its root on.
+  ProcessRequest request{{program}, ports_.discData.folder(), WindowStyle::Normal};
   request.detached = true;
   const bool started = !program.empty() && ports_.processes.canStart(program) && ports_.processes.start(request) != 0;
   return started ? Start::Started : Start::Impossible;

@@ -1,11 +1,11 @@
 // An image's data track as files. The player has the image open too; this is a reader of its own.
 #include "platform/disc/image_data.h"
 
-#include <signal.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <cerrno>
+#include <csignal>
 #include <filesystem>
 #include <fstream>
 #include <numeric>

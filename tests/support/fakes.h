@@ -324,7 +324,7 @@ class FakeMenus : public Menus {
 /// A disc that is mounted at "/mnt", its files by their way in upper case.
 class FakeDiscData : public DiscData {
  public:
-  std::string disc() override { return "disc"; }
+  std::string disc() override { return name; }
   std::vector<std::string> rootFiles() override {
     std::vector<std::string> names;
     for (const auto& [way, bytes] : files) {
@@ -337,6 +337,7 @@ class FakeDiscData : public DiscData {
   std::string bring(const std::string& way) override { return joinPath(folder(), way); }
   std::string folder() override { return "/mnt"; }
   std::string wayOf(const std::string& path) override { return path.starts_with("/mnt/") ? path.substr(5) : ""; }
+  std::string name = "disc";
   std::map<std::string, std::string> files;
 };
 

@@ -145,6 +145,7 @@ class Scene {
   /// What the world does.
   bool arranged(const Word& act) {
     if (act.verb == "insert") return rig_.player.insert(discOf(act), act.value == "none" ? "" : "Track01.cda"), true;
+    if (act.verb == "other-files") return rig_.discData.name = act.value, true;
     if (act.verb == "drop") return enter([&] { rig_.form.fileDropped(act.value); });
     if (act.verb == "answer") return rig_.dialogs.answers.emplace_back(act.value), true;
     if (act.verb == "yes") return rig_.dialogs.yes = act.number() != 0, true;

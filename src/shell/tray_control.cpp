@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "base/meanwhile.h"
 #include "base/text.h"
 #include "platform/ports/dialogs.h"
 #include "shell/help.h"
@@ -20,20 +21,6 @@ constexpr const char* kNothingIn = "Control Popup / Orvanta ";
 constexpr const char* kPlayItem = "playtrk";
 constexpr const char* kPauseItem = "pausetrk";
 constexpr const char* kToFaceplate = "Display Orvanta Faceplate";
-
-/// Sets a value for as long as it lives.
-template <class T>
-class For {
- public:
-  For(T& value, T now) : value_(value), before_(std::exchange(value, now)) {}
-  For(const For&) = delete;
-  For& operator=(const For&) = delete;
-  ~For() { value_ = before_; }
-
- private:
-  T& value_;
-  T before_;
-};
 
 /// "Artist - Title - Track", of what is known.
 std::string tipOf(const DeckStatus& status) {
@@ -153,7 +140,7 @@ bool TrayControl::passedOver() {
 void TrayControl::clicked() {
   if (passedOver()) return;
   {
-    const For busy(busy_, true);
+    const Meanwhile busy(busy_, true);
     iconState_ = (iconState_ + 1) % kPictures;
     act(iconState_);
     showPicture();
@@ -167,7 +154,7 @@ void TrayControl::chosen(const std::string& item) {
   const auto row = std::find_if(all.begin(), all.end(), [&](const Row& each) { return each.name == item; });
   if (row == all.end() || row->run == nullptr) return;
   {
-    const For busy(busy_, true);
+    const Meanwhile busy(busy_, true);
     (this->*row->run)();
   }
   follow();
@@ -213,12 +200,12 @@ void TrayControl::key() {
 
 /// Without a sound: nobody looks at the deck. The faceplate comes back with its drawer open.
 void TrayControl::eject() {
-  const For quiet(state_.settings.soundsOff, kOn);
+  const Meanwhile quiet(state_.settings.soundsOff, kOn);
   on_.strip.acts.eject();
 }
 
 void TrayControl::exit() {
-  const For quiet(state_.settings.soundsOff, kOn);
+  const Meanwhile quiet(state_.settings.soundsOff, kOn);
   on_.strip.acts.Image12_MouseUp();
 }
 

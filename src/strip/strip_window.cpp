@@ -1,26 +1,9 @@
 // The strip's ways in and out.
 #include "strip/strip_window.h"
 
-#include <utility>
+#include "base/meanwhile.h"
 
 namespace orvanta {
-
-namespace {
-
-/// Sets a mark for as long as it lives.
-class Meanwhile {
- public:
-  explicit Meanwhile(bool& mark) : mark_(mark), before_(std::exchange(mark, true)) {}
-  Meanwhile(const Meanwhile&) = delete;
-  Meanwhile& operator=(const Meanwhile&) = delete;
-  ~Meanwhile() { mark_ = before_; }
-
- private:
-  bool& mark_;
-  bool before_;
-};
-
-}  // namespace
 
 // ---- the ways in
 
@@ -29,7 +12,7 @@ void StripWindow::minfp1() {
     if (form_.loaded() && on_.place.wantsTray()) Image13_MouseUp();
     return;
   }
-  const Meanwhile changing(changing_);
+  const Meanwhile changing(changing_, true);
   upward_.hideWallpaper();
   icon_.minimised = true;
   icon_.show(desktop_);
@@ -90,7 +73,7 @@ void StripWindow::takeUp() {
 
 void StripWindow::restore() {
   if (!out() || changing_) return;
-  const Meanwhile changing(changing_);
+  const Meanwhile changing(changing_, true);
   upward_.leaveTray();
   upward_.renewWallpaper();
   form_.unload();

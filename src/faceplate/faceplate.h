@@ -21,7 +21,7 @@ struct Faceplate {
         actions({playback.looks, playback.engine, playback.modes, buttons, layout, volume, sounds, choice, form, state, upward},
                 playback.status),
         title(form),
-        keyboard(actions, entry, volume, form),
+        keyboard(actions, entry, volume),
         load(ports, playback, colours, layout, volume, sounds, form, state),
         events(load, actions, keyboard, volume, layout, place, choice, title, form, state) {
     playback.status.watch([this, &form](const DeckStatus& now) {

@@ -21,7 +21,7 @@ FaceplateEvents::FaceplateEvents(FaceplateLoad& load, Actions& actions, Keyboard
 }
 
 void FaceplateEvents::mouseDown(forms::Control* control, const forms::Mouse& mouse) {
-  if (control != nullptr && volume_.mouseDown(*control, mouse)) return;
+  if (control != nullptr && volume_.sliders().mouseDown(*control, mouse)) return;
   if (mouse.button != forms::MouseButton::Left) return;
   if (control == nullptr || control == &form_.Image8) {
     grip_.take(mouse);
@@ -40,13 +40,13 @@ void FaceplateEvents::mouseMove(forms::Control* control, const forms::Mouse& mou
     if (form_.view() != nullptr) form_.view()->drag();
     return;
   }
-  if (control != nullptr && form_.pressed() == control) volume_.mouseMove(*control, mouse);
+  if (control != nullptr && form_.pressed() == control) volume_.sliders().mouseMove(*control, mouse);
 }
 
 void FaceplateEvents::mouseUp(forms::Control* control, const forms::Mouse& mouse) {
   look_.up();
   grip_.drop();
-  if (control != nullptr && volume_.mouseUp(*control)) return;
+  if (control != nullptr && volume_.sliders().mouseUp(*control)) return;
   const bool right = mouse.button == forms::MouseButton::Right;
   const auto route = control == nullptr ? std::nullopt : right ? rightRouteOf(*control) : routeOf(*control);
   if (!route) {
@@ -65,7 +65,7 @@ void FaceplateEvents::mouseUp(forms::Control* control, const forms::Mouse& mouse
 /// The wheel moves a slider, and the place on the bar.
 void FaceplateEvents::wheel(forms::Control& control, int notches) {
   constexpr int kStep = 5;  // percent of the track
-  if (volume_.step(control, notches) || &control != &form_.CDStatusBar) return;
+  if (volume_.sliders().step(control, notches) || &control != &form_.CDStatusBar) return;
   const int percent = form_.CDStatusBar.floodPercent + notches * kStep;
   if (percent <= 0 || percent >= 100) return;
   actions_.run(Action::Seek, By::Person, form_.CDStatusBar.width * percent / 100 + kBarMargin);

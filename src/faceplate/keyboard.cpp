@@ -55,13 +55,13 @@ const KeyRow* rowOf(const forms::KeyPress& key) {
 
 bool Keyboard::keyDown(const forms::KeyPress& key) {
   const KeyRow* row = rowOf(key);
-  if (key.repeats && row == nullptr) return sliderKey(key);
+  if (key.repeats && row == nullptr) return volume_.sliders().keyDown(key);
   if (!key.control && !key.alt) {
     // A deck that wants a disc asks for it, whatever else is open.
     const bool asks = row != nullptr && row->action == Action::Eject && actions_.enabled(Action::PutIn);
     if (entry_.open() && !asks) return entry_.keyDown(key);
   }
-  return act(key) || sliderKey(key);
+  return act(key) || volume_.sliders().keyDown(key);
 }
 
 bool Keyboard::act(const forms::KeyPress& key) {
@@ -69,17 +69,6 @@ bool Keyboard::act(const forms::KeyPress& key) {
   if (row == nullptr || key.control || key.alt) return false;
   actions_.run(row->action);
   return true;
-}
-
-/// Arrows move the slider that has the focus. It is no key: Space and ENTER leave it where it stands.
-bool Keyboard::sliderKey(const forms::KeyPress& key) {
-  const forms::Control* focus = form_.activeControl();
-  if (focus == nullptr) return false;
-  const bool press = key.code == forms::key::kSpace || key.code == forms::key::kEnter;
-  if (press) return focus->with(forms::Role::Percent) != nullptr;
-  const bool up = key.code == forms::key::kUp || key.code == forms::key::kRight;
-  const bool down = key.code == forms::key::kDown || key.code == forms::key::kLeft;
-  return (up || down) && volume_.step(*focus, up ? 1 : -1);
 }
 
 }  // namespace orvanta

@@ -9,8 +9,7 @@ namespace orvanta {
 
 class Keyboard {
  public:
-  Keyboard(Actions& actions, TrackEntry& entry, Volume& volume, CDForm& form)
-      : actions_(actions), entry_(entry), volume_(volume), form_(form) {}
+  Keyboard(Actions& actions, TrackEntry& entry, Volume& volume) : actions_(actions), entry_(entry), volume_(volume) {}
 
   /// True when the key is used.
   bool keyDown(const forms::KeyPress& key);
@@ -18,12 +17,9 @@ class Keyboard {
   bool act(const forms::KeyPress& key);
 
  private:
-  bool sliderKey(const forms::KeyPress& key);
-
   Actions& actions_;
   TrackEntry& entry_;
   Volume& volume_;
-  CDForm& form_;
 };
 
 }  // namespace orvanta

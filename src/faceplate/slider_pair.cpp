@@ -7,7 +7,7 @@
 #include <string>
 
 #include "base/text.h"
-#include "state/shared_state.h"
+#include "platform/forms/form.h"
 
 namespace orvanta {
 
@@ -40,37 +40,81 @@ std::optional<SliderPair::Side> SliderPair::sideOf(const forms::Control& control
   return std::nullopt;
 }
 
-bool SliderPair::press(Side side, const forms::Control& part, const forms::Mouse& mouse) {
+bool SliderPair::mouseDown(const forms::Control& part, const forms::Mouse& mouse) {
+  const auto side = sideOf(part);
+  if (!side || mouse.button != forms::MouseButton::Left) return side.has_value();
+  // From here on the arrows are its.
+  forms::Panel& area = sliders_[*side].area;
+  area.form().setFocus(area);
+  if (takeHold(*side, part, mouse) && moveTo(*side, mouse.y)) tell(*side);
+  return true;
+}
+
+/// False where the press moves nothing.
+bool SliderPair::takeHold(Side side, const forms::Control& part, const forms::Mouse& mouse) {
   const SliderControls& slider = sliders_[side];
   const bool onArea = &part == &slider.area;
+  VolumeDrag& drag = state_.volume.volDrag;
   if (onArea && mouse.x < kDeadStrip) {
-    drag_ = kNoDrag;
+    drag = kNoDrag;
     return false;
   }
-  drag_ = onArea ? kArea : &part == &slider.upper ? kUpperBar : kLowerBar;
+  drag = onArea ? kArea : &part == &slider.upper ? kUpperBar : kLowerBar;
   paint(side, kThumbDragged);
   const int thumb = slider.thumb.top;
-  const bool onThumb = onArea ? mouse.y >= thumb && mouse.y < thumb + kThumbGrip : std::abs(mouse.y - thumb) <= kBarGrip;
-  return !onThumb && moveTo(side, mouse.y);
+  return onArea ? mouse.y < thumb || mouse.y >= thumb + kThumbGrip : std::abs(mouse.y - thumb) > kBarGrip;
 }
 
-bool SliderPair::drag(Side side, const forms::Control& part, int y) {
-  return moveTo(side, &part == &sliders_[side].upper && y > kWrapped ? kAbove : y);
+bool SliderPair::mouseMove(const forms::Control& part, const forms::Mouse& mouse) {
+  const auto side = sideOf(part);
+  if (!side) return false;
+  const SliderControls& slider = sliders_[*side];
+  const int y = &part == &slider.upper && mouse.y > kWrapped ? kAbove : mouse.y;
+  if ((&part == &slider.area || !byMixer()) && moveTo(*side, y)) tell(*side);
+  return true;
 }
 
-/// From either end the first step leaves the snap zone by its own edge.
-bool SliderPair::step(Side side, int steps) {
-  drag_ = kArea;
-  const bool moved = moveTo(side, sliders_[side].thumb.top + kAreaGrip - steps * kStep);
-  drag_ = kNoDrag;
-  return moved;
+bool SliderPair::mouseUp(const forms::Control& part) {
+  const auto side = sideOf(part);
+  if (!side) return false;
+  state_.volume.volDrag = kNoDrag;
+  paint(*side, kThumbColour);
+  return true;
 }
 
-void SliderPair::release(Side side) {
-  drag_ = kNoDrag;
-  paint(side, kThumbColour);
+/// From either end the first step leaves the snap zone by its own edge. A slider that has left may still have the focus.
+bool SliderPair::step(const forms::Control& part, int steps) {
+  const auto side = sideOf(part);
+  if (!side || state_.settings.soundMode == kNoSliders) return side.has_value();
+  state_.volume.volDrag = kArea;
+  const bool moved = moveTo(*side, sliders_[*side].thumb.top + kAreaGrip - steps * kStep);
+  state_.volume.volDrag = kNoDrag;
+  if (moved) tell(*side);
+  return true;
 }
 
+bool SliderPair::keyDown(const forms::KeyPress& key) {
+  const forms::Control* focus = sliders_[Left].area.form().activeControl();
+  if (focus == nullptr) return false;
+  const bool press = key.code == forms::key::kSpace || key.code == forms::key::kEnter;
+  if (press) return sideOf(*focus).has_value();
+  const bool up = key.code == forms::key::kUp || key.code == forms::key::kRight;
+  const bool down = key.code == forms::key::kDown || key.code == forms::key::kLeft;
+  return (up || down) && step(*focus, up ? 1 : -1);
+}
+
+/// Driving the mixer program takes the place of the drag.
+void SliderPair::tell(Side side) {
+  moved_(side);
+  if (byMixer()) darken();
+}
+
+void SliderPair::letGo() {
+  state_.volume.volDrag = kNoDrag;
+  darken();
+}
+
+/// The thumbs as nobody holds them.
 void SliderPair::darken() {
   for (const Side side : kBoth) sliders_[side].thumb.backColor = kThumbColour;
 }
@@ -91,9 +135,9 @@ void SliderPair::put(Side side, int place) {
 
 /// `y` is measured in the part that the drag started on.
 bool SliderPair::moveTo(Side side, int y) {
-  if (muted_.visible) drag_ = kNoDrag;
+  if (muted_.visible) state_.volume.volDrag = kNoDrag;
   int place = 0;
-  switch (drag_) {
+  switch (state_.volume.volDrag) {
     case kUpperBar: place = sliders_[side].upper.top + y - kBarOffset; break;
     case kLowerBar: place = sliders_[side].lower.top + y - kBarOffset; break;
     case kArea: place = y - kAreaGrip; break;
@@ -113,7 +157,11 @@ void SliderPair::stand(Side side, int place) {
   }
 }
 
-void SliderPair::moveWith(Side side, const SliderPair& other) { stand(side, other.sliders_[side].thumb.top); }
+void SliderPair::moveWith(Side side, const SliderPair& other) {
+  link(other.linked());
+  stand(side, other.sliders_[side].thumb.top);
+  tell(side);
+}
 
 void SliderPair::copy(const SliderPair& other) {
   for (const Side side : kBoth) {

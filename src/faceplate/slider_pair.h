@@ -1,8 +1,10 @@
-// Two volume sliders and their link: places, percents and the drag. Nothing here knows what a place sets.
+// Two volume sliders and their link: places, percents, and the hand that moves them. Nothing here knows what a place sets.
 #pragma once
 
 #include <array>
+#include <functional>
 #include <optional>
+#include <utility>
 
 #include "platform/forms/control.h"
 #include "platform/forms/input.h"
@@ -24,27 +26,25 @@ class SliderPair {
   enum Side : size_t { Left, Right };
   static constexpr std::array<Side, 2> kBoth = {Left, Right};
 
-  /// `link`: 0 shows apart, 1 linked. While `muted` shows, no hand moves a slider. `drag` is a VolumeDrag, of all
-  /// windows that have sliders.
+  /// `link`: 0 shows apart, 1 linked. While `muted` shows, no hand moves a slider. `moved` hears of each place that a hand
+  /// gives a slider, here or in another window; the one that is linked to it has gone along.
   SliderPair(const SliderControls& left, const SliderControls& right, forms::ControlArray<forms::Image, 2>& link,
-             const forms::Control& muted, VolumeDrag& drag)
-      : sliders_{left, right}, link_(link), muted_(muted), drag_(drag) {}
+             const forms::Control& muted, SharedState& state, std::function<void(Side)> moved)
+      : sliders_{left, right}, link_(link), muted_(muted), state_(state), moved_(std::move(moved)) {}
 
-  /// nullopt for a control that is part of neither.
-  std::optional<Side> sideOf(const forms::Control& control) const;
-
-  // Each is true when the place was set anew.
+  // The hand. Each is false for a control that is part of no slider.
   /// A press on the thumb itself, or left of the slider, moves nothing.
-  bool press(Side side, const forms::Control& part, const forms::Mouse& mouse);
-  bool drag(Side side, const forms::Control& part, int y);
+  bool mouseDown(const forms::Control& part, const forms::Mouse& mouse);
+  bool mouseMove(const forms::Control& part, const forms::Mouse& mouse);
+  bool mouseUp(const forms::Control& part);
   /// Up (above 0) or down.
-  bool step(Side side, int steps);
+  bool step(const forms::Control& part, int steps);
+  /// Arrows move the slider that has the focus. It is no key: Space and ENTER leave it where it stands.
+  bool keyDown(const forms::KeyPress& key);
+  /// A drag that the window's end cuts off is over.
+  void letGo();
 
-  void release(Side side);
-  /// The thumbs as nobody holds them.
-  void darken();
-
-  /// To where the thumb of another window's slider stands, with the other one where they are linked.
+  /// To where the thumb of another window's slider stands, with the link as it is there.
   void moveWith(Side side, const SliderPair& other);
   /// Both as those of another window; who is held by a hand stays painted so.
   void copy(const SliderPair& other);
@@ -63,7 +63,12 @@ class SliderPair {
   static Side other(Side side) { return side == Left ? Right : Left; }
 
  private:
+  std::optional<Side> sideOf(const forms::Control& control) const;
+  bool takeHold(Side side, const forms::Control& part, const forms::Mouse& mouse);
   bool moveTo(Side side, int y);
+  void tell(Side side);
+  bool byMixer() const { return state_.settings.soundMode == kMixerProgram; }
+  void darken();
   void stand(Side side, int place);
   void put(Side side, int place);
   void paint(Side side, Colour colour);
@@ -71,7 +76,8 @@ class SliderPair {
   std::array<SliderControls, 2> sliders_;
   forms::ControlArray<forms::Image, 2>& link_;
   const forms::Control& muted_;
-  VolumeDrag& drag_;
+  SharedState& state_;
+  std::function<void(Side)> moved_;
 };
 
 }  // namespace orvanta

@@ -39,8 +39,8 @@ Volume::Volume(const FaceplatePorts& ports, Layout& layout, MixerDriver& mixer, 
       form_(form),
       state_(state),
       sliders_({form.PctL, form.VolumeL, form.VbartopL, form.VbarbtmL, form.ThumbL, form.TlineL},
-               {form.PctR, form.VolumeR, form.VbartopR, form.VbarbtmR, form.ThumbR, form.TlineR}, form.Image9, form.Image2[0],
-               state.volume.volDrag) {}
+               {form.PctR, form.VolumeR, form.VbartopR, form.VbarbtmR, form.ThumbR, form.TlineR}, form.Image9, form.Image2[0], state,
+               [this](Side side) { setVolume(side); }) {}
 
 Volume::Channel Volume::channel(Side side) {
   VolumeState& volume = state_.volume;
@@ -230,53 +230,9 @@ void Volume::Image9_MouseUp(size_t index) {
 
 // ---- the sliders
 
-bool Volume::mouseDown(const forms::Control& control, const forms::Mouse& mouse) {
-  const auto side = sliders_.sideOf(control);
-  if (!side) return false;
-  if (mouse.button != forms::MouseButton::Left) return true;
-  // From here on the arrows are its.
-  form_.setFocus(*side == SliderPair::Left ? form_.VolumeL : form_.VolumeR);
-  if (sliders_.press(*side, control, mouse)) moved(*side);
-  return true;
-}
-
-bool Volume::mouseMove(const forms::Control& control, const forms::Mouse& mouse) {
-  const auto side = sliders_.sideOf(control);
-  if (!side) return false;
-  const bool onBar = &control != &form_.VolumeL && &control != &form_.VolumeR;
-  if (!(onBar && byMixer()) && sliders_.drag(*side, control, mouse.y)) moved(*side);
-  return true;
-}
-
-bool Volume::mouseUp(const forms::Control& control) {
-  const auto side = sliders_.sideOf(control);
-  if (side) sliders_.release(*side);
-  return side.has_value();
-}
-
-void Volume::moved(Side side) {
-  setVolume(side);
-  // Driving the mixer takes the place of the drag.
-  if (byMixer()) sliders_.darken();
-}
-
-void Volume::moveWith(Side side, const SliderPair& other) {
-  sliders_.link(other.linked());
-  sliders_.moveWith(side, other);
-  moved(side);
-}
-
-bool Volume::step(const forms::Control& control, int steps) {
-  const auto side = sliders_.sideOf(control);
-  if (!side) return false;
-  // A slider that has left may still have the focus.
-  if (state_.settings.soundMode != kNoSliders && sliders_.step(*side, steps)) moved(*side);
-  return true;
-}
-
 void Volume::stepBoth(int steps) {
-  step(form_.VolumeL, steps);
-  if (!linked()) step(form_.VolumeR, steps);
+  sliders_.step(form_.VolumeL, steps);
+  if (!linked()) sliders_.step(form_.VolumeR, steps);
 }
 
 void Volume::silence(Side side) {

@@ -6,7 +6,6 @@
 #include "faceplate/mixer_driver.h"
 #include "faceplate/ports.h"
 #include "faceplate/slider_pair.h"
-#include "platform/forms/input.h"
 #include "state/shared_state.h"
 #include "windows/cdform.h"
 
@@ -30,13 +29,9 @@ class Volume {
   void setVolumeL() { setVolume(SliderPair::Left); }
   void setVolumeR() { setVolume(SliderPair::Right); }
 
-  /// A press, move or release on a slider; `control` is one of its parts. False when it is none.
-  bool mouseDown(const forms::Control& control, const forms::Mouse& mouse);
-  bool mouseMove(const forms::Control& control, const forms::Mouse& mouse);
-  bool mouseUp(const forms::Control& control);
-  /// The slider under the control a step up (above 0) or down; false when it is no slider.
-  bool step(const forms::Control& control, int steps);
-  /// Both sliders.
+  SliderPair& sliders() { return sliders_; }
+  const SliderPair& sliders() const { return sliders_; }
+  /// Both, up (above 0) or down.
   void stepBoth(int steps);
 
   /// A click on a percent silences its channel.
@@ -54,9 +49,6 @@ class Volume {
   bool muted() const { return form_.Image2[0].visible; }
   /// There are sliders; else the mixer opens in their place.
   bool byHand() const { return state_.settings.soundMode != kNoSliders; }
-  /// As a slider of another window stands now, with the link that it shows there: brought to the device.
-  void moveWith(SliderPair::Side side, const SliderPair& other);
-  const SliderPair& sliders() const { return sliders_; }
   /// Sound as it was, before the process goes.
   void releaseMute();
   MixerDriver& mixer() { return mixer_; }
@@ -72,7 +64,6 @@ class Volume {
 
   Channel channel(Side side);
   bool byMixer() const { return state_.settings.soundMode == kMixerProgram; }
-  void moved(Side side);
   void setVolume(Side side);
   void silence(Side side);
   void unmuted();

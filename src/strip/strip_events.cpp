@@ -53,7 +53,7 @@ bool StripEvents::isBody(const forms::Control* control) const {
 }
 
 void StripEvents::mouseDown(forms::Control* control, const forms::Mouse& mouse) {
-  if (control != nullptr && on_.sliders.mouseDown(*control, mouse)) return;
+  if (control != nullptr && on_.sliders.pair().mouseDown(*control, mouse)) return;
   if (mouse.button != forms::MouseButton::Left) return;
   if (isBody(control)) {
     grip_.take(mouse);
@@ -78,13 +78,13 @@ void StripEvents::mouseMove(forms::Control* control, const forms::Mouse& mouse) 
     if (form_.view() != nullptr) form_.view()->drag();
     return;
   }
-  if (control != nullptr && form_.pressed() == control) on_.sliders.mouseMove(*control, mouse);
+  if (control != nullptr && form_.pressed() == control) on_.sliders.pair().mouseMove(*control, mouse);
 }
 
 void StripEvents::mouseUp(forms::Control* control, const forms::Mouse& mouse) {
   press_.up();
   grip_.drop();
-  if (control != nullptr && on_.sliders.mouseUp(*control)) return;
+  if (control != nullptr && on_.sliders.pair().mouseUp(*control)) return;
   if (mouse.button == forms::MouseButton::Right) {
     if (mouse.over) rightReleased(control);
   } else if (control != nullptr) {
@@ -141,7 +141,7 @@ void StripEvents::windowKey(const forms::Control& control) {
 }
 
 void StripEvents::wheel(forms::Control& control, int notches) {
-  if (on_.sliders.step(control, notches)) on_.mirror.follow();
+  if (on_.sliders.pair().step(control, notches)) on_.mirror.follow();
 }
 
 bool StripEvents::keyDown(const forms::KeyPress& key) {
@@ -154,19 +154,9 @@ bool StripEvents::keyDown(const forms::KeyPress& key) {
     on_.upward.showHelp(kHelpTopic);
     return true;
   }
-  if (!on_.keyboard.act(key) && !sliderKey(key)) return false;
+  if (!on_.keyboard.act(key) && !on_.sliders.pair().keyDown(key)) return false;
   on_.mirror.follow();
   return true;
-}
-
-bool StripEvents::sliderKey(const forms::KeyPress& key) {
-  const forms::Control* focus = form_.activeControl();
-  if (focus == nullptr) return false;
-  const bool press = key.code == forms::key::kSpace || key.code == forms::key::kEnter;
-  if (press) return focus->with(forms::Role::Percent) != nullptr;
-  const bool up = key.code == forms::key::kUp || key.code == forms::key::kRight;
-  const bool down = key.code == forms::key::kDown || key.code == forms::key::kLeft;
-  return (up || down) && on_.sliders.step(*focus, up ? 1 : -1);
 }
 
 void StripEvents::dragged() { on_.place.moved(); }

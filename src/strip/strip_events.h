@@ -50,7 +50,6 @@ class StripEvents : public forms::FormEvents {
   void released(forms::Control& control, const forms::Mouse& mouse);
   void titleReleased(const forms::Control& title);
   void windowKey(const forms::Control& control);
-  bool sliderKey(const forms::KeyPress& key);
 
   StripReach on_;
   StripPress press_;

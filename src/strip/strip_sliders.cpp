@@ -1,4 +1,4 @@
-// Drag, wheel and arrows on the strip's sliders.
+// What the strip's sliders hear of the faceplate's, and hand on to them.
 #include "strip/strip_sliders.h"
 
 namespace orvanta {
@@ -8,53 +8,8 @@ StripSliders::StripSliders(Volume& volume, VolCntl& form, SharedState& state)
       form_(form),
       state_(state),
       sliders_({form.PctL, form.VolumeL, form.VbartopL, form.VbarbtmL, form.ThumbL, form.TlineL},
-               {form.PctR, form.VolumeR, form.VbartopR, form.VbarbtmR, form.ThumbR, form.TlineR}, form.Image9, form.Image7,
-               state.volume.volDrag) {}
-
-/// Where the mixer program is driven, that takes the place of the drag.
-void StripSliders::moved(SliderPair::Side side) {
-  if (side == SliderPair::Left) {
-    setVolumeLV();
-  } else {
-    setVolumeRV();
-  }
-  if (byMixer()) sliders_.darken();
-}
-
-bool StripSliders::mouseDown(const forms::Control& control, const forms::Mouse& mouse) {
-  const auto side = sliders_.sideOf(control);
-  if (!side) return false;
-  if (mouse.button != forms::MouseButton::Left) return true;
-  form_.setFocus(*side == SliderPair::Left ? form_.VolumeL : form_.VolumeR);
-  if (sliders_.press(*side, control, mouse)) moved(*side);
-  return true;
-}
-
-bool StripSliders::mouseMove(const forms::Control& control, const forms::Mouse& mouse) {
-  const auto side = sliders_.sideOf(control);
-  if (!side) return false;
-  const bool onBar = &control != &form_.VolumeL && &control != &form_.VolumeR;
-  if (!(onBar && byMixer()) && sliders_.drag(*side, control, mouse.y)) moved(*side);
-  return true;
-}
-
-bool StripSliders::mouseUp(const forms::Control& control) {
-  const auto side = sliders_.sideOf(control);
-  if (side) sliders_.release(*side);
-  return side.has_value();
-}
-
-bool StripSliders::step(const forms::Control& control, int steps) {
-  const auto side = sliders_.sideOf(control);
-  if (!side) return false;
-  if (sliders_.step(*side, steps)) moved(*side);
-  return true;
-}
-
-void StripSliders::letGo() {
-  state_.volume.volDrag = kNoDrag;
-  sliders_.darken();
-}
+               {form.PctR, form.VolumeR, form.VbartopR, form.VbarbtmR, form.ThumbR, form.TlineR}, form.Image9, form.Image7, state,
+               [this](SliderPair::Side side) { side == SliderPair::Left ? setVolumeLV() : setVolumeRV(); }) {}
 
 /// Without sliders the mute key opens the mixer, and shows no state. The mixer program's channels are always linked.
 void StripSliders::follow() {
@@ -63,7 +18,7 @@ void StripSliders::follow() {
   form_.Image5.visible = !form_.Image7.visible;
   if (!own) return;
   sliders_.copy(volume_.sliders());
-  if (byMixer()) sliders_.link(true);
+  if (state_.settings.soundMode == kMixerProgram) sliders_.link(true);
 }
 
 }  // namespace orvanta

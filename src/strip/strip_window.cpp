@@ -83,7 +83,7 @@ void StripWindow::restore() {
 
 void StripWindow::unload() {
   state_.display.popupOpen = onScreen_ = false;
-  on_.sliders.letGo();
+  on_.sliders.pair().letGo();
   if (!form_.parked) {
     // It comes again folded, where it stands so.
     fold();

@@ -36,10 +36,7 @@ void FaceplateEvents::mouseDown(forms::Control* control, const forms::Mouse& mou
 }
 
 void FaceplateEvents::mouseMove(forms::Control* control, const forms::Mouse& mouse) {
-  if (grip_.dragStarts(mouse)) {
-    if (form_.view() != nullptr) form_.view()->drag();
-    return;
-  }
+  if (grip_.drags(form_, mouse)) return;
   if (control != nullptr && form_.pressed() == control) volume_.sliders().mouseMove(*control, mouse);
 }
 

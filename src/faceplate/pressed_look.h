@@ -1,6 +1,7 @@
 // Keys that give way under the mouse: the picture goes right and down with its caption, its hole stays.
 #pragma once
 
+#include "faceplate/sunken_key.h"
 #include "state/shared_state.h"
 #include "windows/cdform.h"
 
@@ -15,14 +16,12 @@ class PressedLook {
   void up();
 
  private:
-  void showPair(forms::ControlArray<forms::Image, 2>& pair, bool pressed);
+  void showPair(bool pressed);
 
   CDForm& form_;
   const SharedState& state_;
-  forms::Control* key_ = nullptr;
-  forms::Control* caption_ = nullptr;
-  forms::Control* hole_ = nullptr;
-  int depth_ = 0;
+  SunkenKey key_;
+  forms::ControlArray<forms::Image, 2>* pair_ = nullptr;
 };
 
 }  // namespace orvanta

@@ -1,24 +1,14 @@
 // The controls' table. Faces, words on the display and panels are keys alike.
 #include "faceplate/routes.h"
 
-#include <span>
-#include <string_view>
-
 namespace orvanta {
 
 namespace {
 
-constexpr int kEach = -2;  ///< any of the array; its place counts from 1 in the argument
-
-struct Row {
-  std::string_view name;
-  int index;
-  Action action;
-};
-
+constexpr int kEach = RouteRow::kEach;
 constexpr int kOne = forms::kNoIndex;
 
-constexpr Row kLeft[] = {
+constexpr RouteRow kLeft[] = {
     {"icntla", 0, Action::Previous},
     {"icntla", 1, Action::Next},
     {"icntla", 2, Action::Play},
@@ -70,21 +60,21 @@ constexpr Row kLeft[] = {
     {"Image6", kOne, Action::Exit},
 };
 
-constexpr Row kRight[] = {
+constexpr RouteRow kRight[] = {
     {"Image7", kOne, Action::MinimiseToTray}, {"SSPanel1", kOne, Action::SlidersAway}, {"Command3D16", kOne, Action::SlidersBack},
     {"Image16", 4, Action::CloseTrackList},   {"Image10", 2, Action::Recall},
 };
 
-std::optional<Route> find(std::span<const Row> rows, const forms::Control& control) {
-  for (const Row& row : rows) {
+}  // namespace
+
+std::optional<Route> routeIn(std::span<const RouteRow> rows, const forms::Control& control) {
+  for (const RouteRow& row : rows) {
     if (row.name == control.name() && (row.index == kEach || row.index == control.index())) return Route{row.action, control.index() + 1};
   }
   return std::nullopt;
 }
 
-}  // namespace
-
-std::optional<Route> routeOf(const forms::Control& control) { return find(kLeft, control); }
-std::optional<Route> rightRouteOf(const forms::Control& control) { return find(kRight, control); }
+std::optional<Route> routeOf(const forms::Control& control) { return routeIn(kLeft, control); }
+std::optional<Route> rightRouteOf(const forms::Control& control) { return routeIn(kRight, control); }
 
 }  // namespace orvanta

@@ -6,7 +6,7 @@
 #include <cstdlib>
 #include <optional>
 
-#include "platform/forms/input.h"
+#include "platform/forms/form.h"
 
 namespace orvanta {
 
@@ -15,10 +15,11 @@ class WindowGrip {
   void take(const forms::Mouse& mouse) { grip_ = mouse; }
   void drop() { grip_.reset(); }
   /// True once for each grip: the window follows the hand from here on.
-  bool dragStarts(const forms::Mouse& mouse) {
+  bool drags(const forms::Form& form, const forms::Mouse& mouse) {
     constexpr int kStarts = 60;  // twips
     if (!grip_ || std::max(std::abs(mouse.x - grip_->x), std::abs(mouse.y - grip_->y)) < kStarts) return false;
     grip_.reset();
+    if (form.view() != nullptr) form.view()->drag();
     return true;
   }
 

@@ -1,25 +1,18 @@
 // Mouse, wheel and keys on the strip. A handler that may unload the window does so as its last step.
 #include "strip/strip_events.h"
 
-#include <algorithm>
-#include <string_view>
+#include "faceplate/routes.h"
 
 namespace orvanta {
 
 namespace {
 
 constexpr int kHelpTopic = 21;
-constexpr int kEach = -2;  ///< any of the array; its place counts from 1 in the argument
+constexpr int kEach = RouteRow::kEach;
 constexpr int kOne = forms::kNoIndex;
 
-struct Row {
-  std::string_view name;
-  int index;
-  Action action;
-};
-
 /// Both faces of a key that can be had are the key.
-constexpr Row kRows[] = {
+constexpr RouteRow kRows[] = {
     {"Image1", 0, Action::Previous},     {"Image1", 1, Action::Next},          {"Image1", 2, Action::Play},
     {"Image1", 3, Action::Pause},        {"Image1", 4, Action::Stop},          {"Image2", 0, Action::Previous},
     {"Image2", 1, Action::Next},         {"Image2", 2, Action::Play},          {"Image2", 3, Action::Pause},
@@ -27,13 +20,6 @@ constexpr Row kRows[] = {
     {"Label9", kOne, Action::TimeMode},  {"Label21", kOne, Action::Repeat},    {"Image9", kEach, Action::Link},
     {"PctL", kOne, Action::SilenceLeft}, {"PctR", kOne, Action::SilenceRight},
 };
-
-const Row* rowOf(const forms::Control& control) {
-  const auto* row = std::find_if(std::begin(kRows), std::end(kRows), [&](const Row& each) {
-    return each.name == control.name() && (each.index == kEach || each.index == control.index());
-  });
-  return row == std::end(kRows) ? nullptr : row;
-}
 
 }  // namespace
 
@@ -59,25 +45,22 @@ void StripEvents::mouseDown(forms::Control* control, const forms::Mouse& mouse) 
     grip_.take(mouse);
     return;
   }
-  const Row* row = rowOf(*control);
+  const auto route = routeIn(kRows, *control);
   // A press that is refused leaves the key where it is; it ends Intro all the same.
-  const bool taken = row == nullptr ? control->available() : on_.actions.enabled(row->action, control->index() + 1);
+  const bool taken = route ? on_.actions.enabled(route->action, route->argument) : control->available();
   if (taken) press_.down(*control);
   if (control->name() == "Image9" && state_.settings.soundMode == kMixerProgram) {
     // The mixer program's channels cannot be parted.
     on_.sounds.beep();
-  } else if (row != nullptr) {
-    on_.actions.press(row->action);
+  } else if (route) {
+    on_.actions.press(route->action);
   } else if (taken && control->tabStop) {
     on_.actions.click();
   }
 }
 
 void StripEvents::mouseMove(forms::Control* control, const forms::Mouse& mouse) {
-  if (grip_.dragStarts(mouse)) {
-    if (form_.view() != nullptr) form_.view()->drag();
-    return;
-  }
+  if (grip_.drags(form_, mouse)) return;
   if (control != nullptr && form_.pressed() == control) on_.sliders.pair().mouseMove(*control, mouse);
 }
 
@@ -104,15 +87,15 @@ void StripEvents::rightReleased(const forms::Control* control) {
 }
 
 void StripEvents::released(forms::Control& control, const forms::Mouse& mouse) {
-  const Row* row = rowOf(control);
+  const auto route = routeIn(kRows, control);
   if (!mouse.over) {
-    if (row != nullptr) on_.actions.letGo(row->action);
+    if (route) on_.actions.letGo(route->action);
     return;
   }
   const bool percent = &control == &form_.PctL || &control == &form_.PctR;
   if (percent && form_.Image7.visible) return;
-  if (row != nullptr) {
-    on_.actions.release(row->action, control.index() + 1);
+  if (route) {
+    on_.actions.release(route->action, route->argument);
   } else if (&control == &form_.Label12 || &control == &form_.Label13) {
     titleReleased(control);
   } else {

@@ -1,4 +1,4 @@
-// The picture goes right and down, and leaves its hole behind.
+// The hole, one for all keys, is as large as the key.
 #include "strip/strip_press.h"
 
 #include <algorithm>
@@ -8,33 +8,17 @@
 namespace orvanta {
 
 /// At 15 twips a pixel the first two keys of the row go a little farther right.
-forms::Place StripPress::depth(const forms::Control& key) const {
-  if (!form_.smallFonts) return {10, 10, 0, 0};
-  const bool first = (key.name() == "Image1" || key.name() == "Image2") && key.index() <= 1;
-  return {first ? 20 : 10, 20, 0, 0};
-}
-
 void StripPress::down(forms::Control& control) {
   up();
   static constexpr std::array<std::string_view, 10> kKeys = {"Image1", "Image2",  "Image5", "Image7",  "Image6",
                                                              "Image8", "Image13", "Image3", "Image12", "Image9"};
   if (std::find(kKeys.begin(), kKeys.end(), control.name()) == kKeys.end()) return;
-  key_ = &control;
-  depth_ = depth(control);
   if (forms::Control* hole = control.with(forms::Role::Hole)) {
-    hole->move(control.left, control.top);
     hole->width = control.width.get();
     hole->height = control.height.get();
-    hole->visible = true;
   }
-  control.move(control.left + depth_.left, control.top + depth_.top);
-}
-
-void StripPress::up() {
-  if (key_ == nullptr) return;
-  key_->move(key_->left - depth_.left, key_->top - depth_.top);
-  if (forms::Control* hole = key_->with(forms::Role::Hole)) hole->visible = false;
-  key_ = nullptr;
+  const bool first = (control.name() == "Image1" || control.name() == "Image2") && control.index() <= 1;
+  key_.down(control, form_.smallFonts && first ? 20 : 10, form_.smallFonts ? 20 : 10);
 }
 
 }  // namespace orvanta

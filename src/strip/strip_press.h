@@ -1,26 +1,23 @@
 // Keys of the strip that give way under the mouse.
 #pragma once
 
+#include "faceplate/sunken_key.h"
 #include "windows/volcntl.h"
 
 namespace orvanta {
 
 class StripPress {
  public:
-  explicit StripPress(VolCntl& form) : form_(form) {}
+  explicit StripPress(const VolCntl& form) : form_(form) {}
 
-  /// Nothing for a control that is no key, or one that cannot be had.
+  /// Nothing for a control that is no such key.
   void down(forms::Control& control);
-  void up();
-  /// The window was laid out anew.
-  void forget() { key_ = nullptr; }
+  void up() { key_.up(); }
+  void forget() { key_.forget(); }
 
  private:
-  forms::Place depth(const forms::Control& key) const;
-
-  VolCntl& form_;
-  forms::Control* key_ = nullptr;
-  forms::Place depth_;  ///< how far the key stands from its place
+  const VolCntl& form_;
+  SunkenKey key_;
 };
 
 }  // namespace orvanta

@@ -236,6 +236,21 @@ TEST(View, ScreenReadersHearWhatKeysAreAndDo) {
   EXPECT_GT(deck.core.form.ThumbL.top, place);
 }
 
+TEST(View, ATaskButtonIsHeardByItsTitle) {
+  Deck deck;
+  deck.core.state.disc.trackTitles[1] = "One";
+  deck.core.state.disc.trackTitles[2] = "Two";
+  QTest::keyClicks(deck.window, "d");
+  deck.gate.enter([&] { deck.core.form.press(deck.core.form.Image7); });
+  FormWindow* button = windowOf(deck.core.iconForm);
+  ASSERT_TRUE(button->isMinimized());
+  for (const char* title : {"Orvanta [One]", "Orvanta [Two]"}) {
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(button)->text(QAccessible::Name), title);
+    deck.gate.enter([&] { deck.core.actions().run(Action::TrackAfter); });
+    deck.clock.advance(1000);
+  }
+}
+
 TEST(View, PaintsWhatChanges) {
   Deck deck;
   const CDForm& form = deck.core.form;

@@ -72,6 +72,15 @@ class AccessibleParent : public QAccessibleWidget {
   }
 };
 
+/// Heard by its title, which Qt forgets of one that is minimised: a task button is nothing else.
+class AccessibleWindow : public AccessibleParent {
+ public:
+  explicit AccessibleWindow(FormWindow& window) : AccessibleParent(&window, QAccessible::Window) {}
+  QString text(QAccessible::Text kind) const override {
+    return kind == QAccessible::Name ? widget()->windowTitle() : AccessibleParent::text(kind);
+  }
+};
+
 class AccessibleControl : public AccessibleParent {
  public:
   explicit AccessibleControl(ControlWidget& widget) : AccessibleParent(&widget, roleOf(widget.control())), widget_(widget) {}
@@ -123,7 +132,7 @@ class AccessibleControl : public AccessibleParent {
 QAccessibleInterface* make(const QString& /*className*/, QObject* object) {
   if (auto* widget = dynamic_cast<ControlWidget*>(object)) return new AccessibleControl(*widget);
   auto* window = dynamic_cast<FormWindow*>(object);
-  return window == nullptr ? nullptr : new AccessibleParent(window, QAccessible::Window);
+  return window == nullptr ? nullptr : new AccessibleWindow(*window);
 }
 
 void tell(ControlWidget& widget, QAccessible::Event what) {
@@ -138,6 +147,12 @@ bool testNames() { return qEnvironmentVariableIntValue("ORVANTA_TEST_NAMES") == 
 void useAccessibleControls() {
   static const bool kInstalled = (QAccessible::installFactory(&make), true);
   Q_UNUSED(kInstalled);
+}
+
+void titleChanged(FormWindow& window) {
+  if (!QAccessible::isActive()) return;
+  QAccessibleEvent event(&window, QAccessible::NameChanged);
+  QAccessible::updateAccessibility(&event);
 }
 
 void nameChanged(ControlWidget& widget) {

@@ -4,6 +4,7 @@
 namespace orvanta {
 
 class ControlWidget;
+class FormWindow;
 
 /// ORVANTA_TEST_NAMES=1: descriptions are the controls' names, so that tests find them.
 bool testNames();
@@ -12,6 +13,7 @@ bool testNames();
 void useAccessibleControls();
 
 // Tell a screen reader, if there is one, what changed.
+void titleChanged(FormWindow& window);
 void nameChanged(ControlWidget& widget);
 void stateChanged(ControlWidget& widget);
 void focusChanged(ControlWidget& widget);

@@ -135,7 +135,10 @@ void FormWindow::follow(forms::Control& control, Change change) {
 }
 
 void FormWindow::followForm(Change change) {
-  if (change == Change::Text) setWindowTitle(toQt(form_.caption));
+  if (change == Change::Text) {
+    setWindowTitle(toQt(form_.caption));
+    titleChanged(*this);
+  }
   if (change == Change::Geometry) {
     placeWindow();
     for (const auto& [control, widget] : widgets_) widget->showIfInside();

@@ -30,8 +30,8 @@ Qt::WindowFlags flagsOf(const forms::WindowTraits& traits) {
 
 void tellDesktop(QWidget& window, const forms::WindowTraits& traits) {
   const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-  if (x11 == nullptr || traits.inTaskbar || window.isVisible()) return;
-  xcb_connection_t* server = x11->connection();
+  xcb_connection_t* server = x11 == nullptr ? nullptr : x11->connection();
+  if (server == nullptr || traits.inTaskbar || window.isVisible()) return;
   // What Qt has to say of the window's state it adds when it shows it.
   const std::array<xcb_atom_t, 2> states = {atomOf(server, "_NET_WM_STATE_SKIP_TASKBAR"), atomOf(server, "_NET_WM_STATE_SKIP_PAGER")};
   xcb_change_property(server, XCB_PROP_MODE_REPLACE, static_cast<xcb_window_t>(window.winId()), atomOf(server, "_NET_WM_STATE"),

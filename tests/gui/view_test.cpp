@@ -68,7 +68,7 @@ TEST(View, EveryKeyIsWhatItSays) {
       {Qt::Key_Tab, kTab},       {Qt::Key_Backtab, kTab},         {Qt::Key_Return, kEnter}, {Qt::Key_Enter, kEnter},
       {Qt::Key_Left, kLeft},     {Qt::Key_Right, kRight},         {Qt::Key_Up, kUp},        {Qt::Key_Down, kDown},
       {Qt::Key_Escape, kEscape}, {Qt::Key_Backspace, kBackspace}, {Qt::Key_Help, kHelp},    {Qt::Key_F1, kF1},
-      {Qt::Key_F7, kF1 + 6},     {Qt::Key_F12, kF1 + 11}};
+      {Qt::Key_F7, kF1 + 6},     {Qt::Key_F12, kF1 + 11},         {Qt::Key_Menu, kMenu}};
   std::set<int> codes;
   for (const auto& [qtKey, code] : named) {
     EXPECT_EQ(keyPress(QKeyEvent(QEvent::KeyPress, qtKey, Qt::NoModifier)).code, code) << qtKey;
@@ -84,6 +84,8 @@ TEST(View, EveryKeyIsWhatItSays) {
   const forms::KeyPress all = keyPress(QKeyEvent(QEvent::KeyPress, Qt::Key_A, Qt::ShiftModifier | Qt::AltModifier, "a", true));
   EXPECT_TRUE(all.shift && all.alt && all.repeats && !all.control);
   EXPECT_TRUE(keyPress(QKeyEvent(QEvent::KeyPress, Qt::Key_Backtab, Qt::ControlModifier)).shift);
+  EXPECT_EQ(keyPress(QKeyEvent(QEvent::KeyPress, Qt::Key_F10, Qt::ShiftModifier)).code, kMenu);
+  EXPECT_EQ(keyPress(QKeyEvent(QEvent::KeyPress, Qt::Key_F10, Qt::NoModifier)).code, kF1 + 9);
 }
 
 /// A drag over the window from a source that offers these actions, let go on it: what the source is told was done.

@@ -164,6 +164,12 @@ void FormWindow::followFocus(forms::Control* control) {
   focusChanged(*focused_);
 }
 
+QRect FormWindow::focusPlace() const {
+  if (focused_ == nullptr || !form_.focusShown() || !focused_->isVisible()) return {};
+  const QRect own = focused_->controlRect();
+  return {focused_->mapToGlobal(own.topLeft()), own.size()};
+}
+
 void FormWindow::press(forms::Control& control) {
   road_.enter([&](Form& form) { form.press(control); });
 }

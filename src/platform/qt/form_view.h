@@ -31,6 +31,8 @@ class FormWindow : public QWidget {
   void follow(forms::Control& control, forms::Change change);
   void followForm(forms::Change change);
   void followFocus(forms::Control* control);
+  /// Of the control that is marked as having the focus, on the screen; empty without one.
+  QRect focusPlace() const;
   void paintNow(forms::Control& control);
   void drag() { drag_.begin(); }
 

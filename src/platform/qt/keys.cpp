@@ -33,7 +33,9 @@ int keyCode(int qtKey) {
 
 forms::KeyPress keyPress(const QKeyEvent& event) {
   const auto modifiers = event.modifiers();
-  return {keyCode(event.key()), (modifiers & Qt::ShiftModifier) != 0 || event.key() == Qt::Key_Backtab,
+  // As on keyboards without a key for the menu.
+  const bool menu = event.key() == Qt::Key_F10 && modifiers == Qt::ShiftModifier;
+  return {menu ? forms::key::kMenu : keyCode(event.key()), (modifiers & Qt::ShiftModifier) != 0 || event.key() == Qt::Key_Backtab,
           (modifiers & Qt::ControlModifier) != 0, (modifiers & Qt::AltModifier) != 0, event.isAutoRepeat()};
 }
 

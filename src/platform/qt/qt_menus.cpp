@@ -11,6 +11,7 @@
 #include <algorithm>
 
 #include "platform/ports/screen.h"
+#include "platform/qt/form_view.h"
 #include "platform/qt/to_qt.h"
 
 namespace orvanta {
@@ -47,10 +48,12 @@ bool standsFor(const QAction& action, const MenuItem& item) {
   return action.data().toString() == toQt(item.name) && (action.menu() == nullptr) == item.items.empty();
 }
 
-/// Over the window in use where a key asked, or a press that the mouse did not make.
+/// Where a key asked, or a press that the mouse did not make: below the control that shows the focus, else over the window in use.
 QPoint placeOver(const QWidget* window, bool byKey) {
   const QPoint mouse = QCursor::pos();
   if (window == nullptr || (!byKey && window->frameGeometry().contains(mouse))) return mouse;
+  const auto* deck = dynamic_cast<const FormWindow*>(window);
+  if (const QRect focus = deck == nullptr ? QRect() : deck->focusPlace(); !focus.isEmpty()) return focus.bottomLeft() + QPoint(0, 1);
   constexpr int kPart = 8;  // of the window's width and height
   return window->mapToGlobal(QPoint(window->width() / kPart, window->height() / kPart));
 }

@@ -241,9 +241,17 @@ class FakeTray : public Tray {
 
 class FakeView : public forms::FormView {
  public:
-  explicit FakeView(Tape& tape) : tape_(tape) {}
-  void show() override { tape_.push_back("show"); }
-  void hide() override { tape_.push_back("hide"); }
+  using Shown = std::vector<const forms::Form*>;
+  FakeView(const forms::Form& form, Tape& tape, Shown& shown) : form_(form), tape_(tape), shown_(shown) {}
+  void show() override {
+    tape_.push_back("show");
+    std::erase(shown_, &form_);
+    shown_.push_back(&form_);
+  }
+  void hide() override {
+    tape_.push_back("hide");
+    std::erase(shown_, &form_);
+  }
   void raise() override { tape_.push_back("raise"); }
   void changed(forms::Control& control, forms::Change /*change*/) override { tape_.push_back(control.fullName()); }
   void formChanged(forms::Change /*change*/) override { tape_.push_back("form"); }
@@ -252,13 +260,16 @@ class FakeView : public forms::FormView {
   void drag() override { tape_.push_back("drag"); }
 
  private:
+  const forms::Form& form_;
   Tape& tape_;
+  Shown& shown_;
 };
 
 class FakeDesktop : public forms::Desktop {
  public:
-  std::unique_ptr<forms::FormView> open(forms::Form& /*form*/) override { return std::make_unique<FakeView>(tape); }
+  std::unique_ptr<forms::FormView> open(forms::Form& form) override { return std::make_unique<FakeView>(form, tape, shown); }
   Tape tape;
+  FakeView::Shown shown;  ///< the one in front last
 };
 
 class FakeAuxVolume : public AuxVolume {

@@ -8,6 +8,7 @@
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
+#include <ranges>
 #include <sstream>
 
 #include "base/code_page.h"
@@ -53,6 +54,17 @@ class Scene {
     for (const std::string& line : asked(std::exchange(asked_, ""))) tell(line);
     if (rig_.gate.ended() && !std::exchange(ended_, true)) tell("the end");
     return told;
+  }
+
+  std::string where() const {
+    if (rig_.gate.ended()) return "the end";
+    std::string all;
+    for (const forms::Form* form : rig_.desktop.shown | std::views::reverse) {
+      const forms::Control* focus = form->minimised ? nullptr : form->activeControl();
+      all += (all.empty() ? "" : ", ") + form->name() + (form->minimised ? " minimised" : "") +
+             (focus == nullptr ? "" : " at " + focus->fullName());
+    }
+    return all + (rig_.systemTray.told == nullptr ? "" : ", icon");
   }
 
  private:
@@ -484,6 +496,15 @@ void expectTranscript(const std::string& name) { expectKept(name, played); }
 void expectAnswers(const std::string& name, const std::function<std::string(const std::string&)>& answer) {
   expectKept(name, [&](const std::string& file) {
     return retold(file, [&](const std::string& line) { return line.starts_with("> ") ? printed(answer(unescaped(line.substr(2)))) : ""; });
+  });
+}
+
+void expectWays(const std::string& name) {
+  expectAnswers(name, [](const std::string& line) {
+    const size_t colon = line.find(" : ");
+    Scene scene(wordsOf(colon == std::string::npos ? "disc=B" : line.substr(0, colon)));
+    scene.run(wordsOf(colon == std::string::npos ? line : line.substr(colon + 3)));
+    return scene.where();
   });
 }
 

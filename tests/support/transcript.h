@@ -20,6 +20,10 @@ void expectTranscript(const std::string& name);
 /// the like for what is no plain character, each followed by its answer, indented; kept anew in the same way.
 void expectAnswers(const std::string& name, const std::function<std::string(const std::string& question)>& answer);
 
+/// Ways from window to window: "> [start :] acts", each followed by the windows that show then, the one in front first, with what has
+/// the focus there.
+void expectWays(const std::string& name);
+
 /// The bytes of tests/data/<name>, or `now` kept there where ORVANTA_KEEP_GOLDEN=1 asks for it.
 std::string kept(const std::string& name, const std::string& now);
 

@@ -15,5 +15,7 @@ INSTANTIATE_TEST_SUITE_P(All, Deck,
                                          "menus", "about"),
                          [](const auto& each) { return std::string(each.param); });
 
+TEST(DeckWays, LeadOutAndBack) { expectWays("answers/ways.txt"); }
+
 }  // namespace
 }  // namespace orvanta::test

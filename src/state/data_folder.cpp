@@ -36,7 +36,7 @@ std::string DataFolder::own(std::string_view name) const { return joinPath(ownFi
 void DataFolder::mark(DataFile file) const {
   FieldWriter zero;
   zero.text("0");
-  save(file, zero);
+  files_.writeMarker(path(file), zero.bytes());
 }
 
 }  // namespace orvanta

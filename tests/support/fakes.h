@@ -47,6 +47,7 @@ class FakeFiles : public Files {
     return true;
   }
   bool writeNamed(const std::string& path, std::string_view bytes) override { return write(path, bytes); }
+  bool writeMarker(const std::string& path, std::string_view bytes) override { return write(path, bytes); }
   bool remove(const std::string& path) override {
     tape.push_back("remove " + path);
     if (keeps) return false;

@@ -39,6 +39,9 @@ TEST_F(HostFilesTest, FindEveryElementInAnyCase) {
   EXPECT_FALSE(files.exists(at("data/other/ab.cd")));
   EXPECT_TRUE(files.writeNamed(at("Data/DATACD/ab.cd"), "a person's own name"));
   EXPECT_EQ(files.read(at("Data/DATACD/Ab.CD")), "new") << "another file";
+  EXPECT_TRUE(files.writeMarker(at("data/datacd/TWO.cd"), "0"));
+  EXPECT_EQ(files.read(at("Data/DATACD/two.CD")), "0");
+  EXPECT_FALSE(files.writeMarker(at("data/other/two.cd"), "0"));
   EXPECT_TRUE(files.remove(at("data/datacd/two.cd")));
   EXPECT_FALSE(files.exists(at("Data/DATACD/two.CD")));
 }

@@ -63,13 +63,13 @@ mode_t modeOf(const std::string& path) {
   return ::stat(path.c_str(), &info) == 0 ? info.st_mode & 0777U : kUsual;
 }
 
-/// The errno of what went wrong; 0: all of it is on the disk.
-int putFresh(const std::string& path, std::string_view bytes, mode_t mode) {
+/// The errno of what went wrong; 0: all of it is on the disk, or, if that may wait, will be.
+int putFresh(const std::string& path, std::string_view bytes, mode_t mode, bool mayWait) {
   std::remove(path.c_str());
   const UniqueFd fd(::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode));
   if (!fd) return errno;
   errno = 0;
-  if (writeAll(fd.get(), bytes) && ::fsync(fd.get()) == 0) return 0;
+  if (writeAll(fd.get(), bytes) && (mayWait || ::fsync(fd.get()) == 0)) return 0;
   return errno != 0 ? errno : EIO;
 }
 
@@ -109,19 +109,21 @@ std::optional<std::string> HostFiles::read(const std::string& path) const {
   return bytes;
 }
 
-bool HostFiles::write(const std::string& path, std::string_view bytes) { return replace(behindLinks(actual(path)), bytes); }
+bool HostFiles::write(const std::string& path, std::string_view bytes) { return replace(behindLinks(actual(path)), bytes, false); }
 
-bool HostFiles::writeNamed(const std::string& path, std::string_view bytes) { return replace(behindLinks(path), bytes); }
+bool HostFiles::writeNamed(const std::string& path, std::string_view bytes) { return replace(behindLinks(path), bytes, false); }
+
+bool HostFiles::writeMarker(const std::string& path, std::string_view bytes) { return replace(behindLinks(actual(path)), bytes, true); }
 
 /// The fresh file's name is this process's own: two that save at once do not write into one another's.
-bool HostFiles::replace(const std::string& target, std::string_view bytes) {
+bool HostFiles::replace(const std::string& target, std::string_view bytes, bool mayWait) {
   const std::string fresh = target + "." + std::to_string(::getpid()) + ".new";
-  error_ = putFresh(fresh, bytes, modeOf(target));
+  error_ = putFresh(fresh, bytes, modeOf(target), mayWait);
   if (error_ == 0 && std::rename(fresh.c_str(), target.c_str()) != 0) error_ = errno;
-  if (error_ == 0) {
-    syncFolder(target);
-  } else {
+  if (error_ != 0) {
     std::remove(fresh.c_str());
+  } else if (!mayWait) {
+    syncFolder(target);
   }
   return error_ == 0;
 }

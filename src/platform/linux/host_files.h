@@ -10,6 +10,7 @@ class HostFiles : public Files {
   std::optional<std::string> read(const std::string& path) const override;
   bool write(const std::string& path, std::string_view bytes) override;
   bool writeNamed(const std::string& path, std::string_view bytes) override;
+  bool writeMarker(const std::string& path, std::string_view bytes) override;
   bool remove(const std::string& path) override;
   std::string reason() const override;
   bool exists(const std::string& path) const override;
@@ -22,7 +23,7 @@ class HostFiles : public Files {
   static std::string actual(const std::string& path);
 
  private:
-  bool replace(const std::string& target, std::string_view bytes);
+  bool replace(const std::string& target, std::string_view bytes, bool mayWait);
 
   int error_ = 0;  ///< errno of the last write, removal or folder, 0 for a good one
 };

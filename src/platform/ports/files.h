@@ -27,6 +27,8 @@ class Files {
   virtual bool write(const std::string& path, std::string_view bytes) = 0;
   /// The same, for a name that a person chose: one that differs in its letter case is another file.
   virtual bool writeNamed(const std::string& path, std::string_view bytes) = 0;
+  /// The same for a file that need not outlive a crash of the machine: it does not wait for the disk.
+  virtual bool writeMarker(const std::string& path, std::string_view bytes) = 0;
   /// True when the file is gone afterwards.
   virtual bool remove(const std::string& path) = 0;
   /// Why the last write or removal failed, in the system's words ("No space left on device"); "" after one that did not.

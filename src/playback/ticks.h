@@ -20,7 +20,7 @@ class Ticks {
   void wake();
 
   static constexpr int kTimer2Interval = 100;  ///< milliseconds
-  static constexpr int kRestInterval = 300;
+  static constexpr int kRestInterval = 500;
 
  private:
   void tick();

@@ -15,7 +15,7 @@ namespace {
 
 constexpr size_t kPairBytes = 4;
 constexpr size_t kHeldPairs = kMostHeldPairs;
-constexpr size_t kAskedPairs = kHeldPairs / 4;    ///< what the server asks for at a time
+constexpr size_t kAskedPairs = kHeldPairs / 2;    ///< what the server asks for at a time: each asking wakes two processes
 constexpr size_t kStartPairs = kSampleRate / 20;  ///< sound begins with so many, and again after a drive that was late
 constexpr size_t kNearPairs = kSampleRate / 50;   ///< too close to being heard to be sent anew
 constexpr pa_usec_t kLate = 20000;                ///< microseconds until a feed that was empty is asked again

@@ -30,7 +30,6 @@
 #include "platform/linux/signals.h"
 #include "platform/ports/facts.h"
 #include "platform/qt/fonts.h"
-#include "platform/qt/icons.h"
 #include "platform/qt/late_net.h"
 #include "platform/qt/late_printer.h"
 #include "platform/qt/qt_clock.h"
@@ -329,7 +328,6 @@ int run(int argc, char** argv) {
   QApplication application(argc, argv);
   QApplication::setApplicationName(QStringLiteral("Orvanta LX"));
   QApplication::setQuitOnLastWindowClosed(false);
-  QApplication::setWindowIcon(applicationIcon());
   watchTurns();
   return live(application, options, host, drive);
 }

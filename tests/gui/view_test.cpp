@@ -282,16 +282,41 @@ TEST(View, AnHourOfPlayKeepsNoMorePicturesThanAMinute) {
       return digits->grab().toImage();
     };
     for (int second = 0; second < 1200; ++second) showSecond(second);
-    const qsizetype glows = deck.window->glows().count();
-    const qsizetype surfaces = deck.window->artCache().count();
+    const qsizetype glows = deck.window->stock().glows.count();
+    const qsizetype surfaces = deck.window->stock().pictures.count();
     EXPECT_LT(glows, 120) << "ten digits at each place, and the display's words";
     for (int second = 1200; second < 3600; ++second) showSecond(second);
-    EXPECT_LE(deck.window->glows().count(), glows + 4) << factor;
-    EXPECT_EQ(deck.window->artCache().count(), surfaces);
+    EXPECT_LE(deck.window->stock().glows.count(), glows + 4) << factor;
+    EXPECT_EQ(deck.window->stock().pictures.count(), surfaces);
     // What was kept is what a new deck would draw.
     Deck other(factor);
     other.core.form.Label10.caption = "59:59";
     EXPECT_EQ(showSecond(3599), other.window->widgetOf(other.core.form.Label10)->grab().toImage());
+  }
+}
+
+TEST(View, AFirstPaintFindsItsPicturesDrawn) {
+  for (const double factor : {1.0, 1.5, 2.0}) {
+    Deck deck(factor);
+    deck.picture();
+    std::map<std::string, std::set<std::string>> byKey;
+    for (const forms::Control* control : deck.core.form.controls()) {
+      const ControlWidget* widget = deck.window->widgetOf(*control);
+      const std::string key = widget->pictureKey();
+      if (!widget->isVisible() || key.empty()) continue;
+      byKey[key].insert(control->name());
+      const QImage* kept = deck.window->stock().pictures.find(key);
+      ASSERT_NE(kept, nullptr) << control->fullName();
+      Fonts fonts;
+      ArtCache pictures(ArtCache::kSurfaces);
+      ArtCache glows(ArtCache::kGlows);
+      EXPECT_EQ(*kept, widget->picture({fonts, pictures, glows})) << control->fullName() << " is the same from any thread";
+    }
+    EXPECT_GE(byKey.size(), 14U) << "metal, panels, door, glass, and a cap of each kind";
+    EXPECT_EQ(std::count_if(byKey.begin(), byKey.end(), [](const auto& kept) { return kept.first.rfind("key:number up", 0) == 0; }), 1);
+    // The desktop's icon comes behind.
+    QCoreApplication::processEvents();
+    EXPECT_EQ(QApplication::windowIcon().availableSizes().size(), 7);
   }
 }
 

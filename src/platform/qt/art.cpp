@@ -72,6 +72,15 @@ std::string surfaceKey(const forms::Control& control) {
   return key;
 }
 
+std::string capKey(const forms::Control& control) {
+  const Name name = nameOf(control);
+  const bool plain = name.art == "key" && (name.detail.empty() || name.detail == "number" || name.detail == "small");
+  if ((!plain && name.art != "mode") || control.kind() == forms::Kind::Button) return {};
+  const auto* image = dynamic_cast<const forms::Image*>(&control);
+  if (image != nullptr && !image->picture.get().empty()) return {};
+  return control.art + (control.form().pressed() == &control ? " down" : " up");
+}
+
 QImage drawingOf(const forms::Control& control, double factor) {
   const Scale scale{factor, control.form().smallFonts ? 15 : 12};
   QImage picture(scale.rect(0, 0, control.width, control.height).size(), QImage::Format_RGB32);

@@ -50,8 +50,10 @@ void paintControl(Art& art);
 /// A control's drawing alone, on black, so many device pixels to a design pixel.
 QImage drawingOf(const forms::Control& control, double factor);
 
-/// What a drawing depends on when it is worth keeping; "" when it is not.
+/// What a drawing depends on, beside its place and size, when it is worth keeping; "" when it is not.
 std::string surfaceKey(const forms::Control& control);
+/// The same for caps that look alike wherever they lie: there are twenty number keys.
+std::string capKey(const forms::Control& control);
 
 /// How far a drawing reaches beyond its control, for glow and shadow; design pixels.
 double bleedOf(const forms::Control& control);

@@ -73,28 +73,31 @@ void ControlWidget::paintEvent(QPaintEvent* /*event*/) {
 
 void ControlWidget::paintPicture() {
   QPainter painter(this);
-  std::string key = surfaceKey(control_);
-  if (key.empty()) {
-    paintArt(painter);
-    return;
-  }
-  const QPoint inWindow = mapTo(&window_, QPoint(0, 0));
-  key += ' ' + std::to_string(inWindow.x()) + ' ' + std::to_string(inWindow.y()) + ' ' + std::to_string(width()) + ' ' +
-         std::to_string(height());
-  const QImage* picture = window_.artCache().find(key);
-  if (picture == nullptr) {
-    QImage fresh(size(), QImage::Format_ARGB32_Premultiplied);
-    fresh.fill(Qt::transparent);
-    {
-      QPainter inner(&fresh);
-      paintArt(inner);
-    }
-    picture = &window_.artCache().keep(key, std::move(fresh));
-  }
-  painter.drawImage(0, 0, *picture);
+  const Stock stock = window_.stock();
+  const std::string key = pictureKey();
+  if (key.empty()) return paintArt(painter, stock);
+  const QImage* kept = stock.pictures.find(key);
+  painter.drawImage(0, 0, kept != nullptr ? *kept : stock.pictures.keep(key, picture(stock)));
 }
 
-void ControlWidget::paintArt(QPainter& painter) {
+std::string ControlWidget::pictureKey() const {
+  const std::string size = ' ' + std::to_string(width()) + ' ' + std::to_string(height());
+  if (const std::string cap = capKey(control_); !cap.empty()) return cap + size;
+  const std::string surface = surfaceKey(control_);
+  if (surface.empty()) return {};
+  const QPoint inWindow = mapTo(&window_, QPoint(0, 0));
+  return surface + ' ' + std::to_string(inWindow.x()) + ' ' + std::to_string(inWindow.y()) + size;
+}
+
+QImage ControlWidget::picture(const Stock& stock) const {
+  QImage fresh(size(), QImage::Format_ARGB32_Premultiplied);
+  fresh.fill(Qt::transparent);
+  QPainter painter(&fresh);
+  paintArt(painter, stock);
+  return fresh;
+}
+
+void ControlWidget::paintArt(QPainter& painter, const Stock& stock) const {
   const Scale& scale = window_.scale();
   const QRect own = controlRect();
   painter.setRenderHint(QPainter::Antialiasing);
@@ -104,9 +107,9 @@ void ControlWidget::paintArt(QPainter& painter) {
   const QPoint inWindow = mapTo(&window_, own.topLeft());
   Art art{painter,
           control_,
-          window_.fonts(),
-          window_.artCache(),
-          window_.glows(),
+          stock.fonts,
+          stock.pictures,
+          stock.glows,
           plain,
           scale.factor,
           15.0 / scale.twipsPerPixel,

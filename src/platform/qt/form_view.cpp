@@ -16,7 +16,9 @@
 
 #include "base/log.h"
 #include "platform/qt/accessible.h"
+#include "platform/qt/icons.h"
 #include "platform/qt/keys.h"
+#include "platform/qt/picture_threads.h"
 #include "platform/qt/to_qt.h"
 #include "platform/qt/window_traits.h"
 
@@ -120,6 +122,7 @@ void FormWindow::showWanted(bool wanted) {
   const bool shows = wanted && onScreen();
   if (shows) tellDesktop(*this, form_.traits());
   if (shows && form_.minimised) {
+    giveWindowIcon();
     showMinimized();
   } else {
     setVisible(shows);
@@ -295,11 +298,24 @@ void FormWindow::paintEvent(QPaintEvent* event) {
   const Colour back = form_.backColor;
   if (!painted_) {
     painted_ = true;
-    if (logs("paint")) QTimer::singleShot(0, this, [] { logLine("paint", "first"); });
+    drawSurfaces();
+    QTimer::singleShot(0, this, [] {
+      if (logs("paint")) logLine("paint", "first");
+      giveWindowIcon();
+    });
   }
   painter.fillRect(event->rect(),
                    QColor(static_cast<int>(back & 0xFFU), static_cast<int>(back >> 8U & 0xFFU), static_cast<int>(back >> 16U & 0xFFU)));
   if (form_.traits().bodyless) windowIcon().paint(&painter, rect());
+}
+
+/// All that a first paint will find kept, on as many threads as there are: half of the time that a picture takes.
+void FormWindow::drawSurfaces() {
+  std::vector<const ControlWidget*> shown;
+  for (const auto& [control, widget] : widgets_) {
+    if (widget->isVisible()) shown.push_back(widget);
+  }
+  keepPictures(shown, artCache_);
 }
 
 void FormWindow::changeEvent(QEvent* event) {

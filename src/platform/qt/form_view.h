@@ -42,9 +42,7 @@ class FormWindow : public QWidget {
   void step(forms::Control& control, int steps);
 
   const Scale& scale() const { return scale_; }
-  Fonts& fonts() const { return fonts_; }
-  ArtCache& artCache() { return artCache_; }
-  ArtCache& glows() { return glows_; }
+  Stock stock() { return {fonts_, artCache_, glows_}; }
   forms::Form& form() const { return form_; }
   ControlWidget* widgetOf(const forms::Control& control) const;
 
@@ -72,6 +70,7 @@ class FormWindow : public QWidget {
 
  private:
   void build();
+  void drawSurfaces();
   void placeWindow();
   bool onScreen() const;
   forms::Control* hit(const QPoint& place) const;

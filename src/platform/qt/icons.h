@@ -1,11 +1,10 @@
 // The program's pictures for the desktop.
 #pragma once
 
-#include <QIcon>
-
 namespace orvanta {
 
-/// Of its windows and task buttons, in every size that there is a drawing for.
-QIcon applicationIcon();
+/// Gives the program's windows and task buttons their icon, in every size that there is a drawing for; once. It is more
+/// to send to the desktop than all the rest of a start, so that the first window does this when it has been painted.
+void giveWindowIcon();
 
 }  // namespace orvanta

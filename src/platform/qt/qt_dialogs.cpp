@@ -1,6 +1,7 @@
 // Each box runs a loop of its own; when the process ended in it, control does not come back. No box has a parent: its
 // window may go while it stands.
 #include "platform/qt/qt_dialogs.h"
+#include "platform/qt/icons.h"
 
 #include <QApplication>
 #include <QFileDialog>
@@ -64,6 +65,7 @@ void putOver(QDialog& box, const QWidget* window) {
 }  // namespace
 
 int QtDialogs::run(QDialog& box) {
+  giveWindowIcon();
   screen_.setPointer(Pointer::Normal);
   box.setWindowModality(Qt::ApplicationModal);
   putOver(box, QApplication::activeWindow());

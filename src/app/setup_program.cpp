@@ -1,7 +1,7 @@
 // To the setup and back.
 #include "app/setup_program.h"
 
-#include "platform/ports/dialogs.h"
+#include "launch/how_ended.h"
 #include "platform/ports/processes.h"
 #include "platform/ports/system.h"
 #include "state/settings_files.h"
@@ -13,10 +13,10 @@ void SetupProgram::run() {
   const Settings& settings = state_.settings;
   ProcessRequest request{{ports_.system.companion("orvsetup"), "ACTIVELX"}, settings.appDir, WindowStyle::Normal};
   if (startUp_.dataFolderGiven()) request.arguments.insert(request.arguments.end(), {"--data", settings.appDir});
-  const int how = ports_.processes.runAndWait(request);
+  const auto how = ports_.processes.runAndWait(request);
   takeUp();
   form_.minimised = false;
-  if (how < 0) ports_.dialogs.message(BoxStyle::Warning, "Orvanta", "The setup program " + request.arguments[0] + " could not be run.");
+  tellHowEnded(ports_.dialogs, "The setup program " + request.arguments[0], how);
 }
 
 void SetupProgram::takeUp() {

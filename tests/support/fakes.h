@@ -148,7 +148,9 @@ class FakeProcesses : public Processes {
   }
   bool running(Id id) const override { return alive.count(id) > 0; }
   std::optional<int> result(Id id) const override { return running(id) ? std::nullopt : std::optional(exitCode); }
-  int runAndWait(const ProcessRequest& request) override { return start(request) != 0 ? exitCode : -1; }
+  std::optional<int> runAndWait(const ProcessRequest& request) override {
+    return start(request) != 0 ? std::optional(exitCode) : std::nullopt;
+  }
   bool nameRuns(const std::string& program) const override { return names.count(program) > 0; }
   std::string pathOf(const std::string& program) const override {
     const bool there = !bare && missing.count(program) == 0 && (installed.empty() || program[0] == '/' || installed.count(program) > 0);

@@ -38,8 +38,8 @@ TEST(KnownApplications, AreNotStartedTwice) {
 TEST(HostProcesses, AreWatchedAndLeaveNoZombie) {
   HostProcesses processes;
   EXPECT_EQ(processes.runAndWait({{"/bin/sh", "-c", "exit 3"}, "", WindowStyle::Normal}), 3);
-  EXPECT_EQ(processes.runAndWait({{"sh", "-c", "kill -9 $$"}, "", WindowStyle::Normal}), -1);
-  EXPECT_EQ(processes.runAndWait({{"/nowhere/program"}, "", WindowStyle::Normal}), -1);
+  EXPECT_EQ(processes.runAndWait({{"sh", "-c", "kill -9 $$"}, "", WindowStyle::Normal}), Processes::kBrokeOff);
+  EXPECT_EQ(processes.runAndWait({{"/nowhere/program"}, "", WindowStyle::Normal}), std::nullopt);
   EXPECT_EQ(processes.runAndWait({{"sh", "-c", "exit 0"}, "/a folder that has gone", WindowStyle::Normal}), 0);
   const TempFolder folder;
   std::filesystem::copy("/bin/true", folder / "here_and_gone");

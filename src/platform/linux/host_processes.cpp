@@ -91,7 +91,7 @@ Processes::Id HostProcesses::start(const ProcessRequest& request) {
 void HostProcesses::reap() const {
   for (auto& [id, ended] : children_) {
     int status = 0;
-    if (!ended && ::waitpid(id, &status, WNOHANG) != 0) ended = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    if (!ended && ::waitpid(id, &status, WNOHANG) != 0) ended = WIFEXITED(status) ? WEXITSTATUS(status) : kBrokeOff;
   }
 }
 
@@ -104,16 +104,17 @@ bool HostProcesses::running(Id id) const {
 std::optional<int> HostProcesses::result(Id id) const {
   reap();
   const auto found = children_.find(id);
-  return found == children_.end() ? std::optional(-1) : found->second;
+  return found == children_.end() ? std::optional(kBrokeOff) : found->second;
 }
 
-int HostProcesses::runAndWait(const ProcessRequest& request) {
+std::optional<int> HostProcesses::runAndWait(const ProcessRequest& request) {
   const Id id = start(request);
+  if (id == 0) return std::nullopt;
   while (running(id)) {
     yield_();
     std::this_thread::sleep_for(std::chrono::milliseconds(20));
   }
-  return id == 0 ? -1 : children_[id].value_or(-1);
+  return result(id);
 }
 
 bool HostProcesses::nameRuns(const std::string& program) const {

@@ -21,7 +21,7 @@ class HostProcesses : public Processes {
   Id start(const ProcessRequest& request) override;
   bool running(Id id) const override;
   std::optional<int> result(Id id) const override;
-  int runAndWait(const ProcessRequest& request) override;
+  std::optional<int> runAndWait(const ProcessRequest& request) override;
   bool nameRuns(const std::string& program) const override;
   std::string pathOf(const std::string& program) const override;
 

@@ -22,10 +22,12 @@ class Processes {
   virtual ~Processes() = default;
   virtual Id start(const ProcessRequest& request) = 0;
   virtual bool running(Id id) const = 0;
-  /// How it ended, 0 for well, -1 when it was killed; nullopt while it runs.
+  /// Of a program that did not end by itself: it was killed, or broke down.
+  static constexpr int kBrokeOff = -1;
+  /// How it ended, 0 for well, kBrokeOff; nullopt while it runs.
   virtual std::optional<int> result(Id id) const = 0;
-  /// Starts it and returns how it ended, delivering events meanwhile: 0 is good, -1 when it did not start or was killed.
-  virtual int runAndWait(const ProcessRequest& request) = 0;
+  /// Starts it and returns how it ended, as result() does, delivering events meanwhile; nullopt when it could not be started.
+  virtual std::optional<int> runAndWait(const ProcessRequest& request) = 0;
   /// True when a living process of this user has this program name, in any letter case.
   virtual bool nameRuns(const std::string& program) const = 0;
   /// Of a program that this user may run, by its path or by a name in PATH; "" when there is none.

@@ -13,7 +13,8 @@ std::string absolute(const std::string& path, const std::string& folder) {
 }
 
 bool takesValue(const std::string& option) {
-  return option == "--data" || option == "--drive" || option == "--disc" || option == "--audio" || option == "--scale";
+  return option == "--data" || option == "--drive" || option == "--disc" || option == "--audio" || option == "--scale" ||
+         option == "--search-engine";
 }
 
 std::string absoluteAudio(const std::string& value, const std::string& folder) {
@@ -27,6 +28,8 @@ void take(Options& options, const std::string& option, const std::string& value,
     options.host.drive = absolute(value, folder);
   } else if (option == "--disc") {
     options.disc = absolute(value, folder);
+  } else if (option == "--search-engine") {
+    options.host.engine = value;
   } else if (option == "--audio") {
     options.audio = absoluteAudio(value, folder);
     if (value != "default" && value != "null" && value.rfind("file:", 0) != 0) options.error = "--audio " + value;

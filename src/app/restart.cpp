@@ -30,6 +30,8 @@ void Restart::forDisc(const std::function<void()>& meanwhile) {
   data.mark(DataFile::HandOver);
   ProcessRequest request{{ports_.system.companion("orvanlx")}, folder, WindowStyle::Normal};
   for (const std::string& argument : ports_.system.handedOn()) request.arguments.push_back(argument);
+  const std::string& engine = state_.process.menusEngine;
+  if (!engine.empty()) request.arguments.insert(request.arguments.end(), {"--search-engine", engine});
   const std::string words = wordsForNext();
   if (!words.empty()) {
     request.arguments.push_back(words);

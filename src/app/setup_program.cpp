@@ -1,6 +1,8 @@
 // To the setup and back.
 #include "app/setup_program.h"
 
+#include <string>
+
 #include "launch/how_ended.h"
 #include "platform/ports/processes.h"
 #include "platform/ports/system.h"
@@ -22,9 +24,12 @@ void SetupProgram::run() {
 void SetupProgram::takeUp() {
   Settings& settings = state_.settings;
   const Display::Lit lit = display_.lit();
+  const std::string engine = settings.searchEngine;
   for (const auto file : {SettingsFile::Orvwin1, SettingsFile::Orvwin3, SettingsFile::Orvwin4, SettingsFile::Orvwin7}) {
     readSettings(file, ports_.files, settings.appDir, settings);
   }
+  // What was chosen last counts.
+  if (settings.searchEngine != engine) state_.process.menusEngine.clear();
   faceplate_.colours.loadorvanta1();
   faceplate_.colours.loadorvanta1b();
   if (settings.smallFaceplate != kOn) faceplate_.layout.sizeLarge();

@@ -54,6 +54,7 @@ void StartUp::run(const HostOptions& options) {
   findData(options);
   DataFolder(ports_.files, state_.settings.appDir).unmark(DataFile::HandOver);
   readSettingsFiles();
+  state_.process.menusEngine = options.engine;
   takeWord(options.words);
   if (options.play) state_.process.autoStartMode = true;
   ports_.screen.setPointer(Pointer::Normal);

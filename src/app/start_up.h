@@ -12,8 +12,9 @@ namespace orvanta {
 struct HostOptions {
   std::string dataDir;
   std::string drive;
-  std::string words;  ///< the program words, as one line
-  bool play = false;  ///< started by a deck that played: the disc was put in to be heard
+  std::string words;   ///< the program words, as one line
+  std::string engine;  ///< search engine that was chosen in the menu of a deck before
+  bool play = false;   ///< started by a deck that played: the disc was put in to be heard
 };
 
 /// Where this start finds its data and its drive: by the options, else by ORVWIN.INI; a data folder that was

@@ -141,6 +141,7 @@ struct ProcessState {
   bool autoStartMode = false;
   bool autoStartDone = false;
   bool playNext = false;     ///< a person put a disc in while another played: it is played in its turn
+  std::string menusEngine;   ///< search engine that was chosen in the menu, for as long as decks follow one another; "" for none
   bool setupWanted = false;  ///< the setup program is to run at the next tick of Timer3
   std::string systemDir;
   std::string windowsDir;
@@ -160,6 +161,9 @@ struct SharedState {
   LibraryState library;
   ProcessState process;
   Settings settings;
+
+  /// The menu's choice counts before that of the settings.
+  const std::string& searchEngine() const { return process.menusEngine.empty() ? settings.searchEngine : process.menusEngine; }
 
   /// At the load of the faceplate: disc, transport, program and display start afresh. Settings,
   /// the start's word and auto-start stay, since they were just read.

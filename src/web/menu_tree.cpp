@@ -134,8 +134,7 @@ MenuItem itemOf(On on, const MenuRow& row) {
 std::vector<MenuItem> engines(On on) {
   std::vector<MenuItem> items;
   for (const SearchEngine& engine : kSearchEngines) {
-    items.push_back(
-        {std::string(engine.item), shownText(engine.name), true, trim(on.state.settings.searchEngine) == engine.name, true, {}});
+    items.push_back({std::string(engine.item), shownText(engine.name), true, trim(on.state.searchEngine()) == engine.name, true, {}});
   }
   return items;
 }
@@ -178,7 +177,7 @@ MenuItem menuPart(const MenuParts& on, std::string_view name) {
 void choose(const MenuParts& on, std::string_view name) {
   const auto* const engine =
       std::find_if(kSearchEngines.begin(), kSearchEngines.end(), [&](const auto& each) { return each.item == name; });
-  if (engine != kSearchEngines.end()) on.state.settings.searchEngine = engine->name;
+  if (engine != kSearchEngines.end()) on.state.process.menusEngine = engine->name;
   const auto* const row = std::find_if(std::begin(kRows), std::end(kRows), [&](const MenuRow& each) { return each.name == name; });
   if (row == std::end(kRows) || row->chosen == nullptr) return;
   // While the menu stood, the disc may have gone.

@@ -31,7 +31,7 @@ void WebSearch::searchwww(Search kind) {
   const auto track = static_cast<size_t>(state_.transport.curTrack);
   const std::string song = track < disc.trackTitles.size() ? disc.trackTitles[track] : "";
   const std::string& other = kind == Search::ArtistAndTitle ? disc.discTitle : song;
-  showInstead(searchAddress(state_.settings.searchEngine, searchQuery(disc.discArtist, other, kind)));
+  showInstead(searchAddress(state_.searchEngine(), searchQuery(disc.discArtist, other, kind)));
 }
 
 std::string WebSearch::webSite() const { return std::string(trim(extraField(state_.disc, kWebSite))); }

@@ -42,8 +42,15 @@ struct CoreRig {
   SharedState& state = orvanta.state;
   Settings settings = defaultSettings("/data", "/drive");
   std::string words;                  ///< of the command line
+  std::string engine;                 ///< chosen in the menu of the deck before
   std::string entry = "Track01.cda";  ///< first name on the disc
   int playsFrom = 0;                  ///< another process has left the disc playing from this frame; 0: none
+
+  /// What the setup program leaves behind.
+  void chooseInSetup(const std::string& searchEngine) {
+    settings.searchEngine = searchEngine;
+    writeSettings(SettingsFile::Orvwin3, files, "/data", settings);
+  }
 
   /// Settings files on the disk, as a set-up leaves them.
   void install() {
@@ -54,7 +61,7 @@ struct CoreRig {
 
   void start(const std::string& commandWords = "") {
     gate.enter([&] {
-      orvanta.startUp({"", "", commandWords});
+      orvanta.startUp({"", "", commandWords, engine});
       orvanta.showFaceplate();
     });
   }

@@ -176,6 +176,7 @@ class Scene {
       return asked_ = act.verb, true;
     if (act.verb == "artist") return rig_.state.disc.discArtist = act.value, true;
     if (act.verb == "title") return rig_.state.disc.discTitle = act.value, true;
+    if (act.verb == "setup-engine") return rig_.chooseInSetup(act.value), true;
     if (act.verb == "site") return rig_.state.disc.extraInfo[3] = act.value, true;
     if (act.verb == "choose") return rig_.menus.choice = act.value, true;
     if (act.verb == "desktop-opens-with") return rig_.system.browser = act.value, true;

@@ -21,13 +21,15 @@ TEST(CommandLineWords, AreSortedByTheirEnding) {
 }
 
 TEST(Options, StandBeforeTheWords) {
-  const Options options =
-      readOptions({"--data", "here", "--audio=file:x.wav", "--scale", "1.5", "--disc", "/a/b.cue", "TRACK05.CDA", "--data"}, "/cur");
+  const Options options = readOptions({"--data", "here", "--audio=file:x.wav", "--scale", "1.5", "--disc", "/a/b.cue", "--search-engine",
+                                       "Ultimate Band List", "TRACK05.CDA", "--data"},
+                                      "/cur");
   EXPECT_EQ(options.error, "");
   EXPECT_EQ(options.host.dataDir, "/cur/here");
   EXPECT_EQ(options.audio, "file:/cur/x.wav");
   EXPECT_EQ(options.host.words, "TRACK05.CDA --data");
   EXPECT_EQ(options.disc, "/a/b.cue");
+  EXPECT_EQ(options.host.engine, "Ultimate Band List");
   EXPECT_EQ(options.handedOn(), (Tape{"--take-over", "--data", "/cur/here", "--audio", "file:/cur/x.wav", "--scale", "1.500000"}));
   const auto words = [](const char* word) { return readOptions({word}, "/cur").host.words; };
   EXPECT_EQ(words("bin/tool.exe") + " " + words("tool.exe") + " " + words("/opt/tool.exe") + " " + words("sub/track02.cda"),

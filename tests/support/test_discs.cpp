@@ -34,7 +34,8 @@ std::string trackLines(const std::vector<int>& lengths, int gap) {
 
 int total(const std::vector<int>& lengths) { return std::accumulate(lengths.begin(), lengths.end(), 0); }
 
-/// An ISO 9660 session of 20 blocks at `start`, its root folder holding one file; raw sectors of mode 1.
+/// An ISO 9660 session of 20 blocks at `start`, its root folder holding one file, and one that lies beyond the end; raw sectors of
+/// mode 1. A name of two bytes a character makes it a session of long names.
 std::string isoSectors(int start, const std::string& file, const std::string& content) {
   constexpr int kBlocks = 20;
   std::vector<std::string> blocks(kBlocks, std::string(2048, '\0'));
@@ -44,14 +45,16 @@ std::string isoSectors(int start, const std::string& file, const std::string& co
   std::string& volume = blocks[16];
   volume.replace(0, 7, std::string("\x01") + "CD001\x01");
   volume[156] = 34;
+  const bool isLong = file.find('\0') != std::string::npos;
+  if (isLong) volume[0] = 2, volume.replace(88, 2, "%/");
   put32(volume, 156 + 2, start + 18);
   put32(volume, 156 + 10, 2048);
   size_t at = 0;
-  const auto entry = [&](const std::string& name, char flags) {
+  const auto entry = [&](const std::string& name, char flags, int block = 19) {
     const size_t length = (33 + name.size() + 1) / 2 * 2;
     std::string& root = blocks[18];
     root[at] = static_cast<char>(length);
-    put32(root, at + 2, start + 19);
+    put32(root, at + 2, start + block);
     if (flags == 0) put32(root, at + 10, static_cast<int>(content.size()));
     root[at + 25] = flags;
     root[at + 32] = static_cast<char>(name.size());
@@ -61,7 +64,12 @@ std::string isoSectors(int start, const std::string& file, const std::string& co
   entry(std::string(1, '\0'), 2);
   entry("\x01", 2);
   entry("ADIR", 2);
-  entry(file + ";1", 0);
+  entry(isLong ? file : file + ";1", 0);
+  if (isLong)
+    entry(std::string("\0"
+                      "B",
+                      2),
+          0, kBlocks);
   blocks[19].replace(0, content.size(), content);
   std::string sectors;
   for (const std::string& block : blocks) {
@@ -106,6 +114,14 @@ std::string makeDisc(const TempFolder& folder, const std::vector<int>& lengths, 
   writeFile(folder / "disc.bin", frameBytes(kFirstFrame, gap + total(lengths)));
   writeFile(folder / "disc.cue", "FILE \"disc.bin\" BINARY\n" + trackLines(lengths, gap));
   return folder / "disc.cue";
+}
+
+std::string utf16(const std::u16string& text, bool big) {
+  std::string bytes;
+  for (const char16_t c : text) {
+    for (const int shift : {big ? 8 : 0, big ? 0 : 8}) bytes += static_cast<char>(c >> shift);
+  }
+  return bytes;
 }
 
 std::string makeEnhancedDisc(const TempFolder& folder, const std::vector<int>& lengths, const std::string& file,

@@ -36,7 +36,10 @@ std::string frameBytes(int first, int count);
 /// sound). Returns the sheet's path.
 std::string makeDisc(const TempFolder& folder, const std::vector<int>& lengths, int gap = 0);
 
+std::string utf16(const std::u16string& text, bool big);
+
 /// Audio tracks, then a data track whose root folder holds `file`, of at most 2048 bytes, and a folder that leads round to itself.
+/// A name in UTF-16, the higher byte first, is a long one; beside it lies a file "B" that cannot be read.
 std::string makeEnhancedDisc(const TempFolder& folder, const std::vector<int>& lengths, const std::string& file,
                              const std::string& content = "");
 

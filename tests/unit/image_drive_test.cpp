@@ -181,13 +181,6 @@ TEST(DiscImage, SoundFilesThatAreNoneAreToldApart) {
 
 TEST(DiscImage, FindsItsFilesHoweverTheirNamesAreWritten) {
   const TempFolder folder;
-  const auto utf16 = [](const std::u16string& text, bool big) {
-    std::string bytes;
-    for (const char16_t c : text) {
-      for (const int shift : {big ? 8 : 0, big ? 0 : 8}) bytes += static_cast<char>(c >> shift);
-    }
-    return bytes;
-  };
   const std::u16string name = u"Caf\u00E9 \u0439 \u304C \uD55C \u1EAD.bin";
   const std::u16string sheet = u"TITLE \"\U0001F3B5\"\nFILE \"" + name + u"\" BINARY\nTRACK 01 AUDIO\nINDEX 01 00:00:00\n";
   // On the disk the accents stand behind their letters, as some systems keep them.

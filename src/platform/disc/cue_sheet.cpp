@@ -6,8 +6,8 @@
 #include <charconv>
 #include <optional>
 
+#include "base/foreign_text.h"
 #include "base/text.h"
-#include "platform/disc/cue_text.h"
 #include "platform/disc/image_path.h"
 #include "platform/disc/toc.h"
 
@@ -211,7 +211,7 @@ bool hasStart(const CueTrack& track) {
 CueSheet parseCue(std::string_view bytes) {
   CueSheet sheet;
   Parser parser(sheet);
-  const std::vector<std::string> lines = splitLines(cueText(bytes));
+  const std::vector<std::string> lines = splitLines(foreignText(bytes));
   for (size_t i = 0; i < lines.size() && sheet.error.empty(); ++i) {
     if (lines[i].size() > kLongestLine) {
       const bool noSheet = sheet.files.empty() && !startsWithNoCase(lines[i], "FILE");

@@ -7,6 +7,7 @@
 #include <optional>
 #include <utility>
 
+#include "base/foreign_text.h"
 #include "platform/disc/toc.h"
 
 namespace orvanta {
@@ -49,27 +50,6 @@ std::vector<Record> recordsIn(const IsoBlock& block) {
 }
 
 std::string plainName(const std::string& name) { return name.substr(0, name.find(';')); }
-
-void appendUtf8(std::string& text, unsigned code) {
-  if (code < 0x80) {
-    text += static_cast<char>(code);
-  } else if (code < 0x800) {
-    text += static_cast<char>(0xC0U | code >> 6U);
-    text += static_cast<char>(0x80U | (code & 0x3FU));
-  } else {
-    text += static_cast<char>(0xE0U | code >> 12U);
-    text += static_cast<char>(0x80U | (code >> 6U & 0x3FU));
-    text += static_cast<char>(0x80U | (code & 0x3FU));
-  }
-}
-
-/// Two bytes a character, the higher first.
-std::string longName(const std::string& name) {
-  std::string text;
-  for (size_t i = 0; i + 1 < name.size(); i += 2)
-    appendUtf8(text, static_cast<unsigned char>(name[i]) * 256U + static_cast<unsigned char>(name[i + 1]));
-  return text;
-}
 
 /// One that a disc could not be trusted with: it is no name within a folder.
 bool leadsAway(const std::string& name) {
@@ -129,7 +109,7 @@ class Walk {
   }
 
   void take(const Record& record, const std::string& way, int depth) {
-    const std::string name = plainName(long_ ? longName(record.name) : record.name);
+    const std::string name = plainName(long_ ? fromUtf16(record.name, true) : foreignText(record.name));
     if (leadsAway(name) || files_.size() >= kMostFiles) return;
     if (record.folder) {
       enter(record, way + name + "/", depth + 1);

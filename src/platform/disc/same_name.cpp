@@ -1,6 +1,7 @@
 // Names are compared with every letter taken apart into its base and its marks.
 #include "platform/disc/same_name.h"
 
+#include <algorithm>
 #include <string>
 #include <unordered_map>
 #include <utility>
@@ -103,8 +104,16 @@ std::u32string apart(std::string_view name) {
   return out;
 }
 
+/// One without a mark, which no part of it could lose.
+bool isPlain(std::string_view name) {
+  return std::all_of(name.begin(), name.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+}
+
 }  // namespace
 
-bool sameName(std::string_view a, std::string_view b) { return equalsNoCase(a, b) || apart(a) == apart(b); }
+bool sameName(std::string_view a, std::string_view b) {
+  if (equalsNoCase(a, b)) return true;
+  return !isPlain(a) && !isPlain(b) && apart(a) == apart(b);
+}
 
 }  // namespace orvanta

@@ -1,5 +1,5 @@
-// Telling encodings apart. Players write sheets in their desktop's own.
-#include "platform/disc/cue_text.h"
+// Telling encodings apart. Programs write sheets and lists in their desktop's own.
+#include "base/foreign_text.h"
 
 #include "base/code_page.h"
 
@@ -9,7 +9,7 @@ namespace {
 
 constexpr char32_t kUnknown = 0xFFFD;
 
-void append(std::string& out, char32_t c) {
+void putUtf8(std::string& out, char32_t c) {
   const auto tail = [&](unsigned shift) { out += static_cast<char>(0x80U | (c >> shift & 0x3FU)); };
   if (c < 0x80) {
     out += static_cast<char>(c);
@@ -28,6 +28,8 @@ void append(std::string& out, char32_t c) {
   }
 }
 
+}  // namespace
+
 std::string fromUtf16(std::string_view bytes, bool bigEndian) {
   const auto byte = [&](size_t at) -> char32_t { return static_cast<unsigned char>(bytes[at]); };
   const auto unit = [&](size_t at) -> char32_t {
@@ -40,18 +42,16 @@ std::string fromUtf16(std::string_view bytes, bool bigEndian) {
     const char32_t low = unit(at + 2);
     const bool pair = high >= 0xD800 && high < 0xDC00 && low >= 0xDC00 && low < 0xE000;
     if (pair) {
-      append(out, 0x10000 + ((high - 0xD800) << 10U) + (low - 0xDC00));
+      putUtf8(out, 0x10000 + ((high - 0xD800) << 10U) + (low - 0xDC00));
       at += 2;
     } else {
-      append(out, high >= 0xD800 && high < 0xE000 ? kUnknown : high);
+      putUtf8(out, high >= 0xD800 && high < 0xE000 ? kUnknown : high);
     }
   }
   return out;
 }
 
-}  // namespace
-
-std::string cueText(std::string_view bytes) {
+std::string foreignText(std::string_view bytes) {
   const auto begins = [&](std::string_view mark) { return bytes.substr(0, mark.size()) == mark; };
   if (begins("\xFF\xFE") || begins("\xFE\xFF")) return fromUtf16(bytes.substr(2), bytes[0] == '\xFE');
   if (bytes.size() > 1 && (bytes[0] == '\0') != (bytes[1] == '\0')) return fromUtf16(bytes, bytes[0] == '\0');

@@ -2,9 +2,12 @@
 #include "web/enhanced_disc.h"
 
 #include <algorithm>
+#include <iterator>
 #include <string_view>
+#include <utility>
 #include <vector>
 
+#include "base/foreign_text.h"
 #include "base/text.h"
 #include "faceplate/actions.h"
 #include "platform/ports/dialogs.h"
@@ -20,21 +23,29 @@ constexpr const char* kTitle = "Orvanta Enhanced CD Menu";
 constexpr size_t kAutorunBytes = 65536;  ///< more is none
 constexpr const char* kUsual[] = {"program.exe", "run.exe", "play.exe", "start.exe", "runme32.exe", "launch.exe"};
 
+/// Marks that turn letters round, in UTF-8, by their first and last: Arabic's own; two of direction; embeddings and overrides
+/// with the two separators before them; isolates.
+constexpr std::pair<std::string_view, std::string_view> kTurning[] = {
+    {"\xD8\x9C", "\xD8\x9C"}, {"\xE2\x80\x8E", "\xE2\x80\x8F"}, {"\xE2\x80\xA8", "\xE2\x80\xAE"}, {"\xE2\x81\xA6", "\xE2\x81\xA9"}};
+
+bool turns(std::string_view character) {
+  return std::any_of(std::begin(kTurning), std::end(kTurning), [&](const auto& range) {
+    const std::string_view mark = character.substr(0, range.first.size());
+    return mark >= range.first && mark <= range.second;
+  });
+}
+
 /// A name of the disc's making, so that all of it is read as it is: in lines that fit a box, without marks that turn letters round.
 std::string shownName(const std::string& way) {
   constexpr size_t kLine = 60;  // characters
-  std::string plain = withoutControls(way);
-  const auto byte = [&](size_t at) { return at < plain.size() ? static_cast<unsigned char>(plain[at]) : 0U; };
-  for (size_t at = plain.find('\xE2'); at != std::string::npos; at = plain.find('\xE2', at + 1)) {
-    const unsigned code = byte(at + 1) << 8U | byte(at + 2);
-    const bool turns = code == 0x808E || code == 0x808F || (code >= 0x80A8 && code <= 0x80AE) || (code >= 0x81A6 && code <= 0x81A9);
-    if (turns) plain.replace(at, 3, "?");
-  }
   std::string shown;
-  for (std::string_view rest = plain; !rest.empty();) {
-    const std::string_view line = firstCharacters(rest, kLine);
-    shown += (shown.empty() ? "" : "\n") + std::string(line);
-    rest.remove_prefix(line.size());
+  size_t count = 0;
+  const std::string plain = withoutControls(way);
+  for (std::string_view rest = plain; !rest.empty(); ++count) {
+    const std::string_view character = firstCharacters(rest, 1);
+    if (count > 0 && count % kLine == 0) shown += '\n';
+    shown += turns(character) ? "?" : character;
+    rest.remove_prefix(character.size());
   }
   return shown;
 }
@@ -42,7 +53,7 @@ std::string shownName(const std::string& way) {
 }  // namespace
 
 std::string autorunFile(const std::string& text) {
-  for (const std::string& line : splitLines(withoutControls(text, true))) {
+  for (const std::string& line : splitLines(withoutControls(foreignText(text), true))) {
     const std::string_view trimmed = trim(line);
     if (!startsWithNoCase(trimmed, "OPEN=")) continue;
     std::string way(trim(trimmed.substr(5)));
@@ -98,6 +109,7 @@ EnhancedDisc::Start EnhancedDisc::start(const std::string& way) {
   ports_.screen.setPointer(Pointer::Hourglass);
   const std::string program = ports_.discData.bring(way);
   ports_.screen.setPointer(Pointer::Normal);
+  tellUnread();
   if (!discStays()) return Start::Unwanted;
   // A disc's program finds what is the disc's from its root on.
   ProcessRequest request{{program}, ports_.discData.folder(), WindowStyle::Normal};
@@ -106,17 +118,29 @@ EnhancedDisc::Start EnhancedDisc::start(const std::string& way) {
   return started ? Start::Started : Start::Impossible;
 }
 
+/// Before the program shows a picture that lacks something.
+void EnhancedDisc::tellUnread() {
+  constexpr size_t kShown = 5;  // names
+  const std::vector<std::string> ways = ports_.discData.takeUnread();
+  if (ways.empty()) return;
+  std::string message = "Not all of the disc could be read. Its programs may miss:\n";
+  for (size_t i = 0; i < ways.size() && i < kShown; ++i) message += '\n' + shownName(ways[i]);
+  if (ways.size() > kShown) message += "\nand " + std::to_string(ways.size() - kShown) + " more";
+  ports_.dialogs.message(BoxStyle::Warning, kTitle, message);
+}
+
 /// A yes is one to the disc that was asked about.
 bool EnhancedDisc::discStays() const { return !state_.disc.drawerOpen && ports_.discData.disc() == disc_; }
 
 /// `failed`: could not be started here; "" where none was found.
 void EnhancedDisc::askForAnother(const std::string& failed) {
   const std::string why =
-      failed.empty() ? "Enhanced CD Startup File Not Found!" : "\"" + failed + "\" could not be started on this system.";
+      failed.empty() ? "Enhanced CD Startup File Not Found!" : "\"" + shownName(failed) + "\" could not be started on this system.";
   if (!ports_.dialogs.askYesNo(BoxStyle::Question, kTitle, why + " Do you wish to search for the program file on the CD?")) return;
   ports_.screen.setPointer(Pointer::Hourglass);
   const std::string folder = discStays() ? ports_.discData.folder() : "";
   ports_.screen.setPointer(Pointer::Normal);
+  tellUnread();
   if (!discStays()) return;
   if (folder.empty()) {
     ports_.dialogs.message(BoxStyle::Warning, kTitle,
@@ -127,13 +151,13 @@ void EnhancedDisc::askForAnother(const std::string& failed) {
   if (!file) return;
   const std::string way = ports_.discData.wayOf(*file);
   if (way.empty()) {
-    ports_.dialogs.message(BoxStyle::Warning, kTitle, "The file " + *file + " does not lie on the disc.");
+    ports_.dialogs.message(BoxStyle::Warning, kTitle, "The file " + shownName(*file) + " does not lie on the disc.");
     return;
   }
   const Start how = start(way);
   if (how == Start::Started) giveWay();
   if (how == Start::Impossible)
-    ports_.dialogs.message(BoxStyle::Warning, kTitle, "The file " + *file + " could not be started on this system.");
+    ports_.dialogs.message(BoxStyle::Warning, kTitle, "The file " + shownName(*file) + " could not be started on this system.");
 }
 
 /// The disc is the other program's now.

@@ -27,6 +27,8 @@ class EnhancedDisc {
   bool discStays() const;
   /// Asks, naming the file.
   Start start(const std::string& way);
+  /// Once for each copy of the disc.
+  void tellUnread();
   void askForAnother(const std::string& failed);
   void giveWay();
 

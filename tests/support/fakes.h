@@ -1,6 +1,7 @@
 // Ports that remember what was asked of them.
 #pragma once
 
+#include <algorithm>
 #include <deque>
 #include <functional>
 #include <map>
@@ -348,11 +349,16 @@ class FakeDiscData : public DiscData {
   }
   std::string find(const std::string& way) override { return files.count(upper(way)) > 0 ? upper(way) : ""; }
   std::string read(const std::string& way, size_t most) override { return files[way].substr(0, most); }
-  std::string bring(const std::string& way) override { return joinPath(folder(), way); }
+  std::string bring(const std::string& way) override {
+    return std::find(unread.begin(), unread.end(), way) == unread.end() ? joinPath(folder(), way) : "";
+  }
   std::string folder() override { return "/mnt"; }
   std::string wayOf(const std::string& path) override { return path.starts_with("/mnt/") ? path.substr(5) : ""; }
+  std::vector<std::string> takeUnread() override { return std::exchange(told, true) ? std::vector<std::string>() : unread; }
   std::string name = "disc";
   std::map<std::string, std::string> files;
+  std::vector<std::string> unread;  ///< ways that cannot be read
+  bool told = false;
 };
 
 class FakePrinter : public Printer {

@@ -24,6 +24,7 @@ const std::map<std::string, Preparation> kPreparations = {
     {"drive-told", [](PlayRig& rig, const Word& w) { rig.facts.now.drive = w.value; }},
     {"entry", [](PlayRig& rig, const Word& w) { rig.entry = w.value; }},
     {"plays", [](PlayRig& rig, const Word& w) { rig.playsFrom = w.number(); }},
+    {"engine-before", [](PlayRig& rig, const Word& w) { rig.CoreRig::engine = w.value; }},
     {"words", [](PlayRig& rig, const Word& w) { rig.words = w.value; }},
     {"missing", [](PlayRig& rig, const Word& w) { rig.processes.missing.insert(w.value); }},
     {"recorder", [](PlayRig& rig, const Word& w) { rig.settings.recordCommand = w.value; }},
@@ -35,6 +36,7 @@ const std::map<std::string, Preparation> kPreparations = {
        const size_t colon = w.value.find(':');
        rig.discData.files[upper(w.value.substr(0, colon))] = colon == std::string::npos ? "" : w.value.substr(colon + 1);
      }},
+    {"unread", [](PlayRig& rig, const Word& w) { rig.discData.unread.push_back(w.value); }},
     {"lyrics", [](PlayRig& rig, const Word& w) { rig.settings.lyricsSite = w.value; }},
     {"bits", [](PlayRig& rig, const Word& w) { rig.screen.bits = w.number(); }},
     {"twips", [](PlayRig& rig, const Word& w) { rig.screen.twips = w.number(); }},

@@ -1,14 +1,18 @@
 // A disc's files: what is found stays on the disc, and nothing that is no plain file is touched.
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
+#include <csignal>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 
+#include "platform/disc/disc_store.h"
 #include "platform/disc/folder_data.h"
 #include "platform/disc/image_data.h"
+#include "platform/linux/host_processes.h"
 #include "tests/support/test_discs.h"
 #include "tests/support/transcript.h"
 #include "web/enhanced_disc.h"
@@ -30,16 +34,19 @@ TEST(FolderData, KeepsToTheDisc) {
   fs::create_directories(root / "inner");
   writeFile(root / "Start.EXE", "start");
   writeFile(root / "inner/run.exe", "run");
+  writeFile(root / "men\u00FC.exe", "men\u00FC");
   fs::create_symlink("/bin/sh", root / "evil.exe");
   fs::create_symlink(outside.path(), root / "out");
   fs::create_symlink("Start.EXE", root / "good.exe");
   ASSERT_EQ(::mkfifo((root / "autorun.inf").c_str(), 0600), 0);
   std::string top = root.path();
   FolderData data([&] { return top; });
-  EXPECT_EQ(data.rootFiles(), (std::vector<std::string>{"Start.EXE", "good.exe"}));
+  EXPECT_EQ(data.rootFiles(), (std::vector<std::string>{"Start.EXE", "good.exe", "men\u00FC.exe"}));
   for (const auto& [way, found] : {std::pair{"start.exe", "Start.EXE"},
                                    {"INNER/RUN.EXE", "inner/run.exe"},
                                    {"good.exe", "Start.EXE"},
+                                   {"MENU\u0308.exe", "men\u00FC.exe"},
+                                   {"menu.exe", ""},
                                    {"evil.exe", ""},
                                    {"out/secret.exe", ""},
                                    {"../../bin/sh", ""},
@@ -65,6 +72,12 @@ TEST(FolderData, IsWhereTheDesktopHasMountedTheDrive) {
   EXPECT_EQ(mountPointIn(mounts, [](const std::string& source) { return source == "/dev/sr0"; }), "/media/My Disc");
   EXPECT_EQ(mountPointIn(mounts, [](const std::string& source) { return source == "proc"; }), "");
   EXPECT_EQ(mountPointOf("/nowhere"), "");
+  const TempFolder folder;
+  for (const auto& [bytes, read] : {std::pair{size_t{150000}, size_t{150000}}, {size_t{5} << 20, size_t{4} << 20}}) {
+    writeFile(folder / "list", std::string(bytes, 'm'));
+    EXPECT_EQ(mountList(folder / "list").size(), read) << "a machine of many mounts";
+  }
+  EXPECT_NE(mountList("/proc/self/mounts"), "");
 }
 
 TEST(ImageData, IsReadFromTheDataTrackAndCopiedOut) {
@@ -85,6 +98,46 @@ TEST(ImageData, IsReadFromTheDataTrackAndCopiedOut) {
   sheet.clear();
   EXPECT_EQ(data.find("START.EXE"), "") << "the tray is open";
   EXPECT_EQ(data.folder(), "");
+}
+
+TEST(ImageData, LeavesOutWhatCannotBeRead) {
+  const TempFolder folder;
+  const std::string sheet = makeEnhancedDisc(folder, {100}, utf16(u"men\u00FC \U0001F3B5.exe", true), "x");
+  ImageData data([&] { return sheet; }, folder / "store", [] {});
+  const std::string name = "men\u00FC \U0001F3B5.exe";
+  EXPECT_EQ(data.find("MENU\u0308 \U0001F3B5.EXE"), name);
+  EXPECT_EQ(fs::path(data.bring(name)).filename(), name);
+  EXPECT_EQ(data.bring("B"), "");
+  EXPECT_EQ(data.takeUnread(), std::vector<std::string>{"B"});
+  EXPECT_FALSE(fs::exists(data.folder() + "/B"));
+  EXPECT_TRUE(data.takeUnread().empty()) << "told once";
+}
+
+TEST(DiscStore, StaysWhileAProgramUsesIt) {
+  const TempFolder folder;
+  const std::string old = folder / "999999999";
+  const std::string own = folder / std::to_string(::getpid());
+  HostProcesses processes;
+  for (const char* how : {"exe", "cwd", "fd"}) {
+    fs::create_directories(old);
+    fs::copy("/bin/sleep", old + "/sleep");
+    std::ifstream open(std::string(how) == "fd" ? old + "/sleep" : "");
+    const pid_t program =
+        processes.start({{std::string(how) == "exe" ? old + "/sleep" : "sleep", "60"}, std::string(how) == "cwd" ? old : ""});
+    DiscStore store(folder.path());
+    EXPECT_TRUE(store.renew());
+    EXPECT_EQ(store.folder(), own);
+    EXPECT_TRUE(fs::exists(old)) << how;
+    ::kill(program, SIGKILL);
+    ::waitpid(program, nullptr, 0);
+    open.close();
+    EXPECT_TRUE(store.renew());
+    EXPECT_FALSE(fs::exists(old)) << how;
+  }
+  const std::ifstream open(own);
+  DiscStore store(folder.path());
+  EXPECT_TRUE(store.renew());
+  EXPECT_EQ(store.folder(), own + "-2") << "a program of the disc before still runs";
 }
 
 }  // namespace

@@ -10,7 +10,7 @@
 
 #include "base/text.h"
 #include "platform/disc/image_file.h"
-#include "platform/linux/host_files.h"
+#include "platform/disc/image_path.h"
 #include "platform/linux/unique_fd.h"
 
 namespace orvanta {
@@ -54,14 +54,25 @@ std::string mountPointIn(const std::string& mounts, const std::function<bool(con
   return {};
 }
 
+/// The kernel tells no size of it beforehand.
+std::string mountList(const std::string& path) {
+  constexpr size_t kMost = size_t{4} << 20;
+  constexpr size_t kPiece = 65536;
+  const UniqueFd fd(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+  std::string list;
+  for (size_t got = fd ? kPiece : 0; got == kPiece && list.size() < kMost;) {
+    const size_t before = list.size();
+    list.resize(before + kPiece);
+    got = static_cast<size_t>(std::max<int64_t>(readAt(fd.get(), static_cast<int64_t>(before), kPiece, &list[before]), 0));
+    list.resize(before + got);
+  }
+  return list;
+}
+
 std::string mountPointOf(const std::string& device) {
   struct stat own {};
   if (::stat(device.c_str(), &own) != 0) return {};
-  const UniqueFd fd(::open("/proc/self/mounts", O_RDONLY | O_CLOEXEC));
-  std::string mounts(65536, '\0');
-  const int64_t got = fd ? readAt(fd.get(), 0, static_cast<int64_t>(mounts.size()), mounts.data()) : 0;
-  mounts.resize(static_cast<size_t>(std::max<int64_t>(got, 0)));
-  return mountPointIn(mounts, [&](const std::string& source) {
+  return mountPointIn(mountList("/proc/self/mounts"), [&](const std::string& source) {
     struct stat info {};
     return ::stat(source.c_str(), &info) == 0 && S_ISBLK(info.st_mode) && info.st_rdev == own.st_rdev;
   });
@@ -89,7 +100,7 @@ std::vector<std::string> FolderData::rootFiles() {
 
 std::string FolderData::find(const std::string& way) {
   const std::string root = root_();
-  return root.empty() || way.empty() ? "" : below(root, HostFiles::actual(joinPath(root, way)));
+  return root.empty() || way.empty() ? "" : below(root, resolveInside(root, way).path.string());
 }
 
 std::string FolderData::read(const std::string& way, size_t most) {

@@ -9,6 +9,9 @@
 
 namespace orvanta {
 
+/// What /proc/self/mounts holds, or another such list; what lies behind 4 MB of it is left out.
+std::string mountList(const std::string& path);
+
 /// Where the desktop has mounted a device, by the text of /proc/self/mounts; `same` tells whether a source is that device. "" for
 /// nowhere.
 std::string mountPointIn(const std::string& mounts, const std::function<bool(const std::string& source)>& same);
@@ -26,6 +29,8 @@ class FolderData : public DiscData {
   std::string bring(const std::string& way) override;
   std::string folder() override { return root_(); }
   std::string wayOf(const std::string& path) override;
+  /// What is read where it lies is not copied.
+  std::vector<std::string> takeUnread() override { return {}; }
 
  private:
   std::function<std::string()> root_;

@@ -1,18 +1,14 @@
 // An image's data track as files. The player has the image open too; this is a reader of its own.
 #include "platform/disc/image_data.h"
 
-#include <unistd.h>
-
 #include <algorithm>
 #include <cerrno>
-#include <csignal>
 #include <filesystem>
 #include <fstream>
-#include <numeric>
 
 #include "base/text.h"
 #include "platform/disc/image_drive.h"
-#include "platform/linux/host_files.h"
+#include "platform/disc/same_name.h"
 
 namespace orvanta {
 
@@ -26,11 +22,7 @@ constexpr int kBlocksAtATime = 512;                 ///< copied between two yiel
 }  // namespace
 
 ImageData::ImageData(std::function<std::string()> sheet, std::string stores, std::function<void()> yield)
-    : sheet_(std::move(sheet)),
-      stores_(std::move(stores)),
-      store_(joinPath(stores_, std::to_string(::getpid()))),
-      yield_(std::move(yield)),
-      copied_([this] { return store_; }) {}
+    : sheet_(std::move(sheet)), store_(std::move(stores)), yield_(std::move(yield)), copied_([this] { return store_.folder(); }) {}
 
 ImageData::~ImageData() = default;
 
@@ -59,7 +51,7 @@ std::vector<std::string> ImageData::rootFiles() {
 }
 
 const IsoFile* ImageData::found(const std::string& way) const {
-  const auto file = std::find_if(files_.begin(), files_.end(), [&](const IsoFile& each) { return equalsNoCase(each.way, way); });
+  const auto file = std::find_if(files_.begin(), files_.end(), [&](const IsoFile& each) { return sameName(each.way, way); });
   return file == files_.end() ? nullptr : &*file;
 }
 
@@ -88,57 +80,74 @@ bool ImageData::copyOut() {
   if (stored_ == opened_) return true;
   const std::string sheet = opened_;
   stored_.clear();
-  clearStores();
   if (copyAll(sheet)) {
     stored_ = sheet;
     return true;
   }
   // What was broken off would only fill the disk.
-  std::error_code error;
-  fs::remove_all(store_, error);
+  store_.drop();
+  unread_.clear();
   return false;
 }
 
-/// Ours, and those of decks that have ended.
-void ImageData::clearStores() const {
-  std::error_code error;
-  for (const auto& entry : fs::directory_iterator(stores_, error)) {
-    const auto owner = static_cast<pid_t>(leadingNumber(entry.path().filename().string()));
-    if (owner == ::getpid() || owner <= 0 || (::kill(owner, 0) != 0 && errno == ESRCH)) fs::remove_all(entry.path(), error);
+/// One bad file leaves all others usable. False: none could be had, or no room was left, or the disc was taken out, or another
+/// came, while events were delivered.
+bool ImageData::copyAll(const std::string& sheet) {
+  unread_.clear();
+  if (files_.empty() || !store_.renew()) return false;
+  room_ = kMostBytes;
+  const std::vector<IsoFile> files = files_;
+  for (const IsoFile& file : files) {
+    const Copied how = copy(file);
+    if (how == Copied::BrokenOff || sheet_() != sheet) return false;
+    if (how == Copied::Unreadable) unread_.push_back(file.way);
   }
+  return unread_.size() < files.size();
 }
 
-/// False, too, when the disc was taken out, or another came, while events were delivered.
-bool ImageData::copyAll(const std::string& sheet) {
-  const int64_t bytes =
-      std::accumulate(files_.begin(), files_.end(), int64_t{0}, [](int64_t sum, const IsoFile& file) { return sum + file.size; });
-  // For this user alone, each folder of the way.
-  if (bytes > kMostBytes || files_.empty() || !HostFiles().makeFolder(store_)) return false;
-  const std::vector<IsoFile> files = files_;
-  return std::all_of(files.begin(), files.end(), [&](const IsoFile& file) { return copy(file) && sheet_() == sheet; });
+/// A damaged record may name any size.
+bool ImageData::endsOnDisc(const IsoFile& file) const {
+  IsoBlock block{};
+  return file.size == 0 || readBlock(file.block + static_cast<int>((file.size - 1) / kIsoBlock), block);
+}
+
+bool ImageData::goesOn() {
+  if (++blocks_ % kBlocksAtATime == 0) yield_();
+  return image_ && sheet_() == opened_;
 }
 
 /// Executable: which of a disc's files are programs, its names alone tell.
-bool ImageData::copy(const IsoFile& file) {
-  const std::string path = joinPath(store_, file.way);
+ImageData::Copied ImageData::copy(const IsoFile& file) {
+  if (!goesOn()) return Copied::BrokenOff;
+  if (file.size > room_ || !endsOnDisc(file)) return Copied::Unreadable;
+  const std::string path = joinPath(store_.folder(), file.way);
   std::error_code error;
+  // Of several versions of a file the newest stands first.
+  if (fs::is_regular_file(path, error)) return Copied::Whole;
   fs::create_directories(fs::path(path).parent_path(), error);
+  errno = 0;
   std::ofstream out(path, std::ios::binary);
+  // A name may be one that this machine cannot have.
+  if (!out) return errno == ENOSPC || errno == EDQUOT ? Copied::BrokenOff : Copied::Unreadable;
+  const Copied how = copyBlocks(file, out);
+  out.close();
+  fs::permissions(path, fs::perms::owner_all, error);
+  if (how == Copied::Unreadable) fs::remove(path, error);
+  return how == Copied::Whole && !out ? Copied::BrokenOff : how;
+}
+
+ImageData::Copied ImageData::copyBlocks(const IsoFile& file, std::ostream& out) {
   IsoBlock block{};
   int64_t left = file.size;
   for (int i = 0; left > 0; ++i) {
-    if (++blocks_ % kBlocksAtATime == 0) {
-      yield_();
-      if (sheet_() != opened_) return false;
-    }
-    if (!out || !image_ || !readBlock(file.block + i, block)) return false;
+    if (!goesOn() || !out) return Copied::BrokenOff;
+    if (!readBlock(file.block + i, block)) return Copied::Unreadable;
     const int64_t piece = std::min<int64_t>(left, kIsoBlock);
     out.write(reinterpret_cast<const char*>(block.data()), piece);
     left -= piece;
+    room_ -= piece;
   }
-  out.close();
-  fs::permissions(path, fs::perms::owner_all, error);
-  return out.good();
+  return Copied::Whole;
 }
 
 }  // namespace orvanta

@@ -4,11 +4,14 @@
 #include <QAction>
 #include <QApplication>
 #include <QCursor>
+#include <QElapsedTimer>
 #include <QKeyEvent>
 #include <QMenu>
+#include <QMouseEvent>
 #include <QTimer>
 #include <QWindow>
 #include <algorithm>
+#include <utility>
 
 #include "platform/ports/screen.h"
 #include "platform/qt/form_view.h"
@@ -64,6 +67,27 @@ void markFirst(QMenu& menu) {
   QApplication::sendEvent(&menu, &down);
 }
 
+/// The second press of a double click belongs to the first: whoever clicks twice wants the menu, and does not see it go.
+class DoubleClick : public QObject {
+ public:
+  bool eventFilter(QObject* /*menu*/, QEvent* event) override {
+    if (event->type() == QEvent::Paint && !since_.isValid()) since_.start();
+    const bool press = event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick;
+    if (press) taken_ = isSoon() && isHere(*static_cast<QMouseEvent*>(event));
+    return press ? taken_ : event->type() == QEvent::MouseButtonRelease && std::exchange(taken_, false);
+  }
+
+ private:
+  bool isSoon() const { return !since_.isValid() || since_.elapsed() < QApplication::doubleClickInterval(); }
+  bool isHere(const QMouseEvent& mouse) const {
+    return (mouse.globalPosition().toPoint() - place_).manhattanLength() < QApplication::startDragDistance();
+  }
+
+  QPoint place_ = QCursor::pos();
+  QElapsedTimer since_;  ///< the menu was seen
+  bool taken_ = false;   ///< its release is still to come
+};
+
 }  // namespace
 
 void fillMenu(QMenu& menu, const MenuItem& item) {
@@ -94,6 +118,8 @@ std::string QtMenus::popUp(const MenuItem& item, bool byKey) {
   const QWidget* window = QApplication::activeWindow();
   menu.winId();
   if (window != nullptr && menu.windowHandle() != nullptr) menu.windowHandle()->setTransientParent(window->windowHandle());
+  DoubleClick click;
+  menu.installEventFilter(&click);
   if (byKey) QTimer::singleShot(0, &menu, [&menu] { markFirst(menu); });
   const QAction* chosen = menu.exec(placeOver(window, byKey));
   gate_.leaveIfEnded();

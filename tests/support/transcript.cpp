@@ -62,7 +62,7 @@ class Scene {
     for (const forms::Form* form : rig_.desktop.shown | std::views::reverse) {
       const forms::Control* focus = form->minimised ? nullptr : form->activeControl();
       all += (all.empty() ? "" : ", ") + form->name() + (form->minimised ? " minimised" : "") +
-             (focus == nullptr ? "" : " at " + focus->fullName());
+             (focus == nullptr ? "" : " at " + focus->fullName()) + (rig_.desktop.lastShown == form ? " active" : "");
     }
     return all + (rig_.systemTray.told == nullptr ? "" : ", icon");
   }

@@ -21,7 +21,7 @@ void expectTranscript(const std::string& name);
 void expectAnswers(const std::string& name, const std::function<std::string(const std::string& question)>& answer);
 
 /// Ways from window to window: "> [start :] acts", each followed by the windows that show then, the one in front first, with what has
-/// the focus there.
+/// the focus there; the active one is told.
 void expectWays(const std::string& name);
 
 /// The bytes of tests/data/<name>, or `now` kept there where ORVANTA_KEEP_GOLDEN=1 asks for it.

@@ -7,11 +7,9 @@ namespace orvanta {
 
 namespace {
 
-/// Where the pressed plateau lies on a face, and how far a pressed face goes right and down.
+/// Where the pressed plateau lies on a face.
 constexpr int kPlateauLeft = 54;
 constexpr int kPlateauTop = 70;
-
-int pressDepth(const SharedState& state) { return state.process.smallFonts ? 10 : 12; }
 
 }  // namespace
 
@@ -36,9 +34,9 @@ void Buttons::pressEnds(size_t key) {
 /// One key gives way at a time: a letter key struck meanwhile leaves the one under the mouse alone.
 void Buttons::faceDown(size_t key) {
   if (state_.settings.smallFaceplate == kOn || down_) return;
-  auto& face = form_.icntla[key];
-  const int depth = pressDepth(state_);
-  face.move(face.left + depth, face.top + depth);
+  const auto& face = form_.icntla[key];
+  const int depth = state_.process.smallFonts ? 10 : 12;
+  face_.down(form_.icntla[key], depth, depth);
   form_.Shape2.move(face.left + kPlateauLeft, face.top + kPlateauTop);
   form_.Shape2.visible = true;
   down_ = key;
@@ -47,10 +45,9 @@ void Buttons::faceDown(size_t key) {
 /// Whatever has become of the disc since the press, the face comes back.
 void Buttons::faceUp(size_t key) {
   if (down_ != key) return;
-  const int depth = pressDepth(state_);
   down_.reset();
   form_.Shape2.visible = false;
-  form_.icntla[key].move(form_.icntla[key].left - depth, form_.icntla[key].top - depth);
+  face_.up();
 }
 
 void Buttons::icntla_MouseUp(size_t key) {

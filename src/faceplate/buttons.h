@@ -3,6 +3,7 @@
 
 #include <optional>
 
+#include "faceplate/sunken_key.h"
 #include "playback/modes.h"
 
 namespace orvanta {
@@ -47,6 +48,7 @@ class Buttons {
   CDForm& form_;
   SharedState& state_;
   FaceplateUpward& upward_;
+  SunkenKey face_;
   std::optional<size_t> down_;  ///< the transport key whose face has given way
 };
 

@@ -52,6 +52,20 @@ std::string backgroundPicture(const Files& files, const Settings& settings) {
   return settings.faceplateBitmapOn > 0 && !picture.empty() && files.exists(picture) ? picture : std::string();
 }
 
+bool lcdFont(const Screen& screen, const Settings& settings) { return screen.hasFont(forms::kLcdFont) && settings.noLcdFont != 1; }
+
+bool metalOfUser(const SharedState& state) {
+  const auto& colour = state.settings.customColor;
+  return state.process.colourCount >= kFewColours &&
+         colour[kCustomMetal] + uint64_t{colour[kCustomDoor]} + colour[kCustomKeypad] + colour[kCustomBars] > 0;
+}
+
+void tintGlass(forms::Panel& pane, const Settings& settings) {
+  pane.bevelInner = 1;
+  pane.backColor = settings.lcdBack;
+  pane.foreColor = settings.lcdFore;
+}
+
 void paintLevelBars(CDForm& form, const Settings& settings) {
   const bool muted = form.Image2[0].visible;
   form.VbarbtmL.backColor = form.VbarbtmR.backColor = muted ? colours::kRed : settings.customColor[kCustomBars];
@@ -98,7 +112,7 @@ void DisplayColours::ownFonts() {
 /// Without the display's font plain digits serve, and the time key's caption goes a little up.
 void DisplayColours::fonts() {
   const bool coarse = state_.process.smallFonts;
-  if (screen_.hasFont(form_.Label8.font.get().family) && state_.settings.noLcdFont != 1) {
+  if (lcdFont(screen_, state_.settings)) {
     if (!coarse) return;
     form_.Label24.move(5330, 2320);
     form_.Label33.top = 360;
@@ -181,9 +195,7 @@ void DisplayColours::loadorvanta1b() {
   const auto paint = [](std::initializer_list<forms::Control*> controls, Colour back) {
     for (auto* control : controls) control->backColor = back;
   };
-  // A screen of few colours keeps its plain dark panels.
-  const bool enough = state_.process.colourCount >= kFewColours;
-  if (enough && colour[kCustomMetal] + uint64_t{colour[kCustomDoor]} + colour[kCustomKeypad] + colour[kCustomBars] > 0) {
+  if (metalOfUser(state_)) {
     for (auto* line : {&form_.Line2, &form_.Line3, &form_.Line4, &form_.Line5}) line->foreColor = colour[kCustomBorderLines];
     form_.backColor = colour[kCustomMetal];
     paint({&form_.Label1, &form_.Label2, &form_.Label3, &form_.Label4, &form_.Label5}, colour[kCustomMetal]);
@@ -191,7 +203,7 @@ void DisplayColours::loadorvanta1b() {
     // While it is open the door's place is the hole behind it.
     if (form_.Panel3D2.bevelInner != 1) paint({&form_.Panel3D2}, colour[kCustomDoor]);
     paint({&form_.Panel3D3, &form_.SSPanel1}, colour[kCustomKeypad]);
-  } else if (enough) {
+  } else if (state_.process.colourCount >= kFewColours) {
     form_.backColor = kMetal;
     ownBack({&form_.Label1, &form_.Label2, &form_.Label3, &form_.Label4, &form_.Label5, &form_.Panel3D6, &form_.Panel3D7, &form_.Panel3D8,
              &form_.Panel3D3, &form_.SSPanel1});
@@ -215,9 +227,12 @@ void DisplayColours::legends() {
 void DisplayColours::panes() {
   const bool custom = state_.settings.lcdCustom == 1;
   for (auto* panel : {&form_.Panel3D1, &form_.Panel3D5}) {
-    panel->bevelInner = custom ? 1 : 2;
-    panel->backColor = custom ? state_.settings.lcdBack : colours::kBlack;
-    if (custom) panel->foreColor = state_.settings.lcdFore;
+    if (custom) {
+      tintGlass(*panel, state_.settings);
+    } else {
+      panel->bevelInner = 2;
+      panel->backColor = colours::kBlack;
+    }
   }
   if (!custom) {
     // The user's colours may have been here before.

@@ -18,6 +18,12 @@ class Files;
 class Layout;
 class Screen;
 
+/// The display's font is there, and wanted.
+bool lcdFont(const Screen& screen, const Settings& settings);
+/// The user has colours for the metal, on a screen that can show them: one of few keeps its plain dark panels.
+bool metalOfUser(const SharedState& state);
+/// A pane of the display in the user's colours.
+void tintGlass(forms::Panel& pane, const Settings& settings);
 /// The lit channels of the sliders: red while muted.
 void paintLevelBars(CDForm& form, const Settings& settings);
 

@@ -2,6 +2,7 @@
 #include "shell/about.h"
 
 #include "base/text.h"
+#include "faceplate/display_colours.h"
 #include "platform/ports/facts.h"
 #include "platform/ports/screen.h"
 #include "shell/upward.h"
@@ -51,13 +52,9 @@ void About::colour() {
     font.underline = true;
     licence.font = font;
   }
-  if (!ports_.screen.hasFont(forms::kLcdFont) || settings_.noLcdFont == 1) form_.AboutVersion.font = forms::Font{"Arial", 16, true};
+  if (!lcdFont(ports_.screen, settings_)) form_.AboutVersion.font = forms::Font{"Arial", 16, true};
   if (settings_.lcdCustom != 1) return;
-  for (forms::Panel* pane : {&form_.AboutGlass, &form_.AboutGlass2}) {
-    pane->bevelInner = 1;
-    pane->backColor = settings_.lcdBack;
-    pane->foreColor = settings_.lcdFore;
-  }
+  for (forms::Panel* pane : {&form_.AboutGlass, &form_.AboutGlass2}) tintGlass(*pane, settings_);
   for (forms::Control* control : form_.controls()) {
     if (control->kind() == forms::Kind::Label && (control->parent == &form_.AboutGlass || control->parent == &form_.AboutGlass2))
       control->foreColor = settings_.lcdFore;

@@ -39,10 +39,8 @@ void StripColours::apply() {
   }
 }
 
-bool StripColours::lcdFont() const { return screen_.hasFont(forms::kLcdFont) && state_.settings.noLcdFont != 1; }
-
 void StripColours::digits() {
-  if (lcdFont()) return;
+  if (lcdFont(screen_, state_.settings)) return;
   form_.Label8.font = forms::Font{"Arial", 19, true};
   form_.Label5.font = forms::Font{"Arial", 12, true};
   for (auto* label : {&form_.Label3, &form_.Label4}) {
@@ -54,11 +52,7 @@ void StripColours::digits() {
 void StripColours::displayOfUser() {
   const Colour front = state_.settings.lcdFore;
   const Colour back = state_.settings.lcdBack;
-  for (forms::Panel* panel : {&form_.SSPanel1, &form_.Panel3D1, &form_.Panel3D5}) {
-    panel->bevelInner = 1;
-    panel->backColor = back;
-    panel->foreColor = front;
-  }
+  for (forms::Panel* panel : {&form_.SSPanel1, &form_.Panel3D1, &form_.Panel3D5}) tintGlass(*panel, state_.settings);
   form_.vcntlstatusbar.backColor = back;
   form_.vcntlstatusbar.floodColor = front;
   for (auto& number : form_.Label22) number.foreColor = back;
@@ -83,8 +77,7 @@ void StripColours::display() {
 
 void StripColours::body() {
   const auto& colour = state_.settings.customColor;
-  const bool enough = state_.process.colourCount >= kFewColours;
-  if (enough && colour[kCustomMetal] + uint64_t{colour[kCustomDoor]} + colour[kCustomKeypad] + colour[kCustomBars] > 0) {
+  if (metalOfUser(state_)) {
     form_.frame.backColor = colour[kCustomBorderLines];
     form_.SSPanel2.backColor = colour[kCustomMetal];
     form_.SSPanel3.backColor = colour[kCustomKeypad];
@@ -106,7 +99,7 @@ void StripColours::sizeTitles(int by) {
 void StripColours::sizeTime(forms::Label& time, size_t characters) {
   constexpr size_t kUsual = 7;
   const bool strip = &time == &form_.Label4;
-  const bool lcd = lcdFont();
+  const bool lcd = lcdFont(screen_, state_.settings);
   const double usual = !lcd ? (strip ? 7 : 12) : form_.designRow(time)->points;
   const double narrow = !lcd ? (strip ? 6 : 12) : strip ? 4.5 : 14.5;
   points(time, characters > kUsual ? narrow : usual);

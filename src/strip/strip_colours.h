@@ -22,7 +22,6 @@ class StripColours {
   void sizeTime(forms::Label& time, size_t characters);
 
  private:
-  bool lcdFont() const;
   void digits();
   void display();
   void displayOfUser();

@@ -75,10 +75,13 @@ class AccessibleParent : public QAccessibleWidget {
 /// Heard by its title, which Qt forgets of one that is minimised: a task button is nothing else.
 class AccessibleWindow : public AccessibleParent {
  public:
-  explicit AccessibleWindow(FormWindow& window) : AccessibleParent(&window, QAccessible::Window) {}
+  explicit AccessibleWindow(FormWindow& window) : AccessibleParent(&window, QAccessible::Window), window_(window) {}
   QString text(QAccessible::Text kind) const override {
-    return kind == QAccessible::Name ? widget()->windowTitle() : AccessibleParent::text(kind);
+    return kind == QAccessible::Name ? toQt(window_.form().caption) : AccessibleParent::text(kind);
   }
+
+ private:
+  const FormWindow& window_;
 };
 
 class AccessibleControl : public AccessibleParent {

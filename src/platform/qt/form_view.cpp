@@ -29,6 +29,9 @@ using forms::Form;
 
 namespace {
 
+/// A track may be called "*": in brackets Qt takes that for the place of a mark, unless it stands there twice.
+QString titleOf(const Form& form) { return toQt(form.caption).replace(QLatin1String("[*]"), QLatin1String("[*][*]")); }
+
 /// Of several files that are dragged at once the sheet, else the first; "" for none of this machine.
 std::string droppedFile(const QDropEvent& event) {
   const auto urls = event.mimeData()->urls();
@@ -63,7 +66,7 @@ FormWindow::FormWindow(forms::Form& form, CoreGate& gate, Fonts& fonts, const Sc
   setMouseTracking(false);
   setAcceptDrops(true);
   setFocusPolicy(Qt::StrongFocus);
-  setWindowTitle(toQt(form.caption));
+  setWindowTitle(titleOf(form));
   setObjectName(toQt(form.name()));
   useAccessibleControls();
   build();
@@ -139,7 +142,7 @@ void FormWindow::follow(forms::Control& control, Change change) {
 
 void FormWindow::followForm(Change change) {
   if (change == Change::Text) {
-    setWindowTitle(toQt(form_.caption));
+    setWindowTitle(titleOf(form_));
     titleChanged(*this);
   }
   if (change == Change::Geometry) {

@@ -55,7 +55,7 @@ std::string isoSectors(int start, const std::string& file, const std::string& co
     std::string& root = blocks[18];
     root[at] = static_cast<char>(length);
     put32(root, at + 2, start + block);
-    if (flags == 0) put32(root, at + 10, static_cast<int>(content.size()));
+    if (flags == 0 || block != 19) put32(root, at + 10, static_cast<int>(content.size()));
     root[at + 25] = flags;
     root[at + 32] = static_cast<char>(name.size());
     root.replace(at + 33, name.size(), name);
@@ -65,11 +65,7 @@ std::string isoSectors(int start, const std::string& file, const std::string& co
   entry("\x01", 2);
   entry("ADIR", 2);
   entry(isLong ? file : file + ";1", 0);
-  if (isLong)
-    entry(std::string("\0"
-                      "B",
-                      2),
-          0, kBlocks);
+  if (isLong) entry(utf16(u"B", true), 0, kBlocks), entry(utf16(u"C", true), 2, kBlocks);
   blocks[19].replace(0, content.size(), content);
   std::string sectors;
   for (const std::string& block : blocks) {

@@ -39,7 +39,7 @@ std::string makeDisc(const TempFolder& folder, const std::vector<int>& lengths, 
 std::string utf16(const std::u16string& text, bool big);
 
 /// Audio tracks, then a data track whose root folder holds `file`, of at most 2048 bytes, and a folder that leads round to itself.
-/// A name in UTF-16, the higher byte first, is a long one; beside it lies a file "B" that cannot be read.
+/// A name in UTF-16, the higher byte first, is a long one; beside it lie a file "B" and a folder "C" that cannot be read.
 std::string makeEnhancedDisc(const TempFolder& folder, const std::vector<int>& lengths, const std::string& file,
                              const std::string& content = "");
 

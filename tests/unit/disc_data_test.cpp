@@ -108,15 +108,23 @@ TEST(ImageData, LeavesOutWhatCannotBeRead) {
   EXPECT_EQ(data.find("MENU\u0308 \U0001F3B5.EXE"), name);
   EXPECT_EQ(fs::path(data.bring(name)).filename(), name);
   EXPECT_EQ(data.bring("B"), "");
-  EXPECT_EQ(data.takeUnread(), std::vector<std::string>{"B"});
+  EXPECT_EQ(data.takeUnread(), (std::vector<std::string>{"B", "C/"}));
   EXPECT_FALSE(fs::exists(data.folder() + "/B"));
   EXPECT_TRUE(data.takeUnread().empty()) << "told once";
+  ImageData cut([&] { return sheet; }, folder / "other", [] {});
+  EXPECT_EQ(cut.find(name), name);
+  fs::resize_file(folder / "disc.bin", 0);
+  EXPECT_EQ(cut.folder(), "") << "nothing of it can be read";
+  EXPECT_TRUE(fs::is_empty(folder / "other"));
+  EXPECT_TRUE(cut.takeUnread().empty());
 }
 
 TEST(DiscStore, StaysWhileAProgramUsesIt) {
   const TempFolder folder;
   const std::string old = folder / "999999999";
   const std::string own = folder / std::to_string(::getpid());
+  const std::string living = folder / std::to_string(::getppid());
+  fs::create_directories(living);
   HostProcesses processes;
   for (const char* how : {"exe", "cwd", "fd"}) {
     fs::create_directories(old);
@@ -133,6 +141,7 @@ TEST(DiscStore, StaysWhileAProgramUsesIt) {
     open.close();
     EXPECT_TRUE(store.renew());
     EXPECT_FALSE(fs::exists(old)) << how;
+    EXPECT_TRUE(fs::exists(living)) << "a deck that runs may need it";
   }
   const std::ifstream open(own);
   DiscStore store(folder.path());

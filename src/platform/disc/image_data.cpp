@@ -119,7 +119,7 @@ bool ImageData::goesOn() {
 /// Executable: which of a disc's files are programs, its names alone tell.
 ImageData::Copied ImageData::copy(const IsoFile& file) {
   if (!goesOn()) return Copied::BrokenOff;
-  if (file.size > room_ || !endsOnDisc(file)) return Copied::Unreadable;
+  if (file.way.ends_with('/') || file.size > room_ || !endsOnDisc(file)) return Copied::Unreadable;
   const std::string path = joinPath(store_.folder(), file.way);
   std::error_code error;
   // Of several versions of a file the newest stands first.

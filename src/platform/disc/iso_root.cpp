@@ -103,7 +103,11 @@ class Walk {
     const int64_t first = placed(folder.block);
     const int64_t blocks = std::min<int64_t>((folder.size + kIsoBlock - 1) / kIsoBlock, kMostBlocks);
     IsoBlock block{};
-    for (int64_t i = 0; i < blocks && ++blocks_ <= kMostFolderBlocks && readAt(first + i, block); ++i) {
+    for (int64_t i = 0; i < blocks && ++blocks_ <= kMostFolderBlocks; ++i) {
+      if (!readAt(first + i, block)) {
+        files_.push_back({way.empty() ? "/" : way, 0, 0});
+        return;
+      }
       for (const Record& record : recordsIn(block)) take(record, way, depth);
     }
   }

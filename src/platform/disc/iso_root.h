@@ -20,7 +20,8 @@ struct IsoFile {
   int64_t size = 0;
 };
 
-/// All files of the session, by its long names where it has such. Whatever a disc says of itself, no way leaves the root, and
+/// All files of the session, by its long names where it has such. What stands for the rest of a folder that cannot be read is its
+/// way, with "/" behind it. Whatever a disc says of itself, no way leaves the root, and
 /// there is an end to files, folders and their depth.
 std::vector<IsoFile> isoFiles(int start, const IsoReader& read);
 

@@ -47,9 +47,11 @@ struct CoreRig {
   int playsFrom = 0;                  ///< another process has left the disc playing from this frame; 0: none
 
   /// What the setup program leaves behind.
-  void chooseInSetup(const std::string& searchEngine) {
+  void chooseInSetup(const std::string& searchEngine, const std::string& lyricsSite) {
     settings.searchEngine = searchEngine;
+    settings.lyricsSite = lyricsSite;
     writeSettings(SettingsFile::Orvwin3, files, "/data", settings);
+    writeSettings(SettingsFile::Orvwin4, files, "/data", settings);
   }
 
   /// Settings files on the disk, as a set-up leaves them.

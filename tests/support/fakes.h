@@ -144,6 +144,7 @@ class FakeProcesses : public Processes {
     std::string line;
     for (const auto& argument : request.arguments) line += (line.empty() ? "" : " ") + argument;
     tape.push_back(line);
+    last = request;
     if (onStart) onStart();
     return fail ? 0 : static_cast<Id>(tape.size());
   }
@@ -159,6 +160,7 @@ class FakeProcesses : public Processes {
   }
 
   Tape tape;
+  ProcessRequest last;
   std::set<Id> alive;
   std::set<std::string> missing;    ///< programs that are not there
   std::set<std::string> installed;  ///< names in PATH; none: any

@@ -74,6 +74,7 @@ class Scene {
     if (what == "all") return Snapshot(*front_).whole();
     if (what == "tray-menu") return trayMenu();
     if (what == "body") return {placeOf(*front_) + " " + std::to_string(front_->backColor)};
+    if (what == "how-started") return {rig_.processes.last.folder + (rig_.processes.last.detached ? " detached" : "")};
     if (what == "tree") return treeOf(rig_.menus.shown, "");
     if (what != "look") return {};
     Tape all = Snapshot(*front_).captions();
@@ -172,11 +173,14 @@ class Scene {
     if (act.verb == "notice") return rig_.player.answer = {TrayOffer::Answer::Notice, act.value}, true;
     if (act.verb == "program") return program(act);
     if (act.verb == "look" || act.verb == "all" || act.verb == "start" || act.verb == "tree" || act.verb == "body" ||
-        act.verb == "tray-menu")
+        act.verb == "tray-menu" || act.verb == "how-started")
       return asked_ = act.verb, true;
     if (act.verb == "artist") return rig_.state.disc.discArtist = act.value, true;
     if (act.verb == "title") return rig_.state.disc.discTitle = act.value, true;
-    if (act.verb == "setup-engine") return rig_.chooseInSetup(act.value), true;
+    if (act.verb == "setup-engine") return rig_.chooseInSetup(act.value, rig_.settings.lyricsSite), true;
+    if (act.verb == "setup-lyrics") return rig_.chooseInSetup(rig_.settings.searchEngine, act.value), true;
+    if (act.verb == "unreadable") return rig_.files.unreadable.insert(upper(act.value)), true;
+    if (act.verb == "runs") return rig_.processes.names = {act.value}, true;
     if (act.verb == "site") return rig_.state.disc.extraInfo[3] = act.value, true;
     if (act.verb == "choose") return rig_.menus.choice = act.value, true;
     if (act.verb == "desktop-opens-with") return rig_.system.browser = act.value, true;

@@ -76,6 +76,14 @@ TEST(Associations, TakeTheFirstProgramThatCanBeHad) {
   std::filesystem::create_directories(home / "config");
   writeFile(home / "config/mimeapps.list", "[Default Applications]\ntext/html=gone.desktop;../../etc/x.desktop;own-browser.desktop\n");
   EXPECT_EQ(associatedCommand(kPages), "chosen") << "one that has gone is passed over";
+  const std::string added = "[Added Associations]\ntext/html=editor.desktop\n";
+  writeFile(home / "config/mimeapps.list", added);
+  EXPECT_EQ(associatedCommand(kPages), "editor");
+  writeFile(home / "config/mimeapps.list", added + "[Default Applications]\nx-scheme-handler/http=cached.desktop\n");
+  EXPECT_EQ(associatedCommand(kPages), "cached") << "chosen for any type, before what was added to one";
+  writeFile(home / "config/mimeapps.list",
+            "[Default Applications]\nx-scheme-handler/http=cached.desktop\ntext/html=own-browser.desktop\n" + added);
+  EXPECT_EQ(associatedCommand(kPages), "chosen");
   for (const auto& [variable, value] : before) value.empty() ? ::unsetenv(variable.c_str()) : ::setenv(variable.c_str(), value.c_str(), 1);
 }
 

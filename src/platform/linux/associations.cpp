@@ -191,9 +191,9 @@ std::string associatedCommand(const std::vector<std::string>& types) {
     const auto list = HostFiles().read(joinPath(folder, name));
     if (list) std::ranges::copy(choicesFor(*list, group, type), std::back_inserter(choices));
   };
-  // What was chosen, what was added.
-  for (const std::string& type : types) {
-    for (const char* group : {"Default Applications", "Added Associations"}) {
+  // What was chosen, for any of the types, before what was added: an editor may be added to pages.
+  for (const char* group : {"Default Applications", "Added Associations"}) {
+    for (const std::string& type : types) {
       for (const std::string& folder : folders.lists) {
         for (const std::string& name : listNames()) collect(folder, name, group, type);
       }

@@ -18,7 +18,7 @@ inline constexpr Licence kLicences[] = {
     {"libxcb", "linked dynamically", "MIT licence", "https://opensource.org/license/mit"},
     {"libsndfile", "loaded", "LGPL-2.1 or later", "https://www.gnu.org/licenses/old-licenses/lgpl-2.1.html"},
     {"libpulse", "loaded", "LGPL-2.1 or later", "https://www.gnu.org/licenses/old-licenses/lgpl-2.1.html"},
-    {"libcubeb", "", "ISC licence", "https://opensource.org/license/isc-license-txt"},
+    {"libcubeb", "loaded", "ISC licence", "https://opensource.org/license/isc-license-txt"},
     {"DSEG7 Classic", "embedded font", "SIL Open Font Licence 1.1", "https://openfontlicense.org"},
     {"Roboto Condensed", "embedded font", "Apache Licence 2.0", "https://www.apache.org/licenses/LICENSE-2.0"},
 };

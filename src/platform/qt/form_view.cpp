@@ -186,22 +186,20 @@ void FormWindow::step(forms::Control& control, int steps) {
 
 // ---- input
 
-forms::Control* FormWindow::hit(const QPoint& place) const {
-  const auto over = [&](const forms::Control& control) {
-    const ControlWidget* widget = widgetOf(control);
-    if (control.passesMouse || widget == nullptr || !widget->isVisible()) return false;
-    return widget->controlRect().contains(widget->mapFrom(this, place));
-  };
-  // Depth first, the highest of each level first.
-  forms::Control* found = nullptr;
-  for (forms::Control* level = nullptr;;) {
-    forms::Control* best = nullptr;
-    for (forms::Control* control : form_.controls()) {
-      if (control->parent == level && over(*control) && (best == nullptr || control->z >= best->z)) best = control;
-    }
-    if (best == nullptr) return found;
-    found = level = best;
+/// The highest of each level first, and what lies in it before it itself: a pane that lets a press through may hold keys.
+forms::Control* FormWindow::hit(const QPoint& place, const forms::Control* within) const {
+  std::vector<forms::Control*> over;
+  for (forms::Control* control : form_.controls()) {
+    const ControlWidget* widget = control->parent == within ? widgetOf(*control) : nullptr;
+    const bool here = widget != nullptr && widget->isVisible() && widget->controlRect().contains(widget->mapFrom(this, place));
+    if (here) over.push_back(control);
   }
+  std::stable_sort(over.begin(), over.end(), [](const forms::Control* a, const forms::Control* b) { return a->z < b->z; });
+  for (auto control = over.rbegin(); control != over.rend(); ++control) {
+    if (forms::Control* inside = hit(place, *control)) return inside;
+    if (!(*control)->passesMouse) return *control;
+  }
+  return nullptr;
 }
 
 forms::Mouse FormWindow::mouseAt(const QMouseEvent& event, const forms::Control* control) const {

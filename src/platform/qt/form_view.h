@@ -73,7 +73,7 @@ class FormWindow : public QWidget {
   void drawSurfaces();
   void placeWindow();
   bool onScreen() const;
-  forms::Control* hit(const QPoint& place) const;
+  forms::Control* hit(const QPoint& place, const forms::Control* within = nullptr) const;
   forms::Mouse mouseAt(const QMouseEvent& event, const forms::Control* control) const;
 
   forms::Form& form_;  ///< lives as long as the program, loaded or not

@@ -25,6 +25,7 @@ void About::show() {
 
 /// ENTER closes it as it opened.
 void About::load() {
+  grip_.drop();
   place();
   colour();
   tellFacts();
@@ -80,23 +81,31 @@ void About::tellFacts() {
   }
 }
 
-/// A path too long for its line keeps its end, which tells more than its beginning.
-std::string About::fitted(std::string text, const forms::Label& label) const {
+/// A path too long for its line keeps its end, which tells more than its beginning: whole words of it, if one fits.
+std::string About::fitted(const std::string& text, const forms::Label& label) const {
   const forms::Font& font = label.font;
-  const auto wide = [&](const std::string& line) {
-    return ports_.screen.textWidthTwips(line, font.family, font.points, font.bold) > label.width;
+  const auto fits = [&](const std::string& line) {
+    return ports_.screen.textWidthTwips(line, font.family, font.points, font.bold) <= label.width;
   };
-  if (!wide(text)) return text;
-  const std::string dots = "... ";
-  while (!text.empty() && wide(dots + text)) text.erase(0, firstCharacters(text, 1).size());
-  return dots + text;
+  if (fits(text)) return text;
+  for (size_t at = text.find_first_of(" /", 1); at != std::string::npos; at = text.find_first_of(" /", at + 1)) {
+    const std::string line = "..." + text.substr(at);
+    if (fits(line)) return line;
+  }
+  std::string end = text;
+  while (!end.empty() && !fits("..." + end)) end.erase(0, firstCharacters(end, 1).size());
+  return "..." + end;
 }
 
 /// Taken by its ground it can be dragged, as the deck can.
 void About::mouseDown(forms::Control* control, const forms::Mouse& mouse) {
-  const bool ground = control == nullptr || control == &form_.AboutPlate;
-  if (ground && mouse.button == forms::MouseButton::Left && form_.view() != nullptr) form_.view()->drag();
+  const bool ground = control == nullptr || !control->tabStop;
+  if (ground && mouse.button == forms::MouseButton::Left) grip_.take(mouse);
 }
+
+void About::mouseMove(forms::Control* /*control*/, const forms::Mouse& mouse) { grip_.drags(form_, mouse); }
+
+void About::mouseUp(forms::Control* /*control*/, const forms::Mouse& /*mouse*/) { grip_.drop(); }
 
 void About::click(forms::Control& control) {
   for (size_t i = 0; i < std::size(kLicences); ++i) {

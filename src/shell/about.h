@@ -1,6 +1,7 @@
 // The About box: opened over the deck, in the deck's colours; its licences lead to their texts.
 #pragma once
 
+#include "faceplate/window_grip.h"
 #include "platform/forms/form.h"
 #include "shell/ports.h"
 
@@ -19,6 +20,8 @@ class About : public forms::FormEvents {
 
   void load() override;
   void mouseDown(forms::Control* control, const forms::Mouse& mouse) override;
+  void mouseMove(forms::Control* control, const forms::Mouse& mouse) override;
+  void mouseUp(forms::Control* control, const forms::Mouse& mouse) override;
   void click(forms::Control& control) override;
   bool keyDown(const forms::KeyPress& key) override;
   void closeAsked() override;
@@ -27,13 +30,14 @@ class About : public forms::FormEvents {
   void place();
   void colour();
   void tellFacts();
-  std::string fitted(std::string text, const forms::Label& label) const;
+  std::string fitted(const std::string& text, const forms::Label& label) const;
 
   ShellPorts ports_;
   AboutBox& form_;
   const CDForm& faceplate_;
   const Settings& settings_;
   ShellUpward& upward_;
+  WindowGrip grip_;
 };
 
 }  // namespace orvanta

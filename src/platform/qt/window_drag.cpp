@@ -7,6 +7,8 @@
 #include <QWindow>
 #include <utility>
 
+#include "platform/qt/window_traits.h"
+
 namespace orvanta {
 
 namespace {
@@ -46,7 +48,10 @@ bool WindowDrag::moved(const QMouseEvent& event) {
 }
 
 bool WindowDrag::released(const QMouseEvent& event) {
-  if (event.button() == Qt::LeftButton) held_ = false;
+  const bool left = event.button() == Qt::LeftButton;
+  if (left) held_ = false;
+  // The window manager came too late to see it: with the window on the mouse it would wait for the next one.
+  if (left && dragging_ && !byHand_) cancelSystemMove(window_);
   if (!std::exchange(byHand_, false)) return false;
   mayHaveEnded();
   return true;

@@ -88,14 +88,9 @@ void Links::afterTick() { core_.strip_.mirror.follow(); }
 
 // ---- windows
 
-/// What has stood in its place gives it back; a faceplate that made room of its own comes when the user calls it, and the
-/// keyboard goes to the strip meanwhile.
+/// What has stood in its place gives it back; a faceplate that made room of its own comes when the user calls it.
 void Links::showFaceplate() {
-  if (core_.strip_.window.out()) {
-    activateStrip();
-  } else {
-    core_.showFaceplate();
-  }
+  if (!core_.strip_.window.out()) core_.showFaceplate();
 }
 
 void Links::minimise() { core_.strip_.window.minfp1(); }
@@ -103,8 +98,6 @@ void Links::minimise() { core_.strip_.window.minfp1(); }
 void Links::comeBack() { core_.strip_.window.restore(); }
 
 void Links::hideFaceplate() { core_.form.hide(); }
-
-void Links::activateStrip() { core_.strip_.window.comeForward(); }
 
 bool Links::mayShowCdData() const { return core_.state.disc.in() || core_.library_.cdData.openForPerson(); }
 

@@ -47,7 +47,6 @@ class Links : public PlaybackUpward,
   // Windows.
   void showFaceplate() override;
   void hideFaceplate() override;
-  void activateStrip() override;
   void minimise() override;
   void comeBack() override;
   void showCdData() override;

@@ -209,11 +209,7 @@ void CdData::updateSubmitKey() {
 }
 
 void CdData::unload() {
-  if (visit_.tookPlace) {
-    upward_.showFaceplate();
-  } else if (visit_.byPerson) {
-    upward_.activateStrip();
-  }
+  if (visit_.tookPlace) upward_.showFaceplate();
 }
 
 void CdData::close() {

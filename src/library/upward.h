@@ -9,8 +9,6 @@ class LibraryUpward {
   /// The faceplate, where a window has taken its place.
   virtual void showFaceplate() = 0;
   virtual void hideFaceplate() = 0;
-  /// The strip, if it stands in for the faceplate, has the keyboard again.
-  virtual void activateStrip() = 0;
   virtual void showHelp(int topic) = 0;
   /// The CDDB's window, to look the disc up.
   virtual void openCddb() = 0;

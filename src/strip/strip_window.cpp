@@ -115,10 +115,6 @@ void StripWindow::showFromTray() {
   on_.mirror.follow();
 }
 
-void StripWindow::comeForward() {
-  if (onScreen_) form_.show(desktop_);
-}
-
 // ---- the level
 
 void StripWindow::keepLevel() {

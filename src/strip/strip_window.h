@@ -55,8 +55,6 @@ class StripWindow {
   void Image13_MouseUp();
   /// Out of the tray to its place. A strip that has gone meanwhile leaves the faceplate to come.
   void showFromTray();
-  /// What stood over it has closed: the keyboard is its own again, where it shows.
-  void comeForward();
 
   void fold();
   void unfold();

@@ -8,6 +8,7 @@
 #include <algorithm>
 
 #include "platform/qt/data_style.h"
+#include "platform/qt/keyboard_holder.h"
 #include "platform/qt/to_qt.h"
 
 namespace orvanta {
@@ -76,7 +77,7 @@ void DataWindow::followForm(Change change) {
   if (change == Change::Enabled) setEnabled(form->enabled);
   if (change == Change::Geometry) {
     place();
-    setVisible(wanted_ && onScreen());
+    showIfWanted();
   }
 }
 
@@ -107,7 +108,13 @@ void DataWindow::place() {
 void DataWindow::showWanted(bool wanted) {
   wanted_ = wanted;
   if (wanted) flush();
-  setVisible(wanted && onScreen());
+  showIfWanted();
+}
+
+void DataWindow::showIfWanted() {
+  const bool shows = wanted_ && onScreen();
+  if (!shows) keyboardLeaves(*this);
+  setVisible(shows);
 }
 
 void DataWindow::closeEvent(QCloseEvent* event) {
@@ -126,7 +133,9 @@ void DataWindow::mouseReleaseEvent(QMouseEvent* event) {
 
 void DataWindow::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
-  if (event->type() == QEvent::ActivationChange && isActiveWindow()) road_.enter([](Form& form) { form.activated(); });
+  if (event->type() != QEvent::ActivationChange || !isActiveWindow()) return;
+  keyboardTaken(*this);
+  road_.enter([](Form& form) { form.activated(); });
 }
 
 // ---- DataView
@@ -137,7 +146,7 @@ DataView::~DataView() {
 
 void DataView::raise() {
   window_->raise();
-  window_->activateWindow();
+  giveKeyboardTo(*window_);
 }
 
 }  // namespace orvanta

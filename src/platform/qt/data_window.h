@@ -43,6 +43,7 @@ class DataWindow : public QWidget {
   void leaveRoom();
   QGridLayout* gridOf(QWidget* owner, const forms::Control* panel);
   bool onScreen() const;
+  void showIfWanted();
 
   FormRoad road_;
   Scale deckScale_;  ///< of places

@@ -17,6 +17,7 @@
 #include "base/log.h"
 #include "platform/qt/accessible.h"
 #include "platform/qt/icons.h"
+#include "platform/qt/keyboard_holder.h"
 #include "platform/qt/keys.h"
 #include "platform/qt/picture_threads.h"
 #include "platform/qt/to_qt.h"
@@ -123,6 +124,7 @@ void FormWindow::detach() {
 void FormWindow::showWanted(bool wanted) {
   wanted_ = wanted;
   const bool shows = wanted && onScreen();
+  if (!shows) keyboardLeaves(*this);
   if (shows) tellDesktop(*this, form_.traits());
   if (shows && form_.minimised) {
     giveWindowIcon();
@@ -323,7 +325,9 @@ void FormWindow::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
   // The user's doing as well as the program's.
   if (event->type() == QEvent::WindowStateChange) road_.enter([this](Form& form) { form.minimised = isMinimized(); });
-  if (event->type() == QEvent::ActivationChange) road_.enter([&](Form& form) { isActiveWindow() ? form.activated() : form.deactivated(); });
+  if (event->type() != QEvent::ActivationChange) return;
+  if (isActiveWindow() && !form_.traits().bodyless) keyboardTaken(*this);
+  road_.enter([&](Form& form) { isActiveWindow() ? form.activated() : form.deactivated(); });
 }
 
 void FormWindow::closeEvent(QCloseEvent* event) {
@@ -352,7 +356,7 @@ void FixedView::raise() {
     return;
   }
   window_->raise();
-  window_->activateWindow();
+  giveKeyboardTo(*window_);
 }
 
 }  // namespace orvanta

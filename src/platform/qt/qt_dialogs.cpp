@@ -13,6 +13,7 @@
 #include <algorithm>
 
 #include "platform/ports/screen.h"
+#include "platform/qt/keyboard_holder.h"
 #include "platform/qt/to_qt.h"
 
 namespace orvanta {
@@ -69,10 +70,12 @@ int QtDialogs::run(QDialog& box) {
   screen_.setPointer(Pointer::Normal);
   box.setWindowModality(Qt::ApplicationModal);
   putOver(box, QApplication::activeWindow());
+  const bool ours = keyboardIsOurs();
   ++open_;
   const int answer = box.exec();
   --open_;
   gate_.leaveIfEnded();
+  if (ours) giveKeyboardBack();
   return answer;
 }
 

@@ -138,6 +138,8 @@ void EnhancedDisc::askForAnother(const std::string& failed) {
       failed.empty() ? "Enhanced CD Startup File Not Found!" : "\"" + shownName(failed) + "\" could not be started on this system.";
   if (!ports_.dialogs.askYesNo(BoxStyle::Question, kTitle, why + " Do you wish to search for the program file on the CD?")) return;
   ports_.screen.setPointer(Pointer::Hourglass);
+  // The question may make a person mount it.
+  if (disc_.empty()) disc_ = ports_.discData.disc();
   const std::string folder = discStays() ? ports_.discData.folder() : "";
   ports_.screen.setPointer(Pointer::Normal);
   tellUnread();

@@ -67,6 +67,11 @@ std::string isoSectors(int start, const std::string& file, const std::string& co
   entry(isLong ? file : file + ";1", 0);
   if (isLong) entry(utf16(u"B", true), 0, kBlocks), entry(utf16(u"C", true), 2, kBlocks);
   blocks[19].replace(0, content.size(), content);
+  while (blocks.back().size() > 2048) {
+    blocks.push_back(blocks.back().substr(2048));
+    blocks[blocks.size() - 2].resize(2048);
+  }
+  blocks.back().resize(2048);
   std::string sectors;
   for (const std::string& block : blocks) {
     std::string sector(kBytesPerFrame, '\0');

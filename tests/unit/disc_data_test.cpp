@@ -13,6 +13,7 @@
 #include "platform/disc/folder_data.h"
 #include "platform/disc/image_data.h"
 #include "platform/linux/host_processes.h"
+#include "platform/ports/core_gate.h"
 #include "tests/support/test_discs.h"
 #include "tests/support/transcript.h"
 #include "web/enhanced_disc.h"
@@ -98,6 +99,23 @@ TEST(ImageData, IsReadFromTheDataTrackAndCopiedOut) {
   sheet.clear();
   EXPECT_EQ(data.find("START.EXE"), "") << "the tray is open";
   EXPECT_EQ(data.folder(), "");
+}
+
+TEST(ImageData, LeavesNoPartOfACopyBehind) {
+  const TempFolder folder;
+  std::string sheet = makeEnhancedDisc(folder, {100}, "START.EXE", std::string(size_t{2} << 20, 'x'));
+  const auto left = [&] { return fs::exists(folder / ("store/" + std::to_string(::getpid()))); };
+  bool copying = false;
+  ImageData ended([&] { return sheet; }, folder / "store",
+                  [&] {
+                    copying = left();
+                    throw ProcessEnded{};
+                  });
+  EXPECT_THROW(ended.folder(), ProcessEnded);
+  EXPECT_TRUE(copying && !left());
+  ImageData open([&] { return sheet; }, folder / "store", [&] { sheet.clear(); });
+  EXPECT_EQ(open.folder(), "");
+  EXPECT_FALSE(left());
 }
 
 TEST(ImageData, LeavesOutWhatCannotBeRead) {

@@ -19,6 +19,18 @@ namespace {
 constexpr int64_t kMostBytes = int64_t{900} << 20;  ///< no disc holds more
 constexpr int kBlocksAtATime = 512;                 ///< copied between two yields
 
+/// A copy that is broken off would only fill the disk: nor does it stay when the process ends while events are delivered.
+struct Part {
+  explicit Part(DiscStore& copy) : store(copy) {}
+  ~Part() {
+    if (!whole) store.drop();
+  }
+  Part(const Part&) = delete;
+  Part& operator=(const Part&) = delete;
+  DiscStore& store;
+  bool whole = false;
+};
+
 }  // namespace
 
 ImageData::ImageData(std::function<std::string()> sheet, std::string stores, std::function<void()> yield)
@@ -80,14 +92,14 @@ bool ImageData::copyOut() {
   if (stored_ == opened_) return true;
   const std::string sheet = opened_;
   stored_.clear();
-  if (copyAll(sheet)) {
+  Part part(store_);
+  part.whole = copyAll(sheet);
+  if (part.whole) {
     stored_ = sheet;
-    return true;
+  } else {
+    unread_.clear();
   }
-  // What was broken off would only fill the disk.
-  store_.drop();
-  unread_.clear();
-  return false;
+  return part.whole;
 }
 
 /// One bad file leaves all others usable. False: none could be had, or no room was left, or the disc was taken out, or another

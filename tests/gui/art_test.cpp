@@ -266,6 +266,32 @@ TEST(Drops, LightTheDeckUpForWhatItTakes) {
   EXPECT_EQ(lit.copy(20, 20, 500, 180), dark.copy(20, 20, 500, 180));
   leave();
   EXPECT_EQ(deck.picture(), dark);
+  // A program that dies in the midst of its drag says no more; the mouse is the deck's again.
+  const std::function<void()> signs[] = {[&] { QTest::keyClick(deck.window, Qt::Key_Shift); },
+                                         [&] {
+                                           QTest::mouseClick(deck.window, Qt::RightButton, {}, {3, 3});
+                                         },
+                                         [&] {
+                                           QEnterEvent event({1, 1}, {1, 1}, {1, 1});
+                                           QApplication::sendEvent(deck.window, &event);
+                                         }};
+  for (const auto& sign : signs) {
+    hover("/music/disc.cue");
+    EXPECT_NE(deck.picture(), dark);
+    sign();
+    EXPECT_EQ(deck.picture(), dark);
+  }
+  // Qt takes the next drag for the one that never left.
+  QMimeData next;
+  next.setUrls({QUrl::fromLocalFile(QStringLiteral("/music/disc.cue"))});
+  QDragMoveEvent move({100, 100}, Qt::CopyAction, &next, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(deck.window, &move);
+  EXPECT_TRUE(move.isAccepted());
+  EXPECT_NE(deck.picture(), dark);
+  signs[2]();  // the mouse that is let go comes to the window before its drop does
+  QDropEvent drop({100, 100}, Qt::CopyAction, &next, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(deck.window, &drop);
+  EXPECT_EQ(deck.player.answer.refusal, "/music/disc.cue is no disc.") << "it was given to the drive";
   hover("/music/disc.m3u");
   EXPECT_EQ(deck.picture(), dark);
 }

@@ -112,6 +112,38 @@ TEST(View, ADropIsACopy) {
   EXPECT_EQ(dropped(deck, QStringLiteral("https://example.org/disc.cue"), both, Qt::CopyAction), Qt::IgnoreAction);
 }
 
+/// A file whose every reading is counted, as each of them waits for its program.
+class CountedFile : public QMimeData {
+ public:
+  mutable int readings = 0;
+
+ protected:
+  QStringList formats() const override { return {QStringLiteral("text/uri-list")}; }
+  QVariant retrieveData(const QString& /*type*/, QMetaType /*wanted*/) const override {
+    ++readings;
+    return QByteArray(readings == 1 ? "file:///music/disc.cue\r\n" : "");
+  }
+};
+
+TEST(View, ADragIsReadOnce) {
+  Deck deck;
+  const CountedFile file;
+  QDragEnterEvent enter({100, 100}, Qt::CopyAction, &file, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(deck.window, &enter);
+  for (int x = 100; x < 110; ++x) {
+    QDragMoveEvent move({x, 100}, Qt::CopyAction, &file, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(deck.window, &move);
+    EXPECT_TRUE(move.isAccepted());
+  }
+  QDropEvent drop({110, 100}, Qt::CopyAction, &file, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(deck.window, &drop);
+  EXPECT_EQ(file.readings, 1) << "its program may have ended with the drop";
+  EXPECT_EQ(deck.player.answer.refusal, "/music/disc.cue is no disc.") << "it was given to the drive";
+  QDragEnterEvent next({100, 100}, Qt::CopyAction, &file, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(deck.window, &next);
+  EXPECT_FALSE(next.isAccepted()) << "each drag is read for itself";
+}
+
 TEST(View, TheMetalIsDraggedByAMoveAndCentredByTwoClicks) {
   Deck deck;
   CDForm& form = deck.core.form;

@@ -6,7 +6,6 @@
 #include <QDropEvent>
 #include <QHelpEvent>
 #include <QKeyEvent>
-#include <QMimeData>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScreen>
@@ -33,23 +32,6 @@ namespace {
 /// A track may be called "*": in brackets Qt takes that for the place of a mark, unless it stands there twice.
 QString titleOf(const Form& form) { return toQt(form.caption).replace(QLatin1String("[*]"), QLatin1String("[*][*]")); }
 
-/// Of several files that are dragged at once the sheet, else the first; "" for none of this machine.
-std::string droppedFile(const QDropEvent& event) {
-  const auto urls = event.mimeData()->urls();
-  const auto sheet =
-      std::find_if(urls.begin(), urls.end(), [](const QUrl& url) { return url.path().endsWith(".cue", Qt::CaseInsensitive); });
-  const auto chosen = sheet != urls.end() ? sheet : urls.begin();
-  return chosen == urls.end() ? std::string() : chosen->toLocalFile().toStdString();
-}
-
-/// The file stays its owner's: a drop is never taken as a move, which would let the source delete it.
-bool takeCopy(QDropEvent& event) {
-  const bool taken = !droppedFile(event).empty() && event.possibleActions().testFlag(Qt::CopyAction);
-  event.setDropAction(taken ? Qt::CopyAction : Qt::IgnoreAction);
-  event.setAccepted(taken);
-  return taken;
-}
-
 }  // namespace
 
 FormWindow::FormWindow(forms::Form& form, CoreGate& gate, Fonts& fonts, const Scale& scale)
@@ -65,13 +47,16 @@ FormWindow::FormWindow(forms::Form& form, CoreGate& gate, Fonts& fonts, const Sc
           [this] { road_.enter([&](Form& told) { told.dragged(scale_.twips(x()), scale_.twips(y())); }); }) {
   setAttribute(Qt::WA_OpaquePaintEvent);
   setMouseTracking(false);
-  setAcceptDrops(true);
   setFocusPolicy(Qt::StrongFocus);
   setWindowTitle(titleOf(form));
   setObjectName(toQt(form.name()));
   useAccessibleControls();
   build();
-  rim_ = new Rim(*this, scale_.factor);
+  fileDrag_ = new FileDrag(*this, scale_.factor, [this](const std::string& file) {
+    bool used = false;
+    road_.enter([&](Form& told) { used = told.takesFile(file); });
+    return used;
+  });
   placeWindow();
 }
 
@@ -264,24 +249,15 @@ void FormWindow::keyReleaseEvent(QKeyEvent* event) {
 
 bool FormWindow::focusNextPrevChild(bool /*next*/) { return false; }
 
-void FormWindow::dragEnterEvent(QDragEnterEvent* event) {
-  dragMoveEvent(event);
-  if (!event->isAccepted()) return;
-  bool taken = false;
-  road_.enter([&](Form& form) { taken = form.takesFile(droppedFile(*event)); });
-  rim_->setGeometry(rect());
-  rim_->raise();
-  rim_->setVisible(taken);
-}
+void FormWindow::dragEnterEvent(QDragEnterEvent* event) { fileDrag_->enters(*event); }
 
-void FormWindow::dragLeaveEvent(QDragLeaveEvent* /*event*/) { rim_->hide(); }
+void FormWindow::dragLeaveEvent(QDragLeaveEvent* /*event*/) { fileDrag_->leaves(); }
 
-void FormWindow::dragMoveEvent(QDragMoveEvent* event) { takeCopy(*event); }
+void FormWindow::dragMoveEvent(QDragMoveEvent* event) { fileDrag_->moves(*event); }
 
 void FormWindow::dropEvent(QDropEvent* event) {
-  rim_->hide();
-  if (!takeCopy(*event)) return;
-  road_.enter([&](Form& form) { form.fileDropped(droppedFile(*event)); });
+  const std::string file = fileDrag_->falls(*event);
+  if (!file.empty()) road_.enter([&](Form& form) { form.fileDropped(file); });
 }
 
 // ---- the window

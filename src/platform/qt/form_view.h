@@ -11,9 +11,9 @@
 #include "platform/ports/core_gate.h"
 #include "platform/qt/art.h"
 #include "platform/qt/control_widget.h"
+#include "platform/qt/file_drag.h"
 #include "platform/qt/fonts.h"
 #include "platform/qt/form_road.h"
-#include "platform/qt/rim.h"
 #include "platform/qt/scale.h"
 #include "platform/qt/window_drag.h"
 
@@ -84,7 +84,7 @@ class FormWindow : public QWidget {
   Scale scale_;
   WindowDrag drag_;
   std::map<const forms::Control*, ControlWidget*> widgets_;
-  Rim* rim_ = nullptr;  ///< shown while a file that would be used hovers over the window
+  FileDrag* fileDrag_ = nullptr;
   std::map<const forms::Control*, std::vector<ControlWidget*>> followers_;  ///< whose partner a control is
   ControlWidget* focused_ = nullptr;
   int wheel_ = 0;  ///< of a notch, in Qt's eighths of a degree

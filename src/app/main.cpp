@@ -214,20 +214,6 @@ struct Deck {
   std::unique_ptr<Orvanta> orvanta;
 };
 
-/// What second starts and the setup program ask of this deck.
-void serve(SocketServer& server, Deck& deck) {
-  while (const auto request = server.next()) {
-    auto start = secondStartOf(request->line);
-    // One drive by two names is one drive.
-    if (start && identityOf(start->drive) == identityOf(deck.drivePath)) start->drive.clear();
-    SocketServer::reply(*request, start || request->line == kSettingsChanged ? "ok" : "no");
-    deck.gate.enter([&] {
-      if (start) deck.orvanta->secondStart(*start);
-      if (request->line == kSettingsChanged) deck.orvanta->takeUpSettings();
-    });
-  }
-}
-
 /// The signals that end a program end it as its exit does; children that have ended are let go of.
 void serveSignals(Host& host, Deck& deck) {
   for (auto what = host.wishes.next(); what != Signals::What::None; what = host.wishes.next()) {
@@ -236,6 +222,23 @@ void serveSignals(Host& host, Deck& deck) {
     } else {
       host.processes.reap();
     }
+  }
+}
+
+/// What second starts and the setup program ask of this deck. One that ends takes up nothing more: who goes without a
+/// reply asks again, and becomes the next deck.
+void serve(Host& host, Deck& deck) {
+  while (const auto request = host.server.next()) {
+    serveSignals(host, deck);
+    if (deck.gate.ended()) return;
+    auto start = secondStartOf(request->line);
+    // One drive by two names is one drive.
+    if (start && identityOf(start->drive) == identityOf(deck.drivePath)) start->drive.clear();
+    SocketServer::reply(*request, start || request->line == kSettingsChanged ? "ok" : "no");
+    deck.gate.enter([&] {
+      if (start) deck.orvanta->secondStart(*start);
+      if (request->line == kSettingsChanged) deck.orvanta->takeUpSettings();
+    });
   }
 }
 
@@ -252,7 +255,7 @@ void prepareQt() {
 /// Listens for second starts. The deck that made way for this one may still do so for a moment.
 class Listener {
  public:
-  Listener(SocketServer& server, Deck& deck) : server_(server), deck_(deck) {
+  Listener(Host& host, Deck& deck) : host_(host), deck_(deck) {
     constexpr int kListenAgain = 100;  // milliseconds
     QObject::connect(&again_, &QTimer::timeout, [this] { listen(); });
     again_.start(kListenAgain);
@@ -260,14 +263,14 @@ class Listener {
 
  private:
   void listen() {
-    if (!server_.listen()) return;
+    if (!host_.server.listen()) return;
     again_.stop();
-    notifier_ = std::make_unique<QSocketNotifier>(server_.fd(), QSocketNotifier::Read);
-    QObject::connect(notifier_.get(), &QSocketNotifier::activated, [this] { serve(server_, deck_); });
-    serve(server_, deck_);
+    notifier_ = std::make_unique<QSocketNotifier>(host_.server.fd(), QSocketNotifier::Read);
+    QObject::connect(notifier_.get(), &QSocketNotifier::activated, [this] { serve(host_, deck_); });
+    serve(host_, deck_);
   }
 
-  SocketServer& server_;
+  Host& host_;
   Deck& deck_;
   QTimer again_;
   std::unique_ptr<QSocketNotifier> notifier_;
@@ -304,7 +307,7 @@ int live(QApplication& application, const Options& options, Host& host, Drive& d
   deck.gate.enter([&] { deck.orvanta->startUp(options.host); });
   if (!deck.gate.ended()) drive.takeUp(options.takeOver);
   deck.gate.enter([&] { deck.orvanta->showFaceplate(); });
-  const Listener listener(host.server, deck);
+  const Listener listener(host, deck);
   lastWill = [&] { deck.gate.enter([&] { deck.orvanta->displayGone(); }); };
   std::atexit([] {
     if (lastWill) lastWill();

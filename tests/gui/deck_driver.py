@@ -286,7 +286,9 @@ class Deck:
         return True
 
     def drop(self, path):
-        """Drags a file out of another window onto the deck. What the deck made of it: copy, move or none."""
+        """Drags a file out of another window onto the deck. What the deck made of it: copy, move or none. One that it took
+        is in its tray afterwards, or refused in a box."""
+        before = self.put_in()
         target = self.place(FACEPLATE, across=0.5, down=0.3)
         if not target:
             return "none"
@@ -299,10 +301,17 @@ class Deck:
                 xdotool("mousemove", *(round(a + (b - a) * way) for a, b in zip((1520, 920), target)))
             time.sleep(0.15)
             xdotool("mouseup", 1)
-            return source.communicate(timeout=10)[0].strip() or "none"
+            taken = source.communicate(timeout=10)[0].strip() or "none"
         except (Fault, subprocess.TimeoutExpired):
             return "none"
         finally:
             xdotool("mouseup", 1)
             if source.poll() is None:
                 source.kill()
+        if taken == "copy":
+            until("the deck's answer to a drop", lambda: self.put_in() > before or self.boxes() or not self.pid())
+        return taken
+
+    def put_in(self):
+        """How many times its tray was closed."""
+        return read(self.log).count(b"close at frame")

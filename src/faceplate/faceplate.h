@@ -23,7 +23,7 @@ struct Faceplate {
         title(form),
         keyboard(actions, entry, volume),
         load(ports, playback, colours, layout, volume, sounds, form, state),
-        events(load, actions, keyboard, volume, layout, place, choice, title, form, state) {
+        events(load, actions, keyboard, entry, volume, layout, place, choice, title, form, state) {
     playback.status.watch([this, &form](const DeckStatus& now) {
       title.show(now);
       form.Image16[Repeat].engaged = now.repeat;

@@ -5,11 +5,13 @@
 
 namespace orvanta {
 
-FaceplateEvents::FaceplateEvents(FaceplateLoad& load, Actions& actions, Keyboard& keyboard, Volume& volume, Layout& layout,
-                                 WindowPlace& place, DiscChoice& choice, TaskTitle& title, CDForm& form, const SharedState& state)
+FaceplateEvents::FaceplateEvents(FaceplateLoad& load, Actions& actions, Keyboard& keyboard, TrackEntry& entry, Volume& volume,
+                                 Layout& layout, WindowPlace& place, DiscChoice& choice, TaskTitle& title, CDForm& form,
+                                 const SharedState& state)
     : load_(load),
       actions_(actions),
       keyboard_(keyboard),
+      entry_(entry),
       volume_(volume),
       layout_(layout),
       place_(place),
@@ -21,6 +23,8 @@ FaceplateEvents::FaceplateEvents(FaceplateLoad& load, Actions& actions, Keyboard
 }
 
 void FaceplateEvents::mouseDown(forms::Control* control, const forms::Mouse& mouse) {
+  // Whoever presses elsewhere has thought better of a number.
+  if (entry_.open() && control != &form_.Text1) entry_.close();
   if (control != nullptr && volume_.sliders().mouseDown(*control, mouse)) return;
   if (mouse.button != forms::MouseButton::Left) return;
   if (control == nullptr || control == &form_.Image8) {

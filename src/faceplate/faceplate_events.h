@@ -6,6 +6,7 @@
 #include "faceplate/keyboard.h"
 #include "faceplate/pressed_look.h"
 #include "faceplate/task_title.h"
+#include "faceplate/track_entry.h"
 #include "faceplate/window_grip.h"
 #include "faceplate/window_place.h"
 #include "platform/forms/form.h"
@@ -14,8 +15,8 @@ namespace orvanta {
 
 class FaceplateEvents : public forms::FormEvents {
  public:
-  FaceplateEvents(FaceplateLoad& load, Actions& actions, Keyboard& keyboard, Volume& volume, Layout& layout, WindowPlace& place,
-                  DiscChoice& choice, TaskTitle& title, CDForm& form, const SharedState& state);
+  FaceplateEvents(FaceplateLoad& load, Actions& actions, Keyboard& keyboard, TrackEntry& entry, Volume& volume, Layout& layout,
+                  WindowPlace& place, DiscChoice& choice, TaskTitle& title, CDForm& form, const SharedState& state);
 
   void load() override { load_.load(); }
   void activate() override { load_.activate(); }
@@ -37,6 +38,7 @@ class FaceplateEvents : public forms::FormEvents {
   FaceplateLoad& load_;
   Actions& actions_;
   Keyboard& keyboard_;
+  TrackEntry& entry_;
   Volume& volume_;
   Layout& layout_;
   WindowPlace& place_;

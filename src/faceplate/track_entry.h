@@ -13,10 +13,11 @@ class TrackEntry {
 
   bool open() const { return form_.Text1.visible; }
   bool keyDown(const forms::KeyPress& key);
+  /// Without a jump: the key takes its place again.
+  void close();
 
  private:
   void take();
-  void close();
 
   Buttons& buttons_;
   Display& display_;

@@ -235,7 +235,7 @@ constexpr forms::DesignRow kDesign[] = {
     {"Label39", kNoIndex, "CDForm", 6, {8214, 2082, 228, 180}, {8220, 2075, 234, 180}, "Rpt", 0x000000, 0x000000, kSmallFont, 7, true, true, Align::Center, false, false, true, "caption", "", ""},
     {"Label40", kNoIndex, "CDForm", 6, {8604, 2082, 240, 180}, {8600, 2075, 244, 180}, "Rip", 0x000000, 0x000000, kSmallFont, 7, true, true, Align::Center, false, false, true, "caption", "", ""},
     {"Label35", kNoIndex, "CDForm", 6, {8970, 2082, 276, 180}, {8970, 2075, 284, 180}, "Info", 0x000000, 0x000000, kSmallFont, 7, true, true, Align::Center, false, false, true, "caption", "", ""},
-    {"Text1", kNoIndex, "CDForm", 9, {7356, 2052, 384, 240}, {7360, 2050, 384, 230}, "", 0x00FF00, 0x000000, kSmallFont, 8, true, false, Align::Center, false, true, false, "entry", "", "Track number"},
+    {"Text1", kNoIndex, "CDForm", 9, {7356, 2052, 384, 240}, {7360, 2050, 384, 230}, "", 0x00FF00, 0x000000, kSmallFont, 8, true, false, Align::Center, false, true, false, "entry", "The number of a track above 20; then press ENTER", "Track above 20: type its number, then press Enter"},
     {"Label2", kNoIndex, "CDForm", 5, {7860, 2460, 876, 192}, {7860, 2460, 880, 195}, "PLAY MODE", 0xD4CEC9, 0x332E2B, kSmallFont, 7, true, true, Align::Center, false, false, true, "engraved", "", ""},
     {"Label3", kNoIndex, "CDForm", 5, {7380, 2700, 396, 192}, {7380, 2700, 400, 195}, "Pgm", 0xD4CEC9, 0x332E2B, kSmallFont, 7, true, true, Align::Center, false, false, true, "engraved", "", ""},
     {"Label4", kNoIndex, "CDForm", 5, {7860, 2700, 396, 192}, {7860, 2700, 400, 195}, "One", 0xD4CEC9, 0x332E2B, kSmallFont, 7, true, true, Align::Center, false, false, true, "engraved", "", ""},

@@ -122,7 +122,7 @@ void glass(Art& art, std::string_view detail) {
 }
 
 /// Text on the glass; bright text shines, a text in the colour of the user's glass is not there.
-void lit(Art& art, const Lettering& how, double points) {
+void lit(Art& art, const std::string& text, const Lettering& how, double points) {
   const forms::Control& c = art.control;
   const QColor colour = qColour(c.foreColor);
   const OwnColours own = ownColours(c);
@@ -133,9 +133,11 @@ void lit(Art& art, const Lettering& how, double points) {
   if (points > 0) font.points = points;
   const QRectF area(0, 0, art.w, art.h);
   const QColor face = bright && !own.set ? mix(colour, Qt::white, .16) : colour;
-  if (bright && !lightGlass) glow(art, area, font, c.caption, face, how, .55);
-  letters(art, area, font, c.caption, face, how);
+  if (bright && !lightGlass) glow(art, area, font, text, face, how, .55);
+  letters(art, area, font, text, face, how);
 }
+
+void lit(Art& art, const Lettering& how, double points) { lit(art, art.control.caption, how, points); }
 
 /// Every digit with all its segments.
 std::string unlit(std::string text) {
@@ -234,7 +236,10 @@ bool paintDisplay(Art& art, std::string_view name, std::string_view detail) {
     art.painter.setBrush(Qt::NoBrush);
     art.painter.setPen(QPen(QColor(0x7A, 0x80, 0x87), .7));
     art.painter.drawRoundedRect(area, 1.5, 1.5);
-    lit(art, {c.align}, 0);
+    // A dash for each digit that is still wanted.
+    std::string text = c.caption;
+    text.resize(std::max<size_t>(text.size(), 2), '-');
+    lit(art, text, {c.align, 1}, 0);
   } else {
     return false;
   }

@@ -28,7 +28,7 @@ bool CdData::Command1_Click() {
   const Unwritten failed = state_.library.dataDirty ? save() : Unwritten{};
   if (failed.any()) {
     ports_.screen.setPointer(Pointer::Normal);
-    tellNotWritten(ports_.dialogs, failed.path, failed.reason);
+    tellNotWritten(ports_.dialogs, ports_.files, failed.path, failed.reason);
     if (visit_.byPerson) return false;
   }
   // The deck takes the texts up even when they could not be kept.

@@ -175,7 +175,7 @@ void Playlist::clearList() {
 void Playlist::save() {
   if (form_.List3.count() == 0) return;
   if (const Unwritten failed = discFiles().writeProgram(numbers()); failed.any()) {
-    tellNotWritten(ports_.dialogs, failed.path, failed.reason);
+    tellNotWritten(ports_.dialogs, ports_.files, failed.path, failed.reason);
     return;
   }
   state_.program.pgmStored = true;
@@ -197,7 +197,7 @@ void Playlist::deleteProgram() {
   if (!state_.program.pgmStored) return;
   if (!ports_.dialogs.askYesNo(BoxStyle::Critical, "Orvanta", "Are you sure you wish to delete this playlist?")) return;
   if (const Unwritten failed = discFiles().deleteProgram(); failed.any()) {
-    tellNotWritten(ports_.dialogs, failed.path, failed.reason);
+    tellNotWritten(ports_.dialogs, ports_.files, failed.path, failed.reason);
     return;
   }
   engine_.clrpgm();

@@ -8,13 +8,15 @@
 
 namespace orvanta {
 
-inline void tellNotWritten(Dialogs& dialogs, const std::string& path, const std::string& reason) {
+inline void tellNotWritten(Dialogs& dialogs, const Files& files, const std::string& path, const std::string& reason) {
   dialogs.message(BoxStyle::Warning, "Orvanta",
                   "The file " + path + " could not be written" + (reason.empty() ? "." : ": " + reason + ".") +
-                      "\n\nWhat it held before is still there.");
+                      (files.exists(path) ? "\n\nWhat it held before is still there." : ""));
 }
 
 /// Right after the write that failed.
-inline void tellNotWritten(Dialogs& dialogs, const Files& files, const std::string& path) { tellNotWritten(dialogs, path, files.reason()); }
+inline void tellNotWritten(Dialogs& dialogs, const Files& files, const std::string& path) {
+  tellNotWritten(dialogs, files, path, files.reason());
+}
 
 }  // namespace orvanta

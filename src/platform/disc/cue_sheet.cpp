@@ -77,6 +77,7 @@ constexpr std::array<TrackType, 8> kTrackTypes = {{{"AUDIO", 2352, false},
                                                    {"CDI/2352", 2352, true}}};
 
 constexpr const char* kNoSheet = "it is no CUE sheet; choose a CUE sheet, a file that ends in .cue";
+constexpr const char* kEmpty = "it is empty";
 constexpr size_t kLongestLine = 4096;  ///< bytes; no file system has longer paths
 
 class Parser {
@@ -219,7 +220,8 @@ CueSheet parseCue(std::string_view bytes) {
     }
     parser.line(lines[i]);
   }
-  if (sheet.tracks.empty()) parser.refuse(sheet.files.empty() ? kNoSheet : "it holds no tracks");
+  const bool empty = std::all_of(bytes.begin(), bytes.end(), [](char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n'; });
+  if (sheet.tracks.empty()) parser.refuse(empty ? kEmpty : sheet.files.empty() ? kNoSheet : "it holds no tracks");
   for (const CueTrack& track : sheet.tracks) {
     if (!hasStart(track)) parser.refuse("track " + std::to_string(track.number) + " has no INDEX 01");
   }

@@ -87,13 +87,34 @@ int32_t asInt32(const std::string& text) {
   return value >= -2147483648.0 && value <= 2147483647.0 ? static_cast<int32_t>(value) : 0;
 }
 
+/// Red, green and blue, or a colour of the desktop, which is negative; an empty line is black. What is neither, as in a
+/// file that holds something else, leaves the deck its own colour: in black on black nobody could read why.
+Colour asColour(const std::string& text, Colour own) {
+  const std::string_view held = trim(text);
+  if (held.empty()) return 0;
+  const bool number = held.find_first_not_of("+-.0123456789") == std::string_view::npos && held.find_first_of("0123456789") != held.npos;
+  const double value = leadingNumber(held);
+  if (!number || value < -2147483648.0 || value > colours::kWhite) return own;
+  return static_cast<Colour>(static_cast<int32_t>(value));
+}
+
+/// A fresh installation's, for what a file does not tell.
+const Settings& ownSettings() {
+  static const Settings kOwn = [] {
+    Settings settings = defaultSettings("", "");
+    settings.fonts[kListFont].fontColor = colours::kWhite;
+    return settings;
+  }();
+  return kOwn;
+}
+
 void assign(const Target& target, const std::string& text, Settings& settings) {
   if (const auto* string = std::get_if<std::string Settings::*>(&target)) {
     settings.*(*string) = text;
   } else if (const auto* number = std::get_if<int16_t Settings::*>(&target)) {
     settings.*(*number) = asInt16(text);
   } else if (const auto* colour = std::get_if<Colour Settings::*>(&target)) {
-    settings.*(*colour) = static_cast<Colour>(asInt32(text));
+    settings.*(*colour) = asColour(text, ownSettings().*(*colour));
   } else if (const auto* kept = std::get_if<Kept>(&target)) {
     settings.kept.at(kept->place) = text;
   }
@@ -126,17 +147,19 @@ void write(const Target& target, const Settings& settings, FieldWriter& out) {
 /// ORVWIN3.INI holds groups and arrays, so its order is code: the same walk serves both ways.
 template <class Visit>
 void walkOrvwin3(Settings& settings, const Visit& visit) {
-  const auto font = [&](FontGroup& group) {
+  const Settings& own = ownSettings();
+  const auto font = [&](FontPlace place) {
+    FontGroup& group = settings.fonts[place];
     return visit(group.fontName) && visit(group.fontSize) && visit(group.fontBold) && visit(group.fontItalic) &&
-           visit(group.fontUnderline) && visit(group.fontColor);
+           visit(group.fontUnderline) && visit.colour(group.fontColor, own.fonts[place].fontColor);
   };
-  if (!font(settings.fonts[kDiscFont]) || !font(settings.fonts[kTrackFont])) return;
+  if (!font(kDiscFont) || !font(kTrackFont)) return;
   for (size_t i = 1; i <= 5; ++i) {
     if (!visit(settings.appOptions[i])) return;
   }
-  if (!visit(settings.searchEngine) || !font(settings.fonts[kListFont])) return;
-  for (Colour& colour : settings.customColor) {
-    if (!visit(colour)) return;
+  if (!visit(settings.searchEngine) || !font(kListFont)) return;
+  for (size_t i = 0; i < settings.customColor.size(); ++i) {
+    if (!visit.colour(settings.customColor[i], own.customColor[i])) return;
   }
 }
 
@@ -153,8 +176,14 @@ struct ReadVisit {
     } else if constexpr (std::is_same_v<T, int16_t>) {
       value = asInt16(*text);
     } else {
-      value = static_cast<T>(asInt32(*text));
+      value = asInt32(*text);
     }
+    return true;
+  }
+  bool colour(Colour& value, Colour own) const {
+    std::string text;
+    if (!(*this)(text)) return false;
+    value = asColour(text, own);
     return true;
   }
 };
@@ -165,11 +194,13 @@ struct WriteVisit {
   bool operator()(T& value) const {
     if constexpr (std::is_same_v<T, std::string>) {
       out.text(value);
-    } else if constexpr (std::is_same_v<T, Colour>) {
-      writeColour(value, out);
     } else {
       out.number(value);
     }
+    return true;
+  }
+  bool colour(Colour value, Colour /*own*/) const {
+    writeColour(value, out);
     return true;
   }
 };

@@ -165,6 +165,21 @@ TEST(SettingsFiles, ShortOrBrokenFilesKeepWhatIsHeld) {
   EXPECT_EQ(s.timeMode + s.expandedDisplay + s.smallFaceplate, 0) << "what no 16-bit number holds counts as 0";
 }
 
+/// Other bytes than the family's in ORVWIN3.INI: what is no colour is the deck's own, what is one stands.
+TEST(SettingsFiles, WhatIsNoColourLeavesTheDecksOwn) {
+  std::string bytes;
+  for (int line = 1; line <= 24; ++line) bytes += "\x81#?\r\n";
+  for (const char* colour : {"x", "12#", "99999999999", "16777216", "-", "", "-2147483643", "255"}) bytes += std::string(colour) + "\r\n";
+  const Settings own = defaultSettings("", "");
+  Settings s;
+  readFields(SettingsFile::Orvwin3, FieldReader(bytes), s);
+  EXPECT_EQ(s.fonts[kDiscFont].fontColor, own.fonts[kDiscFont].fontColor);
+  EXPECT_EQ(s.fonts[kTrackFont].fontColor, own.fonts[kTrackFont].fontColor);
+  std::array<Colour, 13> expected = own.customColor;
+  expected[5] = 0, expected[6] = 0x80000005, expected[7] = 255;
+  EXPECT_EQ(s.customColor, expected);
+}
+
 TEST(SettingsFiles, Orvwin4RepairsItselfOnce) {
   FakeFiles files;
   Settings s;

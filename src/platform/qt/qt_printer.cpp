@@ -12,6 +12,7 @@ namespace orvanta {
 namespace {
 
 constexpr double kTwipsPerInch = 1440;
+constexpr int kNarrowest = 8;  ///< letters between the last column and the paper's edge, so that a time has room on any paper
 
 }  // namespace
 
@@ -50,17 +51,45 @@ void QtPrinter::setFont(const std::string& family, double points, bool bold) {
 
 double QtPrinter::columnWidth() const { return QFontMetricsF(painter_.font(), printer_.get()).averageCharWidth(); }
 
+/// A text that would pass the paper's edge goes on below, in its own column.
 void QtPrinter::print(int column, const std::string& text) {
   if (!painter_.isActive()) return;
+  const double left = std::min((column - 1) * columnWidth(), painter_.viewport().width() - kNarrowest * columnWidth());
+  x_ = std::max(x_, left);
+  QString rest = toQt(text);
+  for (int fitting = lettersThatFit(rest); fitting < rest.size(); fitting = lettersThatFit(rest)) {
+    // A text that its neighbour has pushed may have room where it belongs.
+    const qsizetype blank = rest.lastIndexOf(QLatin1Char(' '), fitting);
+    const qsizetype end = blank > 0 ? blank : x_ > left ? 0 : std::max(fitting, 1);
+    printPiece(rest.left(end));
+    rest.remove(0, blank > 0 ? end + 1 : end);
+    newLine();
+    x_ = left;
+  }
+  printPiece(rest);
+}
+
+/// How many letters of the words have room from here to the paper's edge.
+int QtPrinter::lettersThatFit(const QString& words) const {
+  const QFontMetricsF metrics(painter_.font(), printer_.get());
+  const double room = painter_.viewport().width() - x_;
+  int least = 0;
+  for (int most = static_cast<int>(words.size()); least < most;) {
+    const int middle = (least + most + 1) / 2;
+    const bool fits = metrics.horizontalAdvance(words, middle) <= room;
+    (fits ? least : most) = fits ? middle : middle - 1;
+  }
+  return least;
+}
+
+void QtPrinter::printPiece(const QString& piece) {
   const QFontMetricsF metrics(painter_.font(), printer_.get());
   if (y_ + metrics.height() > painter_.viewport().height()) {
     printer_->newPage();
     y_ = 0;
   }
-  x_ = std::max(x_, (column - 1) * columnWidth());
-  const QString words = toQt(text);
-  painter_.drawText(QPointF(x_, y_ + metrics.ascent()), words);
-  x_ += metrics.horizontalAdvance(words) + columnWidth();
+  painter_.drawText(QPointF(x_, y_ + metrics.ascent()), piece);
+  x_ += metrics.horizontalAdvance(piece) + columnWidth();
 }
 
 void QtPrinter::newLine() {

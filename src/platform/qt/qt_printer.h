@@ -27,6 +27,8 @@ class QtPrinter : public Printer {
  private:
   bool begin(std::unique_ptr<QPrinter> printer);
   double columnWidth() const;
+  void printPiece(const QString& piece);
+  int lettersThatFit(const QString& words) const;
 
   CoreGate& gate_;
   std::unique_ptr<QPrinter> printer_;

@@ -321,6 +321,41 @@ TEST(DataWindow, ListsSelectInTheirOwnWays) {
   EXPECT_FALSE(rig.playlist.loaded());
 }
 
+TEST(DataWindow, WhatIsHighlightedIsWhatTheFormKnows) {
+  Windows rig;
+  rig.press(rig.core.form.Image10[1]);
+  rig.press(rig.core.form.Image10[2]);
+  rig.press(rig.playlist.Command11);
+  // By way of the window system, which knows that a button is held.
+  const auto mouse = [](QTreeWidget& view, auto act, Qt::MouseButton button, int row) {
+    act(view.window()->windowHandle(), button, view.viewport()->mapTo(view.window(), view.visualItemRect(view.topLevelItem(row)).center()));
+  };
+  const auto press = [](QWindow* to, Qt::MouseButton button, QPoint at) { QTest::mousePress(to, button, {}, at); };
+  const auto release = [](QWindow* to, Qt::MouseButton button, QPoint at) { QTest::mouseRelease(to, button, {}, at); };
+  for (forms::ListBox* list : {&rig.editor.List1, &rig.playlist.List1, &rig.playlist.List2}) {
+    auto& view = dynamic_cast<RowList&>(rig.widget<QTreeWidget>(*list));
+    const auto rows = [&](bool ofForm) {
+      std::string all;
+      for (int row = 0; row < list->count(); ++row)
+        all += (ofForm ? list->selected(row) : view.topLevelItem(row)->isSelected()) ? "x" : ".";
+      return all;
+    };
+    mouse(view, press, Qt::LeftButton, 0);
+    mouse(view, release, Qt::LeftButton, 2);
+    const std::string slid = rows(true);
+    EXPECT_NE(slid.find('x'), std::string::npos) << list->fullName() << ": let go on another row";
+    EXPECT_EQ(rows(false), slid) << list->fullName();
+    mouse(view, press, Qt::MiddleButton, 1);
+    mouse(view, release, Qt::MiddleButton, 1);
+    EXPECT_EQ(rows(true) + rows(false), slid + slid) << list->fullName() << ": no other button chooses";
+    mouse(view, press, Qt::LeftButton, 2);
+    view.onDrag();
+    EXPECT_EQ(rows(true), rows(false)) << list->fullName() << ": a drag that goes nowhere";
+    EXPECT_EQ(list->listIndex(), 2) << list->fullName();
+    mouse(view, release, Qt::LeftButton, 2);
+  }
+}
+
 struct PdfPrinter : QtPrinter {
   PdfPrinter(CoreGate& gate, QString path) : QtPrinter(gate), path_(std::move(path)) {}
   bool ask() override { return begin(path_); }
@@ -349,6 +384,7 @@ TEST(DataWindow, PrintsIntoAPdf) {
     rig.editor.userText(rig.editor.Text3, std::string(9000, 'n'));
   });
   rig.editor.List2.set(1, "2:\tWords of the second");
+  rig.editor.List2.set(2, "3:\t" + std::string(48, 'W') + " " + std::string(47, 'M') + " end");
   const QString path = QDir::temp().filePath(QStringLiteral("orvanta-print-test.pdf"));
   PdfPrinter printer(rig.gate, path);
   DiscPrint(printer, rig.editor).run(rig.core.state.disc);
@@ -361,6 +397,7 @@ TEST(DataWindow, PrintsIntoAPdf) {
   EXPECT_TRUE(words.contains(QRegularExpression(QStringLiteral("ARTIST: +The Winterlight Quartet"))));
   EXPECT_TRUE(words.contains(QRegularExpression(QStringLiteral("3 +4:25"))));
   EXPECT_TRUE(words.contains(QStringLiteral("Words of the second")));
+  EXPECT_TRUE(words.contains(QRegularExpression(QStringLiteral("W{48}\n +M{47}")))) << "below, not past the paper's edge";
   EXPECT_GT(words.count(QLatin1Char('\f')), 1) << "long notes run on to another page";
   QFile::remove(path);
 }

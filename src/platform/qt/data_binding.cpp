@@ -41,9 +41,11 @@ void Binding::typed(const QString& text) {
 }
 
 /// Presses on lists, and the right button everywhere but where a menu of the widget's own would take the release, are
-/// the form's to know.
+/// the form's to know. In a list no other button chooses anything.
 bool Binding::mouse(QEvent& event) {
-  const bool right = static_cast<QMouseEvent&>(event).button() == Qt::RightButton;
+  const Qt::MouseButton pressed = static_cast<QMouseEvent&>(event).button();
+  const bool right = pressed == Qt::RightButton;
+  if (!right && pressed != Qt::LeftButton) return tellsPresses();
   if (right ? hasOwnMenu() : !tellsPresses()) return false;
   const auto button = right ? forms::MouseButton::Right : forms::MouseButton::Left;
   road_.enter([&](Form& form) {
@@ -72,6 +74,10 @@ bool Binding::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::FocusIn: road_.enter([&](Form& form) { form.userFocus(control_); }); break;
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonRelease: used = mouse(*event); break;
+    case QEvent::MouseButtonDblClick:
+      // For the view it would be one more press, of whatever button.
+      used = tellsPresses() && static_cast<QMouseEvent*>(event)->button() != Qt::LeftButton;
+      break;
     default: break;
   }
   return used || QObject::eventFilter(watched, event);

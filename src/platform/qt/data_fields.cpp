@@ -150,14 +150,27 @@ class ListBinding : public Binding {
     watch(*view);
     watch(*view->viewport());
     QObject::connect(view, &QTreeWidget::itemClicked, this, [this] { chosen(); });
-    // The keyboard's ways; those of the mouse end with a click.
+    // The keyboard's ways; those of the mouse end with a click, or with a release on another row or none.
     QObject::connect(view, &QTreeWidget::itemSelectionChanged, this, [this] {
       if (QApplication::mouseButtons() == Qt::NoButton) chosen();
     });
     QObject::connect(view, &QTreeWidget::itemDoubleClicked, this,
                      [this] { road_.enter([this](Form& form) { form.doubleClick(&list_); }); });
-    view->onDrag = [this] { road_.enter([](Form& form) { form.mouseUp({forms::MouseButton::Left, -1, -1}); }); };
+    view->onRelease = [this] { settle(); };
+    view->onDrag = [this] {
+      settle();
+      road_.enter([](Form& form) { form.mouseUp({forms::MouseButton::Left, -1, -1}); });
+    };
     view->onMove = [this](int from, int to) { road_.enter([&](Form& form) { form.userMovedRow(list_, from, to); }); };
+  }
+
+  /// What is highlighted is what the form knows; while it has changes of its own to show, those count.
+  void settle() {
+    if (waits_ || road_.form() == nullptr) return;
+    const QTreeWidgetItem* current = view_->currentItem();
+    bool differs = current != nullptr && current->isSelected() && view_->currentIndex().row() != list_.listIndex();
+    for (int row = 0; row < view_->topLevelItemCount(); ++row) differs |= view_->topLevelItem(row)->isSelected() != list_.selected(row);
+    if (differs) chosen();
   }
 
   void chosen() {

@@ -3,6 +3,7 @@
 
 #include <QDropEvent>
 #include <QHeaderView>
+#include <QMouseEvent>
 #include <algorithm>
 
 #include "platform/qt/to_qt.h"
@@ -36,6 +37,11 @@ RowList::RowList(QWidget* parent, bool draggable) : QTreeWidget(parent) {
   if (!draggable) return;
   setDragDropMode(QAbstractItemView::InternalMove);
   setDefaultDropAction(Qt::MoveAction);
+}
+
+void RowList::mouseReleaseEvent(QMouseEvent* event) {
+  QTreeWidget::mouseReleaseEvent(event);
+  if (onRelease) onRelease();
 }
 
 void RowList::startDrag(Qt::DropActions actions) {

@@ -17,8 +17,11 @@ class RowList : public QTreeWidget {
   std::function<void(int from, int to)> onMove;
   /// A drag begins: the system keeps the release of the mouse to itself.
   std::function<void()> onDrag;
+  /// A press has ended, wherever that was, and the selection stands.
+  std::function<void()> onRelease;
 
  protected:
+  void mouseReleaseEvent(QMouseEvent* event) override;
   void startDrag(Qt::DropActions actions) override;
   void dropEvent(QDropEvent* event) override;
 };

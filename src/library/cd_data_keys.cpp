@@ -40,13 +40,13 @@ void CdData::pressed(const std::string& name) {
   } else if (name == "Command3") {
     upward_.showHelp(kHelpTopic);
   } else if (name == "Command4") {
-    on_.print.run(disc_);
+    if (takeEntries()) on_.print.run(disc_);
   } else if (name == "Command5") {
     clear();
   } else if (name == "Command6") {
     startLibrary();
   } else if (name == "Command7") {
-    on_.html.run(disc_);
+    if (takeEntries()) on_.html.run(disc_);
   } else if (name == "Command11") {
     disc_.trackLengths[101] = trim(form_.Label13.caption.get());
     upward_.openCddb();

@@ -39,6 +39,16 @@ std::string encoded(std::string_view text) {
   return bytes;
 }
 
+/// As long as file systems take it beside a suffix; no character is cut in two.
+std::string fileStem(std::string name) {
+  constexpr size_t kMost = 200;  ///< bytes
+  std::replace(name.begin(), name.end(), '/', '-');
+  if (name.size() <= kMost) return name;
+  size_t end = kMost;
+  while (end > 0 && (static_cast<unsigned char>(name[end]) & 0xC0U) == 0x80U) --end;
+  return name.substr(0, end);
+}
+
 std::string cell(const char* width, const std::string& text) {
   return "   <td width=\"" + std::string(width) + "\">" + text + "</td>" + kEnd;
 }
@@ -52,8 +62,7 @@ std::string endRow() { return std::string("</tr>") + kEnd; }
 }  // namespace
 
 void HtmlExport::run(const DiscState& disc) {
-  std::string name = form_.Text2.caption.get() + " - " + form_.Text4.caption.get() + ".htm";
-  std::replace(name.begin(), name.end(), '/', '-');
+  const std::string name = fileStem(form_.Text2.caption.get() + " - " + form_.Text4.caption.get()) + ".htm";
   const auto path =
       dialogs_.askSaveFile({"Save Orvanta CD Data As...", DataFolder(files_, settings_.appDir).discs(), name, "HTML File (*.htm)|*.htm"});
   if (!path || path->empty()) return;

@@ -37,6 +37,7 @@ TEST(CdData, ThePageOfABareDiscAndOfAFullOne) {
     rig.click(rig.window.Command7);
     return rig.files.files["/PAGES/DISC.HTM"];
   };
+  rig.dialogs.yes = true;  // what is typed for no row is left out
   const std::string bare = save();
   EXPECT_EQ(bare, kept("page_bare.htm", bare));
   for (forms::Control* control : rig.window.controls()) {
@@ -50,6 +51,14 @@ TEST(CdData, ThePageOfABareDiscAndOfAFullOne) {
   const std::string full = save();
   EXPECT_EQ(rig.dialogs.tape.back(), "save Save Orvanta CD Data As...");
   EXPECT_EQ(full, kept("page_full.htm", full));
+  rig.choose(rig.window.List1, 1);
+  rig.gate.enter([&] { rig.window.userText(rig.window.Text1, "not yet ended"); });
+  EXPECT_NE(save().find(">not yet ended<"), std::string::npos);
+  std::string wide;
+  for (int i = 0; i < 100; ++i) wide += "\xE6\x97\xA5";
+  rig.gate.enter([&] { rig.window.userText(rig.window.Text4, wide); });
+  save();
+  EXPECT_EQ(rig.dialogs.name, "AC-DC & Co > \xE6\x97\xA5 - " + wide.substr(0, 180) + ".htm") << "as long as file systems take it";
   // For scripts/page_in_browser.
   if (const char* keep = std::getenv("ORVANTA_KEEP_PAGE")) std::ofstream(keep, std::ios::binary) << full;
   rig.files.files.erase("/PAGES/DISC.HTM");
@@ -68,6 +77,9 @@ TEST(CdData, ThePrintInItsColumns) {
   // A whole number of slices ends in an empty line.
   rig.window.List2.set(0, "1:\t" + std::string(100, 'w'));
   rig.window.List2.set(2, "3:\tshort");
+  rig.dialogs.yes = true;  // what is typed for no row is left out
+  rig.choose(rig.window.List1, 1);
+  rig.gate.enter([&] { rig.window.userText(rig.window.Text1, "not yet ended"); });
   rig.click(rig.window.Command4);
   std::string tape;
   for (const std::string& act : rig.printer.tape) tape += act + "\n";

@@ -17,16 +17,20 @@
 
 namespace orvanta {
 
+class CdInfo;
 class HtmlExport;
 class LibraryUpward;
 class DiscPrint;
+class Playlist;
 
-/// Whom the window's keys reach.
+/// Whom the window's keys reach, and who shows the disc's texts beside it.
 struct CdDataParts {
   Genres& genres;
   HtmlExport& html;
   DiscPrint& print;
   Display& display;
+  Playlist& playlist;
+  CdInfo& info;
 };
 
 class CdData : public forms::FormEvents {
@@ -137,7 +141,7 @@ class CdData : public forms::FormEvents {
   Unwritten save();
   void saveFields();
   void saveTracks();
-  void updateFaceplate();
+  void showTexts();
   bool onDeck() const;
 
   // A draft of an earlier session.

@@ -2,7 +2,9 @@
 #include "base/text.h"
 #include "library/cd_data.h"
 #include "library/cd_data_fields.h"
+#include "library/cd_info.h"
 #include "library/list_text.h"
+#include "library/playlist.h"
 #include "platform/ports/screen.h"
 #include "records/disc_files.h"
 #include "state/not_written.h"
@@ -34,7 +36,7 @@ bool CdData::Command1_Click() {
   // The deck takes the texts up even when they could not be kept.
   static_cast<DiscTexts&>(state_.disc) = disc_;
   state_.disc.timeCorrection = disc_.timeCorrection;
-  if (onDeck()) updateFaceplate();
+  if (onDeck()) showTexts();
   state_.library.askOnCancel = false;
   visit_.draftLeft = false;
   close();
@@ -77,7 +79,11 @@ void CdData::savetimes() {
   disc.discInfo[kTimeList] = times;
 }
 
-/// The new texts show at once: the disc's, and that of the track on display.
-void CdData::updateFaceplate() { on_.display.showHeader(); }
+/// The new texts show at once: on the deck the disc's and that of the track on display, and in what stands open beside it.
+void CdData::showTexts() {
+  on_.display.showHeader();
+  on_.playlist.showTitles();
+  on_.info.showTexts();
+}
 
 }  // namespace orvanta

@@ -31,12 +31,20 @@ void CdInfo::open() {
 }
 
 void CdInfo::load() {
+  place();
+  dressList(form_.List1, state_.settings);
+  fill();
+}
+
+void CdInfo::fill() {
   const DiscState& disc = state_.disc;
   const std::string artist(trim(disc.discArtist));
   form_.caption = artist.empty() ? std::string("CD Info") : "CD Info  [" + artist + " - " + disc.discTitle + "]";
-  place();
-  dressList(form_.List1, state_.settings);
   fillCdInfoList(form_.List1, state_.disc, state_.library);
+}
+
+void CdInfo::showTexts() {
+  if (form_.loaded()) fill();
 }
 
 void CdInfo::place() {

@@ -19,6 +19,8 @@ class CdInfo : public forms::FormEvents {
 
   void open();
   void close() { form_.unload(); }
+  /// What is known of the disc has changed: shown anew where the window stands.
+  void showTexts();
 
   void load() override;
   void mouseUp(forms::Control* control, const forms::Mouse& mouse) override;
@@ -28,6 +30,7 @@ class CdInfo : public forms::FormEvents {
 
  private:
   void place();
+  void fill();
 
   LibraryPorts ports_;
   Engine& engine_;

@@ -24,16 +24,16 @@ struct Library {
       : genres(ports.files, ports.dialogs, state),
         html(ports.files, ports.dialogs, forms.editor, state.settings),
         print(ports.printer, forms.editor),
-        cdData(ports, {genres, html, print, playback.display}, forms.editor, faceplate, state, upward),
         playlist(ports, playback.engine, playback.modes, playback.display, forms.playlist, faceplate, state),
-        info(ports, playback.engine, playback.modes, forms.info, faceplate, state, upward) {}
+        info(ports, playback.engine, playback.modes, forms.info, faceplate, state, upward),
+        cdData(ports, {genres, html, print, playback.display, playlist, info}, forms.editor, faceplate, state, upward) {}
 
   Genres genres;
   HtmlExport html;
   DiscPrint print;
-  CdData cdData;
   Playlist playlist;
   CdInfo info;
+  CdData cdData;
 };
 
 }  // namespace orvanta

@@ -59,15 +59,24 @@ void Playlist::fill() {
   const DiscState& disc = state_.disc;
   form_.List1.clear();
   clearList();
-  for (int track = 1; track <= listedTracks(disc); ++track) {
-    const std::string title(trim(disc.trackTitles[static_cast<size_t>(track)]));
-    form_.List1.add(title.empty() ? "Track " + std::to_string(track) : title);
-  }
+  for (int track = 1; track <= listedTracks(disc); ++track) form_.List1.add(titleForList(track));
   // A program that runs is shown.
   if (state_.program.pgmIndex <= 0) return;
   for (size_t entry = 1; entry <= kProgramEntries; ++entry) {
     if (state_.program.pgmList[entry] > 0) append(state_.program.pgmList[entry]);
   }
+}
+
+std::string Playlist::titleForList(int track) const {
+  const std::string title(trim(state_.disc.trackTitles[static_cast<size_t>(track)]));
+  return title.empty() ? "Track " + std::to_string(track) : title;
+}
+
+void Playlist::showTitles() {
+  if (!form_.loaded()) return;
+  for (int row = 0; row < form_.List1.count(); ++row) form_.List1.set(row, titleForList(row + 1));
+  const std::vector<int> tracks = numbers();
+  for (size_t row = 0; row < tracks.size(); ++row) form_.List2.set(static_cast<int>(row), titleOf(tracks[row]));
 }
 
 /// A number beyond the disc's tracks shows as an empty row.

@@ -19,6 +19,8 @@ class Playlist : public forms::FormEvents {
 
   /// Nothing without tracks.
   void open();
+  /// The disc's titles have changed: shown anew where the window stands. What is listed and chosen stays.
+  void showTitles();
 
   void load() override;
   void mouseUp(forms::Control* control, const forms::Mouse& mouse) override;
@@ -45,6 +47,7 @@ class Playlist : public forms::FormEvents {
   void stopPreview();
   std::vector<int> numbers() const;
   std::string titleOf(int track) const { return form_.List1.row(track - 1); }
+  std::string titleForList(int track) const;
   void append(int track);
   DiscFiles discFiles() const;
 

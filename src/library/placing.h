@@ -12,6 +12,8 @@ namespace orvanta {
 
 enum class Side { Above, Below, Left, Right };
 
+inline constexpr int kTitleBar = 480;  ///< twips that the window manager adds above a window, as a rule
+
 inline int64_t overlap(const forms::Place& a, const forms::Place& b) {
   const int64_t across = std::min(a.left + a.width, b.left + b.width) - std::max(a.left, b.left);
   const int64_t down = std::min(a.top + a.height, b.top + b.height) - std::max(a.top, b.top);
@@ -34,7 +36,7 @@ inline forms::Place besideDeck(forms::Place window, const forms::Place& deck, co
   for (const Side side : sides) {
     window.left = deck.left + (deck.width - window.width) / 2;
     window.top = deck.top + (deck.height - window.height) / 2;
-    if (side == Side::Above) window.top = deck.top - window.height;
+    if (side == Side::Above) window.top = deck.top - window.height - kTitleBar;
     if (side == Side::Below) window.top = deck.top + deck.height;
     if (side == Side::Left) window.left = deck.left - window.width;
     if (side == Side::Right) window.left = deck.left + deck.width;

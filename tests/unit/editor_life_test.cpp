@@ -127,7 +127,7 @@ TEST(EditorLife, WindowsOpenBesideTheDeckOnTheScreen) {
     std::string data, info;        ///< their places: CD Info's is the corner below the deck, where there is height for it
   } cases[] = {
       {1600, 1000, 6000, 600, "4927,4094", "17550,4114 10906"},
-      {1600, 1000, 6000, 11000, "4927,2000", "7552,8500 2500"},
+      {1600, 1000, 6000, 11000, "4927,1520", "7552,8020 2500"},
       {800, 600, 2000, 2000, "300,0", "5550,5514 3506"},
       {2560, 800, 0, 3000, "9554,247", "31950,6514 5506"},
       // As much is covered above as below; the transport keys are below.

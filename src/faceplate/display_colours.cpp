@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "base/colour.h"
+#include "base/log.h"
 #include "base/text.h"
 #include "faceplate/layout.h"
 #include "platform/forms/design.h"
@@ -47,9 +48,12 @@ void chooseFont(forms::Label& label, const FontGroup& group) {
   label.font = font;
 }
 
-std::string backgroundPicture(const Files& files, const Settings& settings) {
+std::string backgroundPicture(const Files& files, const Screen& screen, const Settings& settings) {
   const std::string& picture = settings.faceplateBitmap;
-  return settings.faceplateBitmapOn > 0 && !picture.empty() && files.exists(picture) ? picture : std::string();
+  if (settings.faceplateBitmapOn <= 0 || picture.empty() || !files.exists(picture)) return {};
+  if (screen.pictureSize(picture).width > 0) return picture;
+  logLine("faceplate", picture + " is no picture that can be read");
+  return {};
 }
 
 bool lcdFont(const Screen& screen, const Settings& settings) { return screen.hasFont(forms::kLcdFont) && settings.noLcdFont != 1; }
@@ -159,7 +163,9 @@ void DisplayColours::titleFonts() {
 void DisplayColours::background() {
   Settings& settings = state_.settings;
   layout_.border();
-  form_.Image8.picture = backgroundPicture(files_, settings);
+  form_.Image8.picture = backgroundPicture(files_, screen_, settings);
+  // It may be another one under the same name.
+  form_.Image8.pictureReading = form_.Image8.pictureReading + 1;
   if (form_.Image8.picture.get().empty()) return;
   settings.customColor[kCustomMetal] = 0;
   if (settings.faceplateBorder != 1) form_.Label41.foreColor = kModelOnPicture;

@@ -31,8 +31,8 @@ void paintLevelBars(CDForm& form, const Settings& settings);
 void chooseFont(forms::Label& label, const FontGroup& group);
 /// A legend has the colour of its design, and black on a ground that this one cannot be read on.
 void paintLegend(forms::Control& label, Colour ground);
-/// The user's own picture behind a window; "" for none.
-std::string backgroundPicture(const Files& files, const Settings& settings);
+/// The user's own picture behind a window; "" for none, and for a file that is no picture.
+std::string backgroundPicture(const Files& files, const Screen& screen, const Settings& settings);
 
 class DisplayColours {
  public:

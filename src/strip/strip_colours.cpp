@@ -83,7 +83,7 @@ void StripColours::body() {
     form_.SSPanel3.backColor = colour[kCustomKeypad];
   }
   form_.SSPanel3.empty = state_.settings.showLights == 0;
-  form_.Image10.picture = backgroundPicture(files_, state_.settings);
+  form_.Image10.picture = backgroundPicture(files_, screen_, state_.settings);
   for (auto* legend : {&form_.Label10, &form_.Label1}) {
     legend->backColor = form_.SSPanel2.backColor.get();
     paintLegend(*legend, form_.SSPanel2.backColor);

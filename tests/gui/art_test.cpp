@@ -3,7 +3,9 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QBuffer>
 #include <QDropEvent>
+#include <QFile>
 #include <QMimeData>
 #include <QPointer>
 #include <QTemporaryDir>
@@ -15,6 +17,7 @@
 
 #include "platform/forms/design.h"
 #include "platform/qt/art_tools.h"
+#include "platform/qt/picture_file.h"
 #include "platform/qt/text_lines.h"
 #include "shell/about.h"
 #include "shell/upward.h"
@@ -141,6 +144,42 @@ TEST(Skins, ARoundKeyStaysRound) {
   const QImage skinned = deck.picture();
   EXPECT_EQ(skinned.pixelColor(key.center()), QColor(Qt::magenta));
   EXPECT_LT(std::abs(skinned.pixelColor(key.topLeft()).red() - corner.red()), 40) << "the metal shows at the corners";
+}
+
+/// A photo as a camera writes it: it says of itself that it is to be turned to the right.
+QByteArray sidewaysPhoto(const QSize& size) {
+  QImage photo(size, QImage::Format_RGB32);
+  photo.fill(Qt::magenta);
+  QByteArray bytes;
+  QBuffer buffer(&bytes);
+  buffer.open(QIODevice::WriteOnly);
+  photo.save(&buffer, "JPG");
+  static const QByteArray kTurned = QByteArray::fromHex(
+      "ffe10022457869660000"
+      "4d4d002a00000008"
+      "0001"
+      "0112000300000001"
+      "00060000"
+      "00000000");
+  return bytes.insert(2, kTurned);
+}
+
+TEST(Pictures, APhotoComesUprightAndNoLargerThanItIsNeeded) {
+  const QTemporaryDir folder;
+  const auto put = [&](const char* name, const QByteArray& bytes) {
+    QFile file(folder.filePath(QLatin1String(name)));
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+    return file.fileName().toStdString();
+  };
+  const std::string large = put("large.jpg", sidewaysPhoto({7000, 5000}));
+  EXPECT_EQ(pictureExtent(large), QSize(5000, 7000));
+  EXPECT_EQ(readPicture(large, {600, 220}).size(), QSize(1200, 440));
+  EXPECT_GT(readPicture(large, {600, 220}).pixelColor(50, 50).red(), 250) << "more than Qt takes by itself";
+  EXPECT_EQ(readPicture(put("small.jpg", sidewaysPhoto({40, 20})), {600, 220}).size(), QSize(20, 40));
+  for (const std::string& none : {put("empty.png", {}), put("text.png", "words"), folder.path().toStdString(), std::string()}) {
+    EXPECT_EQ(pictureExtent(none), QSize(0, 0)) << none;
+    EXPECT_TRUE(readPicture(none, {600, 220}).isNull()) << none;
+  }
 }
 
 /// A window of other names: a key with its mask and light, a slider with its percent, a pane of glass.

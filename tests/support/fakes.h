@@ -182,7 +182,9 @@ class FakeScreen : public Screen {
   int textWidthTwips(const std::string& text, const std::string& /*family*/, double points, bool /*bold*/) const override {
     return static_cast<int>(static_cast<double>(text.size()) * points * 10);
   }
-  PictureSize pictureSize(const std::string& /*path*/) const override { return picture; }
+  PictureSize pictureSize(const std::string& path) const override {
+    return path.empty() || noPictures.contains(path) ? PictureSize{} : picture;
+  }
   std::vector<WorkArea> workAreas() const override {
     return areas.empty() ? std::vector<WorkArea>{{"", {0, 0, widthTwips(), heightTwips()}}} : areas;
   }
@@ -194,7 +196,8 @@ class FakeScreen : public Screen {
   int bits = 24;
   std::set<std::string> missing;
   std::vector<WorkArea> areas;  ///< none: the whole screen
-  PictureSize picture;          ///< of every picture file
+  PictureSize picture{15, 15};  ///< of every picture file
+  std::set<std::string> noPictures;
   Pointer pointer = Pointer::Normal;
 };
 

@@ -51,6 +51,7 @@ const std::map<std::string, Preparation> kPreparations = {
        rig.settings.faceplateBitmapOn = 1;
        rig.files.files[upper(w.value)] = "x";
      }},
+    {"no-picture", [](PlayRig& rig, const Word& w) { rig.screen.noPictures = {w.value}; }},
     {"paper",
      [](PlayRig& rig, const Word& w) {
        rig.settings.wallpaperFile = w.list().at(0);

@@ -148,7 +148,8 @@ class Image : public Simple<Kind::Image> {
  public:
   using Simple::Simple;
   void resetOwn() override { picture = std::string(); }
-  Property<std::string> picture{*this, Change::Look};  ///< a picture file of the user's in place of the drawing; "" for none
+  Property<std::string> picture{*this, Change::Look};    ///< a picture file of the user's in place of the drawing; "" for none
+  Property<int> pictureReading{*this, Change::Look, 0};  ///< another number has the file read anew
 };
 
 /// A panel with two bevels: 0 none, 1 inset, 2 raised.

@@ -64,7 +64,8 @@ std::string surfaceKey(const forms::Control& control) {
                     std::to_string(control.form().backColor);
   if (const auto* panel = dynamic_cast<const forms::Panel*>(&control))
     key += ' ' + std::to_string(panel->bevelInner) + (panel->empty ? " empty" : "");
-  if (const auto* image = dynamic_cast<const forms::Image*>(&control)) key += ' ' + image->picture.get();
+  if (const auto* image = dynamic_cast<const forms::Image*>(&control))
+    key += ' ' + std::to_string(image->pictureReading) + ' ' + image->picture.get();
   if (const auto* source = control.with(forms::Role::Colour)) key += ' ' + std::to_string(source->backColor);
   // The panes' joint shows only where no line covers it.
   const forms::Control* joint = control.with(forms::Role::Joint);

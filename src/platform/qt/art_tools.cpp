@@ -76,9 +76,11 @@ void blur(QImage& mask, double sigma) {
 bool ownPicture(Art& art, bool round) {
   const auto* image = dynamic_cast<const forms::Image*>(&art.control);
   if (image == nullptr || image->picture.get().empty()) return false;
-  const std::string key = "file " + image->picture.get();
+  const QSize target = (QSizeF(art.w, art.h) * art.factor).toSize();
+  const std::string key = "file " + std::to_string(target.width()) + ' ' + std::to_string(target.height()) + ' ' +
+                          std::to_string(image->pictureReading) + ' ' + image->picture.get();
   const QImage* picture = art.cache.find(key);
-  if (picture == nullptr) picture = &art.cache.keep(key, QImage(pictureFile(image->picture)));
+  if (picture == nullptr) picture = &art.cache.keep(key, readPicture(image->picture, target));
   if (picture->isNull()) return false;
   art.painter.setRenderHint(QPainter::SmoothPixmapTransform);
   const QRectF area(0, 0, art.w, art.h);

@@ -1,16 +1,16 @@
-// A picture of the user's.
+// Pictures of the user's.
 #pragma once
 
-#include <QFileInfo>
-#include <QString>
+#include <QImage>
+#include <QSize>
 #include <string>
 
 namespace orvanta {
 
-/// Its path for Qt's readers; "" for what is no plain file: a pipe would be waited for.
-inline QString pictureFile(const std::string& path) {
-  const QString name = QString::fromStdString(path);
-  return QFileInfo(name).isFile() ? name : QString();
-}
+/// Pixels of a picture file as it is to be seen; 0 x 0 for what is none.
+QSize pictureExtent(const std::string& path);
+/// A picture for a place of `target` pixels: a far larger one comes in a size that is enough to draw it well. Null for
+/// what cannot be read. From any thread.
+QImage readPicture(const std::string& path, const QSize& target);
 
 }  // namespace orvanta

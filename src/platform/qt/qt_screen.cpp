@@ -3,7 +3,6 @@
 
 #include <QCursor>
 #include <QGuiApplication>
-#include <QImageReader>
 #include <QScreen>
 #include <algorithm>
 #include <cmath>
@@ -42,8 +41,8 @@ int QtScreen::textWidthTwips(const std::string& text, const std::string& family,
 }
 
 PictureSize QtScreen::pictureSize(const std::string& path) const {
-  const QSize size = QImageReader(pictureFile(path)).size();
-  return size.isValid() ? PictureSize{scale_.twips(size.width()), scale_.twips(size.height())} : PictureSize{};
+  const QSize size = pictureExtent(path);
+  return {scale_.twips(size.width()), scale_.twips(size.height())};
 }
 
 std::vector<WorkArea> QtScreen::workAreas() const {

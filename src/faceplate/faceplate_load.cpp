@@ -42,7 +42,8 @@ FaceplateLoad::FaceplateLoad(const FaceplatePorts& ports, Playback& playback, Di
       volume_(volume),
       sounds_(sounds),
       form_(form),
-      state_(state) {}
+      state_(state),
+      mixerStart_(ports.clock.makeTimer([this] { startMixer(); })) {}
 
 void FaceplateLoad::load() {
   if (state_.process.commandWord == "RUNRIPPER") form_.minimised = true;
@@ -69,7 +70,7 @@ void FaceplateLoad::load() {
   if (disc && leadingNumber(state_.process.commandWord) > 0) {
     playTrackOfCommandLine();
   } else if (state_.settings.appOptions[kMixerAtStart] == 1) {
-    sounds_.runMixerAtStart();
+    mixerStart_->setInterval(1);
   }
   playback_.start();
   marker.stays();
@@ -84,6 +85,11 @@ void FaceplateLoad::playTrackOfCommandLine() {
   playback_.load.deferredTable();
   state_.transport.selTrack = static_cast<int16_t>(track - 1);
   playback_.engine.jump();
+}
+
+void FaceplateLoad::startMixer() {
+  mixerStart_->setInterval(0);
+  sounds_.runMixerAtStart();
 }
 
 void FaceplateLoad::setPlayState() {
@@ -105,6 +111,7 @@ void FaceplateLoad::activate() {
 }
 
 void FaceplateLoad::unload() {
+  mixerStart_->setInterval(0);
   keepModes(files_, state_.settings);
   state_.disc.trackTableDone = false;
   DataFolder(files_, state_.settings.appDir).unmark(DataFile::Running);

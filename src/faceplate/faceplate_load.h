@@ -1,11 +1,14 @@
 // The faceplate's load order, and what its activation and unload do.
 #pragma once
 
+#include <memory>
+
 #include "faceplate/display_colours.h"
 #include "faceplate/interface_sounds.h"
 #include "faceplate/layout.h"
 #include "faceplate/ports.h"
 #include "faceplate/volume.h"
+#include "platform/ports/clock.h"
 #include "playback/playback.h"
 
 namespace orvanta {
@@ -23,6 +26,7 @@ class FaceplateLoad {
 
  private:
   void setPlayState();
+  void startMixer();
 
   CdDevice& device_;
   Files& files_;
@@ -33,6 +37,7 @@ class FaceplateLoad {
   InterfaceSounds& sounds_;
   CDForm& form_;
   SharedState& state_;
+  std::unique_ptr<Timer> mixerStart_;  ///< once the deck is seen: what it has to say stands before the deck
 };
 
 }  // namespace orvanta

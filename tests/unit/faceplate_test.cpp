@@ -140,6 +140,16 @@ TEST(Colours, LegendsCanBeReadOnAnyGround) {
   EXPECT_EQ(contrast(0x123456, 0x123456), 1);
 }
 
+TEST(Mixer, ThatIsNotThereIsToldOverTheDeckThatStands) {
+  CoreRig rig;
+  rig.settings.appOptions[kMixerAtStart] = 1;
+  rig.install();
+  rig.start();
+  EXPECT_EQ(rig.dialogs.tape, Tape{});
+  rig.clock.advance(1000);
+  EXPECT_EQ(rig.dialogs.tape.size(), 1U) << "once";
+}
+
 TEST(Mixer, IsPreparedWhenTheSetupTurnsToIt) {
   Hands rig;
   EXPECT_EQ(rig.mixer.tape, Tape{});

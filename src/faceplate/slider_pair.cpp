@@ -5,6 +5,7 @@
 #include <cmath>
 #include <cstdlib>
 #include <string>
+#include <utility>
 
 #include "base/text.h"
 #include "platform/forms/form.h"
@@ -86,9 +87,11 @@ bool SliderPair::mouseUp(const forms::Control& part) {
 bool SliderPair::step(const forms::Control& part, int steps) {
   const auto side = sideOf(part);
   if (!side || state_.settings.soundMode == kNoSliders) return side.has_value();
-  state_.volume.volDrag = kArea;
+  // A thumb that is held meanwhile stays in the hand.
+  auto& drag = state_.volume.volDrag;
+  const auto held = std::exchange(drag, kArea);
   const bool moved = moveTo(*side, sliders_[*side].thumb.top + kAreaGrip - steps * kStep);
-  state_.volume.volDrag = kNoDrag;
+  if (drag == kArea) drag = held;
   if (moved) tell(*side);
   return true;
 }

@@ -17,8 +17,9 @@ namespace {
 constexpr int kSteps = 64;  ///< faces are kept to a 64th of a pixel
 constexpr double kFirstSize = 12;
 
-std::future<void>& warming() {
-  static std::future<void> future;
+/// Waited for by each thread that draws.
+std::shared_future<void>& warming() {
+  static std::shared_future<void> future;
   return future;
 }
 
@@ -27,7 +28,7 @@ std::future<void>& warming() {
 void Fonts::warmUp() {
   // Qt brings fontconfig with it, or does without.
   void* init = dlsym(RTLD_DEFAULT, "FcInit");
-  if (init != nullptr) warming() = std::async(std::launch::async, [init] { reinterpret_cast<int (*)()>(init)(); });
+  if (init != nullptr) warming() = std::async(std::launch::async, [init] { reinterpret_cast<int (*)()>(init)(); }).share();
 }
 
 QString Fonts::embedded(const std::string& family, bool bold) {

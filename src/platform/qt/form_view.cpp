@@ -285,7 +285,9 @@ void FormWindow::paintEvent(QPaintEvent* event) {
   }
   painter.fillRect(event->rect(),
                    QColor(static_cast<int>(back & 0xFFU), static_cast<int>(back >> 8U & 0xFFU), static_cast<int>(back >> 16U & 0xFFU)));
-  if (form_.traits().bodyless) windowIcon().paint(&painter, rect());
+  if (!form_.traits().bodyless) return;
+  giveWindowIcon();
+  windowIcon().paint(&painter, rect());
 }
 
 /// All that a first paint will find kept, on as many threads as there are: half of the time that a picture takes.

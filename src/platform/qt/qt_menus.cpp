@@ -119,7 +119,7 @@ std::string QtMenus::popUp(const MenuItem& item, bool byKey) {
   menu.winId();
   if (window != nullptr && menu.windowHandle() != nullptr) menu.windowHandle()->setTransientParent(window->windowHandle());
   DoubleClick click;
-  menu.installEventFilter(&click);
+  if (!byKey) menu.installEventFilter(&click);
   if (byKey) QTimer::singleShot(0, &menu, [&menu] { markFirst(menu); });
   const QAction* chosen = menu.exec(placeOver(window, byKey));
   gate_.leaveIfEnded();

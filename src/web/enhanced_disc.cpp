@@ -123,7 +123,7 @@ void EnhancedDisc::tellUnread() {
   constexpr size_t kShown = 5;  // names
   const std::vector<std::string> ways = ports_.discData.takeUnread();
   if (ways.empty()) return;
-  std::string message = "Not all of the disc could be read. Its programs may miss:\n";
+  std::string message = "Not all of the disc could be copied. Its programs may miss:\n";
   for (size_t i = 0; i < ways.size() && i < kShown; ++i) message += '\n' + shownName(ways[i]);
   if (ways.size() > kShown) message += "\nand " + std::to_string(ways.size() - kShown) + " more";
   ports_.dialogs.message(BoxStyle::Warning, kTitle, message);

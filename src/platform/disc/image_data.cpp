@@ -63,7 +63,8 @@ std::vector<std::string> ImageData::rootFiles() {
 }
 
 const IsoFile* ImageData::found(const std::string& way) const {
-  const auto file = std::find_if(files_.begin(), files_.end(), [&](const IsoFile& each) { return sameName(each.way, way); });
+  const auto file =
+      std::find_if(files_.begin(), files_.end(), [&](const IsoFile& each) { return !each.way.ends_with('/') && sameName(each.way, way); });
   return file == files_.end() ? nullptr : &*file;
 }
 

@@ -2,6 +2,8 @@
 #include "platform/qt/icons.h"
 
 #include <QApplication>
+#include <QIcon>
+#include <QPixmap>
 #include <QResource>
 #include <QString>
 

@@ -25,8 +25,10 @@ constexpr const char* kUsual[] = {"program.exe", "run.exe", "play.exe", "start.e
 
 /// Marks that turn letters round, in UTF-8, by their first and last: Arabic's own; two of direction; embeddings and overrides
 /// with the two separators before them; isolates.
+// NOLINTBEGIN(misc-misleading-bidirectional)
 constexpr std::pair<std::string_view, std::string_view> kTurning[] = {
     {"\xD8\x9C", "\xD8\x9C"}, {"\xE2\x80\x8E", "\xE2\x80\x8F"}, {"\xE2\x80\xA8", "\xE2\x80\xAE"}, {"\xE2\x81\xA6", "\xE2\x81\xA9"}};
+// NOLINTEND(misc-misleading-bidirectional)
 
 bool turns(std::string_view character) {
   return std::any_of(std::begin(kTurning), std::end(kTurning), [&](const auto& range) {

@@ -181,10 +181,11 @@ forms::Control* FormWindow::hit(const QPoint& place, const forms::Control* withi
     const bool here = widget != nullptr && widget->isVisible() && widget->controlRect().contains(widget->mapFrom(this, place));
     if (here) over.push_back(control);
   }
-  std::stable_sort(over.begin(), over.end(), [](const forms::Control* a, const forms::Control* b) { return a->z < b->z; });
-  for (auto control = over.rbegin(); control != over.rend(); ++control) {
-    if (forms::Control* inside = hit(place, *control)) return inside;
-    if (!(*control)->passesMouse) return *control;
+  std::reverse(over.begin(), over.end());
+  std::stable_sort(over.begin(), over.end(), [](const forms::Control* a, const forms::Control* b) { return a->z > b->z; });
+  for (forms::Control* control : over) {
+    if (forms::Control* inside = hit(place, control)) return inside;
+    if (!control->passesMouse) return control;
   }
   return nullptr;
 }

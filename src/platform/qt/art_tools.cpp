@@ -179,8 +179,8 @@ bool legible(const QColor& colour, const QColor& ground) {
 }  // namespace
 
 QColor readable(const QColor& colour, const QColor& ground) {
-  for (double part = 0; part < 1; part += .1) {
-    const QColor shade = mix(colour, Qt::black, part);
+  for (int tenths = 0; tenths < 10; ++tenths) {
+    const QColor shade = mix(colour, Qt::black, tenths * .1);
     if (legible(shade, ground)) return shade;
   }
   return Qt::black;

@@ -142,6 +142,14 @@ TEST(DeskWindows, TheStripHasTheKeyboardAgainWhenWhatStoodOverItGoes) {
     QApplication::processEvents();
     EXPECT_TRUE(strip->isActiveWindow());
   }
+  // Of several the one that had it last.
+  desk.run(Action::Playlist);
+  desk.run(Action::TrackList);
+  desk.leave(desk.core.infoForm);
+  ASSERT_NE(QApplication::activeWindow(), nullptr);
+  EXPECT_EQ(QApplication::activeWindow()->windowTitle().toStdString(), desk.core.playlistForm.caption.get());
+  desk.leave(desk.core.playlistForm);
+  EXPECT_TRUE(strip->isActiveWindow());
   // A window that goes without having it gives it to nobody.
   for (QWidget& user : {std::ref<QWidget>(*strip), std::ref<QWidget>(other)}) {
     desk.run(Action::TrackList);

@@ -127,6 +127,7 @@ TEST(ImageData, LeavesOutWhatCannotBeRead) {
   EXPECT_EQ(fs::path(data.bring(name)).filename(), name);
   EXPECT_EQ(data.bring("B"), "");
   EXPECT_EQ(data.takeUnread(), (std::vector<std::string>{"B", "C/"}));
+  EXPECT_EQ(data.find("C/"), "") << "a folder is no program";
   EXPECT_FALSE(fs::exists(data.folder() + "/B"));
   EXPECT_TRUE(data.takeUnread().empty()) << "told once";
   ImageData cut([&] { return sheet; }, folder / "other", [] {});
